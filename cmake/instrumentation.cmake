@@ -1,0 +1,12 @@
+# Sanitizers and coverage, chosen by the presets.
+set(KZM_SANITIZE "" CACHE STRING "Sanitizers for the whole build, such as address,undefined or thread")
+option(KZM_COVERAGE "Count which lines the tests reach" OFF)
+
+if(KZM_SANITIZE)
+  add_compile_options(-fsanitize=${KZM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${KZM_SANITIZE})
+endif()
+if(KZM_COVERAGE)
+  add_compile_options(--coverage -O0)
+  add_link_options(--coverage)
+endif()

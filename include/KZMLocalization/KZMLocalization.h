@@ -1,0 +1,52 @@
+// Texts in the user's language, from the string tables of a resource bundle.
+//
+// This library stands for the localization part of the product it is built into: another one may take its place, as
+// long as it offers KZMLocalizedStringFromTableInBundle.
+//
+// Every function may be called from any thread at any time.
+#ifndef KZMLOCALIZATION_H
+#define KZMLOCALIZATION_H
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include <KZMUtilities/export.h>
+
+namespace kzm {
+
+/// One text of a string table.
+struct LocalizedText {
+  std::string_view key;
+  std::string_view text;
+};
+
+/// The texts of one table in one language, sorted by key.
+struct StringTable {
+  std::string_view language;  // as its folder is named: "fr", "pt-BR", "zh-Hant"
+  std::string_view name;      // "KZMUtilities"
+  std::span<const LocalizedText> texts;
+};
+
+/// The string tables that a library brings along. Bundles are constants: they and all that they name live for ever.
+struct ResourceBundle {
+  std::string_view identifier;
+  std::string_view developmentLanguage;
+  std::span<const StringTable> tables;
+};
+
+}  // namespace kzm
+
+/// The text for `key` in the best language for the user that the bundle has; keys that this language lacks come from
+/// the development language. An unknown key, table or null bundle gives the template that the key ends in: the key
+/// without its "Units.<family>." prefix. The comment is a hint for translators and has no effect; it may be null.
+[[nodiscard]] KZM_EXPORT std::string KZMLocalizedStringFromTableInBundle(std::string_view key, std::string_view table,
+                                                                         const kzm::ResourceBundle* bundle,
+                                                                         const char* comment);
+
+/// Chooses the languages in which texts are wanted, best first, as locale identifiers ("de_CH", "sr_Latn", "fr").
+/// Without it they come from the environment: LANGUAGE, LC_ALL, LC_MESSAGES, LANG. Meant for start-up: a text that was
+/// looked up before stays in its language wherever it was kept.
+KZM_EXPORT void KZMLocalizationSetLanguages(std::span<const std::string> identifiers);
+
+#endif

@@ -1,0 +1,32 @@
+// The user's settings, by dotted key path.
+//
+// This library stands for the settings part of the product it is built into: another one may take its place, as long as
+// it offers KZMSettingsObjectForKeyPath. The settings are kept in one JSON file, KZMUtilities/settings.json under the
+// user's configuration directory (XDG_CONFIG_HOME, else ~/.config). A missing, broken or unreadable file means that
+// there are no settings; a broken or unreadable one is told in one line of the log.
+//
+// Every function may be called from any thread at any time. A read takes no lock.
+#ifndef KZMSETTINGS_H
+#define KZMSETTINGS_H
+
+#include <string_view>
+
+#include <KZMUtilities/dictionary.h>
+#include <KZMUtilities/export.h>
+
+/// The setting at the key path, such as "Weather.Global.Units.Pressure"; null when there is none.
+/// A change made in this process is seen by the very next read, one made by another process within a second.
+[[nodiscard]] KZM_EXPORT kzm::Value KZMSettingsObjectForKeyPath(std::string_view keyPath);
+
+/// Stores the setting at the key path; a null object removes it. The file is replaced as a whole or not at all.
+/// Returns false, and leaves every setting as it was, when the object holds something that JSON cannot (an opaque
+/// object, a number that is not finite), when the stored file is broken, or when the file cannot be written.
+[[nodiscard]] KZM_EXPORT bool KZMSettingsSetObjectForKeyPath(const kzm::Value& object, std::string_view keyPath);
+
+/// All settings, key path to value.
+[[nodiscard]] KZM_EXPORT kzm::Dictionary KZMSettingsObjects();
+
+/// From now on the settings are exactly these, held in memory: the stored ones are neither read nor written any more.
+KZM_EXPORT void KZMSettingsUseObjects(kzm::Dictionary objects);
+
+#endif

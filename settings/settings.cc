@@ -1,0 +1,3 @@
+#include <KZMSettings/KZMSettings.h>
+
+kzm::Value KZMSettingsObjectForKeyPath(std::string_view) { return nullptr; }

@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include <KZMUtilities/attributed_string.h>
+
+namespace kzm {
+namespace {
+
+using Run = AttributedString::Run;
+using Runs = std::vector<Run>;
+
+AttributedString sample() {
+  AttributedString text("11.4", "bold");
+  text.append(AttributedString(" Mb/s", "grey"));
+  return text;
+}
+
+TEST(AttributedString, ReplacesRangesAndKeepsTheRest) {
+  constexpr std::size_t kEnd = std::numeric_limits<std::size_t>::max();
+  struct Case {
+    const char* why;
+    std::size_t position;
+    std::size_t length;
+    AttributedString replacement;
+    Runs runs;
+  };
+  const Case cases[] = {
+      {"inside one run",
+       2,                                                              1,
+       AttributedString(","),
+       {{"11", "bold"}, {",", nullptr}, {"4", "bold"}, {" Mb/s", "grey"}}                                                                                                                  },
+      {"across two runs",                      2,                      4,      AttributedString("x",              "red"),                                                                    {{"11", "bold"}, {"x", "red"}, {"b/s", "grey"}}},
+      {"equal neighbours are one",                                      4,                                   1,   AttributedString("!", "bold"),                                                    {{"11.4!", "bold"}, {"Mb/s", "grey"}}},
+      {"an insertion", 0,                       0,                AttributedString("~",                                                "grey"),                                               {{"~", "grey"}, {"11.4", "bold"}, {" Mb/s", "grey"}}},
+      {"a deletion",                               0, 5,       AttributedString(),{{"Mb/s", "grey"}}},
+      {"cut at the end",                    4,                        kEnd,                        AttributedString("."),                                                             {{"11.4", "bold"}, {".", nullptr}}                                                                                                                                        },
+      {"beyond the end",                 99,     1,AttributedString("?","grey"),{{"11.4", "bold"}, {" Mb/s?", "grey"}}},
+      {"everything",                  0,                                 kEnd,              AttributedString(),                                                                                                      {}                                                                                                                                                                                                                                                                                                           },
+  };
+  for (const Case& c : cases) {
+    AttributedString text = sample();
+    text.replace(c.position, c.length, c.replacement);
+    EXPECT_EQ(text.runs(), c.runs) << c.why;
+  }
+}
+
+TEST(AttributedString, NeverSplitsACharacter) {
+  AttributedString text("a°b", "bold");
+  text.replace(2, 0, AttributedString("-"));  // between the two bytes of the degree sign
+  EXPECT_EQ(text.text(), "a-b") << "the range grows to the whole character";
+}
+
+TEST(AttributedString, ReplacesTheFirstOccurrenceOnly) {
+  AttributedString text("%@ of %@", "grey");
+  EXPECT_TRUE(text.replaceFirst("%@", AttributedString("3", "bold")));
+  EXPECT_EQ(text.runs(), (Runs{
+                             {"3",      "bold"},
+                             {" of %@", "grey"}
+  }));
+  EXPECT_FALSE(text.replaceFirst("OF", AttributedString("x"))) << "the search is case-sensitive";
+  EXPECT_FALSE(text.replaceFirst("", AttributedString("x"))) << "an empty target is not found";
+}
+
+TEST(AttributedString, AppendsItself) {
+  AttributedString text = sample();
+  text.append(text);
+  EXPECT_EQ(text.text(), "11.4 Mb/s11.4 Mb/s");
+}
+
+TEST(AttributedString, AnEmptySetIsStillASet) {
+  AttributedString text("a", Dictionary{});
+  text.append(AttributedString("b"));
+  EXPECT_EQ(text.runs(), (Runs{
+                             {"a", Dictionary{}},
+                             {"b", nullptr     }
+  }));
+}
+
+}  // namespace
+}  // namespace kzm
