@@ -1,0 +1,151 @@
+#include "port/environment_locale.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <unicode/locid.h>
+#include <unicode/ures.h>
+
+namespace kzm::port {
+namespace {
+
+// POSIX modifiers that say something which an identifier can carry; "@euro" and its like are history.
+struct Modifier {
+  std::string_view name;
+  std::string_view script;
+  std::string_view variant;
+};
+constexpr Modifier kModifiers[] = {
+    {"latin",      "Latn", ""        },
+    {"cyrillic",   "Cyrl", ""        },
+    {"devanagari", "Deva", ""        },
+    {"valencia",   "",     "VALENCIA"},
+};
+
+constexpr std::size_t kMaximumLength = ULOC_FULLNAME_CAPACITY - 1;
+constexpr std::size_t kMaximumSubtag = 8;
+
+constexpr bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool isAlphanumeric(char c) { return isLetter(c) || (c >= '0' && c <= '9'); }
+constexpr bool isSeparator(char c) { return c == '_' || c == '-'; }
+constexpr bool isKeywordCharacter(char c) {
+  return isAlphanumeric(c) || std::string_view("=;_-+/").find(c) != std::string_view::npos;
+}
+
+/// A language of two or three letters, then subtags of letters and digits, each behind a separator.
+bool isWellFormed(std::string_view head) {
+  const auto language = static_cast<std::size_t>(std::ranges::find_if_not(head, isLetter) - head.begin());
+  if (language != 2 && language != 3) return false;
+  std::size_t subtag = 0;
+  for (const char c : head.substr(language)) {
+    if (isSeparator(c)) {
+      subtag = 0;
+    } else if (!isAlphanumeric(c) || ++subtag > kMaximumSubtag) {
+      return false;
+    }
+  }
+  return head.size() == language || isSeparator(head[language]);
+}
+
+std::string joined(std::string_view language, std::string_view script, std::string_view region,
+                   std::string_view variant) {
+  std::string identifier(language);
+  if (!script.empty()) identifier.append("_").append(script);
+  // A variant behind no region leaves the region's place empty: "ca__VALENCIA".
+  if (!region.empty() || !variant.empty()) identifier.append("_").append(region);
+  if (!variant.empty()) identifier.append("_").append(variant);
+  return identifier;
+}
+
+std::string withModifier(const icu::Locale& locale, std::string_view name) {
+  const auto* modifier = std::ranges::find(kModifiers, name, &Modifier::name);
+  if (modifier == std::end(kModifiers)) return locale.getName();
+  return joined(locale.getLanguage(), modifier->script.empty() ? locale.getScript() : modifier->script,
+                locale.getCountry(), modifier->variant.empty() ? locale.getVariant() : modifier->variant);
+}
+
+icu::Locale canonical(const std::string& name) { return icu::Locale::createCanonical(name.c_str()); }
+
+std::string canonicalName(const std::string& name) {
+  const icu::Locale locale = canonical(name);
+  return locale.isBogus() ? std::string() : locale.getName();
+}
+
+bool isLanguageKnown(const std::string& identifier) {
+  UErrorCode status = U_ZERO_ERROR;
+  // Opened without any fallback: with it, every name would be found, in the data of the process's own locale.
+  UResourceBundle* data = ures_openDirect(nullptr, canonical(identifier).getLanguage(), &status);
+  ures_close(data);
+  return U_SUCCESS(status);
+}
+
+/// No locale at all, which is what gettext too takes as a wish for untranslated texts.
+bool isPlain(std::string_view name) {
+  const std::string_view head = name.substr(0, name.find_first_of(".@"));
+  return head.empty() || head == "C" || head == "POSIX";
+}
+
+std::string_view valueOf(const Environment& environment, const char* name) {
+  const char* value = environment(name);
+  return value == nullptr ? std::string_view() : std::string_view(value);
+}
+
+std::string_view firstSet(const Environment& environment, const char* category) {
+  for (const char* name : {"LC_ALL", category, "LANG"}) {
+    const std::string_view value = valueOf(environment, name);
+    if (!value.empty()) return value;
+  }
+  return {};
+}
+
+void append(std::vector<std::string>& identifiers, std::string_view name) {
+  std::string identifier = localeIdentifier(name);
+  if (!identifier.empty()) identifiers.push_back(std::move(identifier));
+}
+
+}  // namespace
+
+const char* processEnvironment(const char* name) {
+  return std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing in the library ever changes the environment
+}
+
+std::string localeIdentifier(std::string_view name) {
+  if (isPlain(name) || name.size() > kMaximumLength) return {};
+  const std::size_t at = name.find('@');
+  const std::string head(name.substr(0, std::min(name.find('.'), at)));
+  if (!isWellFormed(head)) return {};
+  const std::string_view modifier = at == std::string_view::npos ? std::string_view() : name.substr(at + 1);
+  if (modifier.find('=') == std::string_view::npos) return canonicalName(withModifier(canonical(head), modifier));
+  if (!std::ranges::all_of(modifier, isKeywordCharacter)) return {};
+  return canonicalName(head + "@" + std::string(modifier));
+}
+
+std::string usableLocale(std::string_view name) {
+  std::string identifier = localeIdentifier(name);
+  return !identifier.empty() && isLanguageKnown(identifier) ? identifier : std::string(kFallbackLocale);
+}
+
+std::string numberLocale(const Environment& environment) { return usableLocale(firstSet(environment, "LC_NUMERIC")); }
+
+std::string measurementLocale(const Environment& environment) {
+  return usableLocale(firstSet(environment, "LC_MEASUREMENT"));
+}
+
+std::vector<std::string> textLocales(const Environment& environment) {
+  std::vector<std::string> identifiers;
+  const std::string_view message = firstSet(environment, "LC_MESSAGES");
+  if (isPlain(message)) return identifiers;
+  std::string_view list = valueOf(environment, "LANGUAGE");
+  while (!list.empty()) {
+    const std::string_view entry = list.substr(0, list.find(':'));
+    list.remove_prefix(std::min(list.size(), entry.size() + 1));
+    if (!entry.empty() && isPlain(entry)) {
+      identifiers.emplace_back("en");
+      return identifiers;
+    }
+    append(identifiers, entry);
+  }
+  append(identifiers, message);
+  return identifiers;
+}
+
+}  // namespace kzm::port

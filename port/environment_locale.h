@@ -1,0 +1,52 @@
+// Which locales the user asked for, read from the environment without ever touching the process's own locale.
+//
+// POSIX orders the variables by purpose: LC_ALL, then the category's own one, then LANG; a variable that is set but
+// empty counts as unset. Names are given in either of the two usual ways, as POSIX names ("de_CH.UTF-8",
+// "sr_RS@latin") or as ICU and BCP 47 identifiers ("zh_Hant_TW", "hi_IN@numbers=deva", "de-CH").
+//
+// Everything here is a pure function of its arguments and may be called from any thread; the default environment is
+// as safe as getenv is, that is, as long as no other thread changes the environment.
+#ifndef PORT_ENVIRONMENT_LOCALE_H
+#define PORT_ENVIRONMENT_LOCALE_H
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kzm::port {
+
+/// Gives the value of an environment variable, or null when it is not set.
+using Environment = std::function<const char*(const char* name)>;
+
+/// The environment of this process.
+[[nodiscard]] const char* processEnvironment(const char* name);
+
+/// What the locale rules fall back to: English words and grouped numbers with metric units.
+inline constexpr std::string_view kFallbackLocale = "en_001";
+
+/// The ICU identifier of the locale whose numbers are wanted: LC_ALL, LC_NUMERIC, LANG. Always a usable one.
+[[nodiscard]] std::string numberLocale(const Environment& environment = processEnvironment);
+
+/// The same for the user's units of measurement: LC_ALL, LC_MEASUREMENT, LANG.
+[[nodiscard]] std::string measurementLocale(const Environment& environment = processEnvironment);
+
+/// The identifiers of the languages in which texts are wanted, best first; empty means English. LANGUAGE holds a list,
+/// separated by colons, that goes before the message locale (LC_ALL, LC_MESSAGES, LANG), but counts only when there is
+/// one: with C, POSIX or nothing at all the texts stay English. An entry "C" ends the list; malformed ones are left
+/// out.
+[[nodiscard]] std::vector<std::string> textLocales(const Environment& environment = processEnvironment);
+
+/// The canonical ICU identifier for a locale name ("iw_IL.UTF-8" -> "he_IL"), whether or not ICU knows the language.
+/// The codeset is dropped; of POSIX modifiers, scripts go to their place ("sr_RS@latin" -> "sr_Latn_RS"), "@valencia"
+/// stays as a variant, and others are dropped. Keywords such as "@numbers=deva" are kept. Empty when the name is
+/// malformed or stands for no language, as C and POSIX do.
+[[nodiscard]] std::string localeIdentifier(std::string_view name);
+
+/// The same, but kFallbackLocale for whatever has no identifier and for languages that ICU has no data for: those would
+/// otherwise be shown in the style of whatever locale the process happened to start in.
+[[nodiscard]] std::string usableLocale(std::string_view name);
+
+}  // namespace kzm::port
+
+#endif
