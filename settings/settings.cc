@@ -1,3 +1,27 @@
+#include <string_view>
+#include <utility>
+
 #include <KZMSettings/KZMSettings.h>
 
-kzm::Value KZMSettingsObjectForKeyPath(std::string_view) { return nullptr; }
+#include "settings/location.h"
+#include "settings/store.h"
+
+namespace {
+
+// Never destroyed: destructors of static objects may still ask.
+kzm::settings::Store& storeOfUser() {
+  static auto& store = *new kzm::settings::Store(kzm::settings::fileOfUser());
+  return store;
+}
+
+}  // namespace
+
+kzm::Value KZMSettingsObjectForKeyPath(std::string_view keyPath) { return storeOfUser().find(keyPath); }
+
+bool KZMSettingsSetObjectForKeyPath(const kzm::Value& object, std::string_view keyPath) {
+  return storeOfUser().set(object, keyPath);
+}
+
+kzm::Dictionary KZMSettingsObjects() { return storeOfUser().objects(); }
+
+void KZMSettingsUseObjects(kzm::Dictionary objects) { storeOfUser().useObjects(std::move(objects)); }

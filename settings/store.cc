@@ -1,0 +1,180 @@
+#include "settings/store.h"
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <ctime>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unistd.h>
+#include <unordered_map>
+#include <utility>
+
+#include "port/per_thread.h"
+
+namespace kzm::settings {
+
+/// The settings at one moment, and the way to find one quickly.
+struct Snapshot {
+  explicit Snapshot(Dictionary settings) : objects(std::move(settings)) {
+    for (const Dictionary::Entry& entry : objects) byKeyPath.emplace(entry.key, &entry.value);
+  }
+  const Dictionary objects;
+  std::unordered_map<std::string_view, const Value*> byKeyPath;
+};
+
+namespace {
+
+constexpr std::int64_t kNever = std::numeric_limits<std::int64_t>::max();
+
+struct LastRead {
+  std::uint64_t version = 0;
+  std::shared_ptr<const Snapshot> snapshot;
+};
+
+// One count for all stores, so that a version names a snapshot of just one of them.
+std::uint64_t nextVersion() {
+  constinit static std::atomic<std::uint64_t> last{0};
+  return last.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
+std::int64_t millisecondsNow() {
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+  return now.tv_sec * 1000 + now.tv_nsec / 1000000;
+}
+
+// One call, so that the line stays whole among those of other threads. Nobody is left to be told if it fails.
+void writeLine(const std::string& line) { (void)!::write(STDERR_FILENO, line.data(), line.size()); }
+
+}  // namespace
+
+Store::Store(std::string path, std::int64_t lookEvery) : lookEvery_(lookEvery), path_(std::move(path)) {}
+Store::~Store() = default;
+
+Value Store::find(std::string_view keyPath) {
+  const Snapshot& snapshot = current();
+  const auto found = snapshot.byKeyPath.find(keyPath);
+  return found != snapshot.byKeyPath.end() ? *found->second : Value();
+}
+
+Dictionary Store::objects() { return current().objects; }
+
+// The thread's pointer keeps the snapshot alive until the thread asks again.
+const Snapshot& Store::current() {
+  if (version_.load(std::memory_order_acquire) == 0) loadFirst();
+  const std::int64_t due = nextLook_.load(std::memory_order_relaxed);
+  if (due != kNever) {
+    if (const std::int64_t now = millisecondsNow(); now >= due) lookAtFile(now, due);
+  }
+  LastRead& last = port::perThread<LastRead>();
+  if (last.version != version_.load(std::memory_order_acquire)) {
+    const std::lock_guard lock(publishing_);
+    last.snapshot = snapshot_;
+    last.version = version_.load(std::memory_order_relaxed);
+  }
+  return *last.snapshot;
+}
+
+void Store::loadFirst() {
+  const std::lock_guard lock(changing_);
+  if (version_.load(std::memory_order_relaxed) != 0) return;
+  nextLook_.store(millisecondsNow() + lookEvery_, std::memory_order_relaxed);
+  reload();
+}
+
+// One thread looks for all. It does not wait for one that is changing the file: that one publishes what it finds.
+void Store::lookAtFile(std::int64_t now, std::int64_t due) {
+  if (!nextLook_.compare_exchange_strong(due, now + lookEvery_, std::memory_order_relaxed)) return;
+  const std::unique_lock lock(changing_, std::try_to_lock);
+  if (!lock.owns_lock() || inMemory_) return;
+  if (isFresh(seen_) || identityOf(path_) != seen_) reload();
+}
+
+void Store::reload() {
+  const Parsed file = readFile();
+  publish(settingsIn(file.object));
+}
+
+// A file that is not there is as good as one without members; nothing is taken from a broken one.
+Parsed Store::readFile() {
+  const Content content = path_.empty() ? Content{} : read(path_);
+  seen_ = content.identity;
+  Parsed parsed = content.text ? parse(*content.text) : Parsed{Json::object(), content.fault};
+  complain(parsed.fault, content.text.value_or(""));
+  return parsed;
+}
+
+// Once for each fault and content, however often that is read.
+void Store::complain(const std::string& fault, const std::string& text) {
+  const std::size_t complaint = fault.empty() ? 0 : std::hash<std::string>{}(fault + text);
+  if (complaint != 0 && complaint != lastComplaint_) {
+    writeLine("KZMSettings: " + path_ + " is not used: " + fault + "\n");
+  }
+  lastComplaint_ = complaint;
+}
+
+bool Store::set(const Value& object, std::string_view keyPath) {
+  const std::optional<Json> member = memberFor(object);
+  if (!member || !isUtf8(keyPath)) return false;
+  const std::lock_guard lock(changing_);
+  return inMemory_ ? setInMemory(object, keyPath) : setInFile(*member, std::string(keyPath));
+}
+
+bool Store::setInMemory(const Value& object, std::string_view keyPath) {
+  Dictionary objects = snapshot_->objects;
+  if (object.isNull()) {
+    objects.remove(keyPath);
+  } else {
+    objects.set(keyPath, object);
+  }
+  publish(std::move(objects));
+  return true;
+}
+
+// The file is read again under the lock: what another process stored meanwhile is kept.
+bool Store::setInFile(const Json& member, const std::string& keyPath) {
+  if (path_.empty()) return false;
+  const Lock lock(path_);
+  if (!lock.held()) return false;
+  Parsed file = readFile();
+  const bool done = file.fault.empty() && write(file.object, member, keyPath);
+  publish(settingsIn(file.object));
+  return done;
+}
+
+// Changes the object only when the file could be changed. A change that changes nothing writes nothing.
+bool Store::write(Json& object, const Json& member, const std::string& keyPath) {
+  Json changed = object;
+  changed.erase(keyPath);
+  if (!member.is_null()) changed[keyPath] = member;
+  const std::string text = textOf(changed);
+  if (text == textOf(object)) return true;
+  const std::optional<Identity> identity = text.size() <= kMostBytes ? replace(path_, text) : std::nullopt;
+  if (!identity) return false;
+  seen_ = *identity;
+  object = std::move(changed);
+  return true;
+}
+
+void Store::useObjects(Dictionary objects) {
+  const std::lock_guard lock(changing_);
+  inMemory_ = true;
+  nextLook_.store(kNever, std::memory_order_relaxed);
+  publish(std::move(objects));
+}
+
+void Store::publish(Dictionary objects) {
+  if (snapshot_ != nullptr && snapshot_->objects == objects) return;
+  auto snapshot = std::make_shared<const Snapshot>(std::move(objects));
+  const std::lock_guard lock(publishing_);
+  snapshot_ = std::move(snapshot);
+  version_.store(nextVersion(), std::memory_order_release);
+}
+
+}  // namespace kzm::settings

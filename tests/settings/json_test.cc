@@ -1,0 +1,106 @@
+#include "settings/json.h"
+
+#include <gtest/gtest.h>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <string>
+
+#include <KZMUtilities/dictionary.h>
+
+namespace kzm::settings {
+namespace {
+
+std::string nested(std::size_t levels) {
+  return "{\"a\":" + std::string(levels - 1, '[') + std::string(levels - 1, ']') + "}";
+}
+
+Value nestedValue(int levels) {
+  Value value = 1;
+  for (int i = 0; i < levels; ++i) value = Array{value};
+  return value;
+}
+
+TEST(Json, TellsWhyATextHoldsNoSettings) {
+  struct Case {
+    const char* why;
+    std::string text;
+    const char* fault;
+  };
+  const Case kCases[] = {
+      {"empty object",                 "{}",                                   ""                                  },
+      {"one member",                   "{\"a\": 1}\n",                         ""                                  },
+      {"brackets in texts",            "{\"[[\\\"{\": \"" + std::string(200, '[') + "\"}", ""                      },
+      {"nothing at all",               "",                                     "line 1 is not JSON"                },
+      {"only blanks",                  "  \n ",                                "line 2 is not JSON"                },
+      {"cut off",                      "{\n\"a\": 1,\n\"b\": ",                "line 3 is not JSON"                },
+      {"a comma too many",             "{\n\"a\": 1,\n}",                      "line 3 is not JSON"                },
+      {"something behind",             "{} {}",                                "line 1 is not JSON"                },
+      {"not UTF-8",                    "{\"a\": \"\xff\"}",                    "line 1 is not JSON"                },
+      {"half a surrogate pair",        "{\"a\": \"\\ud800\"}",                 "line 1 is not JSON"                },
+      {"NaN is not JSON",              "{\"a\": NaN}",                         "line 1 is not JSON"                },
+      {"a number beyond the doubles",  "{\"a\": 1e999}",                       "it holds a number out of range"    },
+      {"an array",                     "[1]",                                  "it is not one JSON object"         },
+      {"a bare null",                  "null",                                 "it is not one JSON object"         },
+      {"as deep as may be",            nested(64),                             ""                                  },
+      {"one level deeper",             nested(65),                             "it nests deeper than 64 levels"    },
+      {"hostile depth",                std::string(1000000, '['),              "it nests deeper than 64 levels"    },
+  };
+  for (const Case& row : kCases) EXPECT_EQ(parse(row.text).fault, row.fault) << row.why;
+}
+
+TEST(Json, ReadsEveryKindOfMember) {
+  const Parsed parsed = parse(
+      R"({"no": null, "yes": true, "int": -7, "big": 18446744073709551615, "real": 2.5, "text": "a\"\u00e9",)"
+      R"( "list": [1, "x", null], "map": {"k": {"deep": false}}})");
+  const Dictionary deep{{"k", Dictionary{{"deep", false}}}};
+  const Dictionary expected{
+      {"yes",  true                                      },
+      {"int",  -7                                        },
+      {"big",  18446744073709551616.0                    },
+      {"real", 2.5                                       },
+      {"text", "a\"\u00e9"                               },
+      {"list", Array{1, "x", nullptr}                    },
+      {"map",  deep},
+  };
+  EXPECT_EQ(settingsIn(parsed.object), expected);
+}
+
+TEST(Json, RefusesWhatAFileCannotHold) {
+  struct Case {
+    const char* why;
+    Value value;
+    bool holds;
+  };
+  const Value nanInside = Array{1, Dictionary{{"a", std::nan("")}}};
+  const Value badKey = Dictionary{{"\xff", 1}};
+  const double infinity = std::numeric_limits<double>::infinity();
+  const Case kCases[] = {
+      {"null",                    nullptr,                               true },
+      {"largest double",          std::numeric_limits<double>::max(),    true },
+      {"NaN",                     std::nan(""),                          false},
+      {"infinity",                infinity,                              false},
+      {"NaN inside",              nanInside, false},
+      {"opaque object",           std::make_shared<Object>(),            false},
+      {"opaque object inside",    Array{std::make_shared<Object>()},     false},
+      {"text that is not UTF-8",  "\xc3",                                false},
+      {"key that is not UTF-8",   badKey, false},
+      {"as deep as may be",       nestedValue(63),                       true },
+      {"one level deeper",        nestedValue(64),                       false},
+      {"very deep",               nestedValue(2000),                     false},
+  };
+  for (const Case& row : kCases) EXPECT_EQ(memberFor(row.value).has_value(), row.holds) << row.why;
+}
+
+TEST(Json, TheDeepestMemberCanBeReadAgain) {
+  Json object = Json::object();
+  object["a"] = *memberFor(nestedValue(63));
+  EXPECT_EQ(parse(textOf(object)).fault, "");
+}
+
+TEST(Json, WritesOneSortedLineForEachMember) {
+  EXPECT_EQ(textOf(parse(R"({"b": 1, "a": 2.0})").object), "{\n  \"a\": 2.0,\n  \"b\": 1\n}\n");
+}
+
+}  // namespace
+}  // namespace kzm::settings

@@ -1,0 +1,270 @@
+#include "settings/store.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fcntl.h>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <limits>
+#include <memory>
+#include <string>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+#include <KZMUtilities/dictionary.h>
+
+#include "tests/support/scratch_directory.h"
+
+namespace kzm::settings {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kFile = "KZMUtilities/settings.json";
+
+// Looks at the file at every read, so that nothing here has to wait.
+class StoreTest : public testing::Test {
+ protected:
+  tests::ScratchDirectory scratch_;
+  std::string path_ = scratch_.path(kFile);
+  Store store_{path_, 0};
+
+  [[nodiscard]] std::string linesOf(int reads) {
+    testing::internal::CaptureStderr();
+    for (int i = 0; i < reads; ++i) EXPECT_EQ(store_.find("a"), Value());
+    return testing::internal::GetCapturedStderr();
+  }
+};
+
+TEST_F(StoreTest, WithoutAFileThereAreNoSettingsAndReadingMakesNone) {
+  EXPECT_EQ(linesOf(3), "");
+  EXPECT_TRUE(store_.objects().empty());
+  EXPECT_FALSE(fs::exists(scratch_.path("KZMUtilities")));
+}
+
+TEST_F(StoreTest, EveryKindOfValueComesBackFromTheFile) {
+  const Dictionary kValues{
+      {"true",     true                                            },
+      {"false",    false                                           },
+      {"zero",     0                                               },
+      {"least",    std::numeric_limits<std::int64_t>::min()        },
+      {"greatest", std::numeric_limits<std::int64_t>::max()        },
+      {"one",      1.0                                             },
+      {"minus",    -0.0                                            },
+      {"huge",     1e300                                           },
+      {"tiny",     5e-324                                          },
+      {"tenth",    0.1                                             },
+      {"",         "the empty key"                                 },
+      {"text",     "\"quoted\" \\ \n\t\x01 Grad \u00b0C \U0001f321"},
+      {"nul",      std::string("a\0b",                               3)},
+      {"list",          Array{1, 1.0, true, nullptr, "x", Array{}}                                                    },
+      {"map",          Dictionary{{"a", Dictionary{{"b", 2}}}} },
+  };
+  for (const Dictionary::Entry& entry : kValues) EXPECT_TRUE(store_.set(entry.value, entry.key)) << entry.key;
+  Store again(path_);
+  for (const Dictionary::Entry& entry : kValues) {
+    EXPECT_EQ(store_.find(entry.key), entry.value) << entry.key;
+    EXPECT_EQ(again.find(entry.key), entry.value) << entry.key;
+  }
+  EXPECT_TRUE(std::signbit(*again.find("minus").real()));
+  EXPECT_EQ(again.objects(), kValues);
+}
+
+TEST_F(StoreTest, NullRemovesASetting) {
+  EXPECT_TRUE(store_.set(1, "a"));
+  EXPECT_TRUE(store_.set(2, "b"));
+  EXPECT_TRUE(store_.set(nullptr, "a"));
+  EXPECT_EQ(store_.find("a"), Value());
+  EXPECT_EQ(scratch_.read(kFile), "{\n  \"b\": 2\n}\n");
+}
+
+TEST_F(StoreTest, RemovingWhatIsNotThereMakesNoFile) {
+  EXPECT_TRUE(store_.set(nullptr, "a"));
+  EXPECT_FALSE(fs::exists(path_));
+}
+
+TEST_F(StoreTest, IntegerAndDoubleOfOneValueAreDifferentSettings) {
+  EXPECT_TRUE(store_.set(1, "a"));
+  EXPECT_TRUE(store_.set(1.0, "a"));
+  EXPECT_EQ(Store(path_).find("a"), Value(1.0));
+}
+
+TEST_F(StoreTest, WhatOthersKeepInTheFileStays) {
+  scratch_.write(kFile, R"({"other": {"x": [18446744073709551615, null]}, "a": 1})");
+  EXPECT_TRUE(store_.set(2, "a"));
+  const std::string text = scratch_.read(kFile);
+  EXPECT_NE(text.find("18446744073709551615"), std::string::npos) << text;
+  EXPECT_NE(text.find("null"), std::string::npos) << text;
+  EXPECT_EQ(store_.find("a"), Value(2));
+}
+
+TEST_F(StoreTest, RefusedValuesLeaveEverythingAsItWas) {
+  EXPECT_TRUE(store_.set(1, "a"));
+  const std::string before = scratch_.read(kFile);
+  EXPECT_FALSE(store_.set(std::nan(""), "a"));
+  EXPECT_FALSE(store_.set(Value(std::make_shared<Object>()), "a"));
+  EXPECT_FALSE(store_.set("\xff", "a"));
+  EXPECT_FALSE(store_.set(2, "\xff"));
+  EXPECT_FALSE(store_.set(std::string(kMostBytes, 'x'), "a")) << "a file that is too large could not be read again";
+  EXPECT_EQ(store_.find("a"), Value(1));
+  EXPECT_EQ(scratch_.read(kFile), before);
+}
+
+TEST_F(StoreTest, ABrokenFileIsNotUsedNotOverwrittenAndToldOnceForEachContent) {
+  scratch_.write(kFile, "{\"a\": 1,\n");
+  EXPECT_EQ(linesOf(5), "KZMSettings: " + path_ + " is not used: line 2 is not JSON\n");
+  fs::last_write_time(path_, fs::file_time_type::clock::now());
+  EXPECT_EQ(linesOf(2), "") << "the same content, only touched";
+  EXPECT_FALSE(store_.set(1, "a"));
+  EXPECT_EQ(scratch_.read(kFile), "{\"a\": 1,\n");
+  scratch_.write(kFile, "{\"a\": 2,\n");
+  EXPECT_EQ(linesOf(2), "KZMSettings: " + path_ + " is not used: line 2 is not JSON\n");
+  scratch_.write(kFile, "{\"a\": 2}");
+  EXPECT_EQ(store_.find("a"), Value(2));
+  EXPECT_TRUE(store_.set(3, "a"));
+}
+
+TEST_F(StoreTest, AFileThatBreaksTakesItsSettingsAway) {
+  EXPECT_TRUE(store_.set(1, "a"));
+  scratch_.write(kFile, "garbage");
+  EXPECT_NE(linesOf(1), "");
+  EXPECT_TRUE(store_.objects().empty());
+}
+
+TEST_F(StoreTest, AnUnusablePlaceNeitherHangsNorIsOverwritten) {
+  struct Case {
+    const char* why;
+    int (*make)(const char* path);
+    const char* fault;
+  };
+  constexpr Case kCases[] = {
+      {"a pipe nobody writes to", [](const char* path) { return mkfifo(path, 0600); },             "it is not a regular file"},
+      {"a directory",             [](const char* path) { return mkdir(path, 0700); },              "it is not a regular file"},
+      {"a device",                [](const char* path) { return symlink("/dev/zero", path); },     "it is not a regular file"},
+      {"a link to itself",        [](const char* path) { return symlink("settings.json", path); },
+       "Too many levels of symbolic links"                                                                                   },
+  };
+  fs::create_directories(scratch_.path("KZMUtilities"));
+  for (const Case& row : kCases) {
+    ASSERT_EQ(row.make(path_.c_str()), 0) << row.why;
+    const fs::file_type type = fs::symlink_status(path_).type();
+    EXPECT_EQ(linesOf(3), "KZMSettings: " + path_ + " is not used: " + row.fault + "\n") << row.why;
+    EXPECT_FALSE(store_.set(1, "a")) << row.why;
+    EXPECT_EQ(fs::symlink_status(path_).type(), type) << row.why;
+    fs::remove(path_);
+    EXPECT_EQ(linesOf(1), "") << row.why;
+  }
+}
+
+TEST_F(StoreTest, AFileAboveTheSizeLimitIsNotRead) {
+  const std::string most = "{\"b\": 1}" + std::string(kMostBytes - 8, ' ');
+  scratch_.write(kFile, most);
+  EXPECT_EQ(store_.find("b"), Value(1));
+  scratch_.write(kFile, most + " ");
+  EXPECT_EQ(linesOf(1), "KZMSettings: " + path_ + " is not used: it is larger than 1048576 bytes\n");
+  EXPECT_EQ(store_.find("b"), Value());
+}
+
+TEST_F(StoreTest, AFileInThePlaceOfTheDirectoryMeansNoSettings) {
+  scratch_.write("KZMUtilities", "in the way");
+  EXPECT_EQ(linesOf(1), "");
+  EXPECT_FALSE(store_.set(1, "a"));
+  EXPECT_EQ(scratch_.read("KZMUtilities"), "in the way");
+}
+
+TEST(Store, WithoutAPlaceNothingIsStored) {
+  Store store("");
+  EXPECT_EQ(store.find("a"), Value());
+  EXPECT_FALSE(store.set(1, "a"));
+}
+
+TEST_F(StoreTest, WhatIsMadeBelongsToTheUserAloneAndNothingElseIsLeft) {
+  Store deep(scratch_.path("one/two/KZMUtilities/settings.json"));
+  EXPECT_TRUE(deep.set(1, "a"));
+  EXPECT_TRUE(deep.set(2, "a"));
+  EXPECT_EQ(fs::status(scratch_.path("one")).permissions(), fs::perms::owner_all);
+  EXPECT_EQ(fs::status(scratch_.path("one/two/KZMUtilities")).permissions(), fs::perms::owner_all);
+  const fs::perms kOwnerReadsAndWrites = fs::perms::owner_read | fs::perms::owner_write;
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(scratch_.path("one/two/KZMUtilities"))) {
+    EXPECT_EQ(entry.status().permissions(), kOwnerReadsAndWrites) << entry.path();
+    names.push_back(entry.path().filename());
+  }
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (std::vector<std::string>{"settings.json", "settings.json.lock"}));
+}
+
+TEST_F(StoreTest, ALinkedFileIsReplacedWhereItIs) {
+  scratch_.write("kept/real.json", "{}");
+  fs::create_directories(scratch_.path("KZMUtilities"));
+  fs::create_symlink(scratch_.path("kept/real.json"), path_);
+  EXPECT_TRUE(store_.set(1, "a"));
+  EXPECT_TRUE(fs::is_symlink(path_));
+  EXPECT_EQ(scratch_.read("kept/real.json"), "{\n  \"a\": 1\n}\n");
+}
+
+TEST_F(StoreTest, ChangesOfTheFileAreSeenAlsoWithinOneTickOfItsClock) {
+  for (int i = 0; i < 50; ++i) {
+    scratch_.write(kFile, "{\"a\": " + std::to_string(10 + i) + "}");
+    ASSERT_EQ(store_.find("a"), Value(10 + i));
+  }
+  fs::remove(path_);
+  EXPECT_EQ(store_.find("a"), Value());
+}
+
+TEST_F(StoreTest, AnotherThreadSeesAChangeAtItsNextRead) {
+  Store store(path_, 1000000);
+  EXPECT_EQ(store.find("a"), Value());
+  std::thread([&store] { EXPECT_TRUE(store.set(1, "a")); }).join();
+  EXPECT_EQ(store.find("a"), Value(1));
+}
+
+TEST_F(StoreTest, TwoStoresInOneThreadKeepApart) {
+  Store other(scratch_.path("other/settings.json"));
+  EXPECT_TRUE(store_.set(1, "a"));
+  EXPECT_TRUE(other.set(2, "a"));
+  EXPECT_EQ(store_.find("a"), Value(1));
+  EXPECT_EQ(other.find("a"), Value(2));
+  EXPECT_EQ(store_.find("a"), Value(1));
+}
+
+TEST_F(StoreTest, AChangeIsRefusedWhileAnotherProcessKeepsTheLock) {
+  EXPECT_TRUE(store_.set(1, "a"));
+  {
+    const Lock lock(path_);
+    ASSERT_TRUE(lock.held());
+    EXPECT_FALSE(store_.set(2, "a"));
+    EXPECT_EQ(store_.find("a"), Value(1));
+  }
+  EXPECT_TRUE(store_.set(2, "a"));
+}
+
+TEST_F(StoreTest, ObjectsInMemoryReplaceTheFileForGood) {
+  scratch_.write(kFile, R"({"a": 1, "b": 2})");
+  EXPECT_EQ(store_.find("a"), Value(1));
+  store_.useObjects({
+      {"c", 3}
+  });
+  EXPECT_EQ(store_.find("a"), Value());
+  EXPECT_EQ(store_.find("c"), Value(3));
+  EXPECT_TRUE(store_.set(4, "a"));
+  EXPECT_TRUE(store_.set(nullptr, "c"));
+  EXPECT_FALSE(store_.set(std::nan(""), "a"));
+  scratch_.write(kFile, R"({"b": 5})");
+  EXPECT_EQ(store_.objects(), (Dictionary{
+                                  {"a", 4}
+  }));
+  EXPECT_EQ(scratch_.read(kFile), R"({"b": 5})");
+}
+
+TEST_F(StoreTest, ObjectsInMemoryBeforeTheFirstReadMeanThatTheFileIsNeverRead) {
+  scratch_.write(kFile, "broken");
+  testing::internal::CaptureStderr();
+  store_.useObjects({});
+  EXPECT_EQ(store_.find("a"), Value());
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+}  // namespace
+}  // namespace kzm::settings
