@@ -1,0 +1,62 @@
+// How options are read: as an integer, a boolean or a double, and never in vain.
+#ifndef KZM_CORE_READING_H
+#define KZM_CORE_READING_H
+
+#include <cstdint>
+#include <string_view>
+
+#include <KZMUtilities/dictionary.h>
+
+namespace kzm::core {
+
+/// The integer a text spells: blanks, a sign, digits; it ends at anything else and saturates ("2.9" is 2, "" is 0).
+[[nodiscard]] std::int64_t integerFromText(std::string_view text) noexcept;
+/// The double a text spells, with a point whatever the locale: " -2.5e3x" is -2500.0, "nan" is 0.0.
+[[nodiscard]] double doubleFromText(std::string_view text) noexcept;
+/// Whether a text says yes: it begins, after blanks, with Y, y, T, t or a digit from 1 to 9.
+[[nodiscard]] bool booleanFromText(std::string_view text) noexcept;
+
+/// Truncated toward zero, saturated at the 64-bit limits; NaN is 0.
+[[nodiscard]] std::int64_t integerFromDouble(double number) noexcept;
+
+/// Each reading takes null (an absent key) and every kind of Value; what has no number reads as zero.
+[[nodiscard]] inline std::int64_t readInteger(const Value* value) noexcept {
+  if (value == nullptr) return 0;
+  if (const std::int64_t* integer = value->integer()) return *integer;
+  if (const bool* boolean = value->boolean()) return *boolean ? 1 : 0;
+  if (const double* real = value->real()) return integerFromDouble(*real);
+  if (const std::string* text = value->string()) return integerFromText(*text);
+  return 0;
+}
+
+[[nodiscard]] inline double readDouble(const Value* value) noexcept {
+  if (value == nullptr) return 0.0;
+  if (const double* real = value->real()) return *real;
+  if (const std::int64_t* integer = value->integer()) return static_cast<double>(*integer);
+  if (const bool* boolean = value->boolean()) return *boolean ? 1.0 : 0.0;
+  if (const std::string* text = value->string()) return doubleFromText(*text);
+  return 0.0;
+}
+
+[[nodiscard]] inline bool readBoolean(const Value* value) noexcept {
+  if (value == nullptr) return false;
+  if (const bool* boolean = value->boolean()) return *boolean;
+  if (const std::int64_t* integer = value->integer()) return *integer != 0;
+  if (const double* real = value->real()) return *real != 0.0;  // NaN is not zero
+  if (const std::string* text = value->string()) return booleanFromText(*text);
+  return false;
+}
+
+/// A set of text attributes as it was given; null when the key is absent.
+[[nodiscard]] inline Value attributesOf(const Dictionary& options, const Key& key) {
+  const Value* attributes = options.find(key);
+  return attributes != nullptr ? *attributes : Value();
+}
+
+/// Walks decimals rules, dictionaries of "value" and "decimals": the first whose "value" is greater than the number
+/// gives its "decimals". Without such a rule, or when `rules` is no array, `fallback`. NaN matches none.
+[[nodiscard]] std::int64_t readDecimals(const Value* rules, double number, std::int64_t fallback = 0) noexcept;
+
+}  // namespace kzm::core
+
+#endif

@@ -1,0 +1,105 @@
+// Numbers as text in the user's number style.
+//
+// Numbers follow the locale in force: the one a host chose with kzm::setCurrentLocale, else the first of LC_ALL,
+// LC_NUMERIC and LANG that is not empty, read once and without setlocale. C, POSIX and names of no known language give
+// grouped English numbers.
+//
+// Every function may be called from any thread at any time. Formatters and locales handed out are immutable, and shared
+// with every other caller.
+#ifndef KZMUTILITIES_FORMATTERS_H
+#define KZMUTILITIES_FORMATTERS_H
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <KZMUtilities/dictionary.h>
+#include <KZMUtilities/export.h>
+
+namespace kzm {
+
+struct NumberSymbols;
+
+/// A decimal-style number formatter: the locale's separators, grouping, minimum grouping, digits and minus.
+///
+/// Numbers are rounded half to even on the shortest decimal that reads back to the same double: 2.675 with two digits
+/// is 2.68. NaN is the locale's symbol without a sign; the infinities are the locale's symbol, with its minus when
+/// negative. A negative number that rounds to zero keeps its minus.
+class KZM_EXPORT NumberFormatter final : public Object {
+ public:
+  /// A formatter in the current locale. Any counts are taken and given back as they are; when a number is formatted
+  /// they are clamped to 0..340, and a minimum above the maximum raises it.
+  NumberFormatter(std::int64_t minimumFractionDigits, std::int64_t maximumFractionDigits);
+
+  [[nodiscard]] std::int64_t minimumFractionDigits() const noexcept { return minimum_; }
+  [[nodiscard]] std::int64_t maximumFractionDigits() const noexcept { return maximum_; }
+
+  /// The text of any double.
+  [[nodiscard]] std::string string(double value) const;
+
+  // The number style and the counts as they are applied; NumberSymbols is the library's own.
+  [[nodiscard]] const NumberSymbols& symbols() const noexcept { return *symbols_; }
+  [[nodiscard]] int leastDigits() const noexcept { return leastDigits_; }
+  [[nodiscard]] int mostDigits() const noexcept { return mostDigits_; }
+
+ private:
+  std::int64_t minimum_;
+  std::int64_t maximum_;
+  int leastDigits_;
+  int mostDigits_;
+  const NumberSymbols* symbols_;
+};
+
+/// A locale, known by its identifier.
+class KZM_EXPORT Locale final : public Object {
+ public:
+  explicit Locale(std::string identifier) : identifier_(std::move(identifier)) {}
+  [[nodiscard]] const std::string& identifier() const noexcept { return identifier_; }
+
+ private:
+  std::string identifier_;
+};
+
+/// Chooses the locale of numbers and of default units for the whole process: an identifier such as "de_CH" or
+/// "hi_IN@numbers=deva", or a POSIX name such as "de_CH.UTF-8". To be called at start-up: formatters, unit texts and
+/// default units made before keep the locale they were made in. Texts are chosen by the localization library.
+KZM_EXPORT void setCurrentLocale(std::string_view identifier);
+
+/// The identifier of the locale of numbers.
+[[nodiscard]] KZM_EXPORT std::string currentLocale();
+
+}  // namespace kzm
+
+/// The shared formatter with at least and at most so many fraction digits, made on the first request and kept in the
+/// shared cache under "NumberFormatter-Decimal-<minimum>.<maximum>". Any counts are taken; a maximum below the minimum
+/// is raised to it. Never null.
+///
+/// Example (English):  KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(3.0)  // "3.00"
+[[nodiscard]] KZM_EXPORT std::shared_ptr<const kzm::NumberFormatter> KZMUtilitiesDecimalFormatterWithFractions(
+    std::int64_t minimumFractionDigits, std::int64_t maximumFractionDigits);
+
+/// The shared formatter with at most so many fraction digits, kept under "NumberFormatter-Decimal--.<maximum>".
+/// Any count is taken. Never null.
+///
+/// Example (English):  KZMUtilitiesDecimalFormatterWithMaximum(2)->string(3.14159)  // "3.14"
+[[nodiscard]] KZM_EXPORT std::shared_ptr<const kzm::NumberFormatter> KZMUtilitiesDecimalFormatterWithMaximum(
+    std::int64_t maximumFractionDigits);
+
+/// The POSIX variant of the locale: its identifier with "_POSIX" behind it, kept in the shared cache under
+/// "Locale-Posix-<identifier>". An identifier of which no POSIX variant can be made (an empty or malformed one, or one
+/// with keywords, which would swallow the suffix) gives the locale itself; null gives null.
+///
+/// Example:  KZMUtilitiesPosixLocale(std::make_shared<kzm::Locale>("de_CH"))->identifier()  // "de_CH_POSIX"
+[[nodiscard]] KZM_EXPORT std::shared_ptr<const kzm::Locale> KZMUtilitiesPosixLocale(
+    std::shared_ptr<const kzm::Locale> locale);
+
+/// The number alone, as text.
+///
+/// options  read only, may be empty:
+///   "decimals"   integer   at most so many fraction digits; 0 when absent or mistyped
+///
+/// Example (English):  KZMUtilitiesFormatNumber({{"decimals", 1}}, 1234.56)  // "1,234.6"
+[[nodiscard]] KZM_EXPORT std::string KZMUtilitiesFormatNumber(const kzm::Dictionary& options, double value);
+
+#endif

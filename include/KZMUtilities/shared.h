@@ -1,0 +1,77 @@
+// The one piece of state that the whole process shares: the cache of what is costly to make.
+//
+// Every function may be called from any thread at any time.
+#ifndef KZMUTILITIES_SHARED_H
+#define KZMUTILITIES_SHARED_H
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string_view>
+
+#include <KZMUtilities/dictionary.h>
+#include <KZMUtilities/export.h>
+
+namespace kzm {
+
+/// A dictionary that many threads read and change.
+///
+/// The library keeps in it, and never removes:
+///   "NumberFormatter-Decimal-<min>.<max>"   NumberFormatter with exactly these bounds
+///   "NumberFormatter-Decimal--.<max>"       NumberFormatter with a maximum only
+///   "Locale-Posix-<identifier>"             Locale
+///   "Localizations-Units-Network", "…-DiskActivity", "…-Space", "…-Memory", "…-Sensors"
+///                                           Dictionary, unit template to its text in the user's language
+/// An entry that a host puts there is used by the very next call. One of another kind than stands above counts as
+/// missing: the library makes its own and stores it in that place.
+class KZM_EXPORT Cache {
+ public:
+  Cache();
+  Cache(const Cache&) = delete;
+  Cache& operator=(const Cache&) = delete;
+  ~Cache();
+
+  /// The entry, or null.
+  [[nodiscard]] Value find(std::string_view key) const;
+  /// Puts the entry under the key; null removes it.
+  void set(std::string_view key, Value value);
+  [[nodiscard]] std::size_t size() const;
+  /// All entries as they are now.
+  [[nodiscard]] Dictionary entries() const;
+
+  /// The entry if `accepts` holds for it, else what `make` gives, which is stored first (null is not). When two threads
+  /// make the same entry at once, the first to store it wins and both get it.
+  Value findOrMake(std::string_view key, const std::function<bool(const Value&)>& accepts,
+                   const std::function<Value()>& make);
+
+ private:
+  mutable std::mutex mutex_;
+  Dictionary entries_;
+};
+
+}  // namespace kzm
+
+/// Holder of the shared cache.
+class KZM_EXPORT KZMUtilities {
+ public:
+  /// `shared`: the one instance that the library works with, made on the first call; it lives until the process ends.
+  [[nodiscard]] static KZMUtilities& shared();
+
+  /// `init`: an instance with an empty cache.
+  KZMUtilities();
+  KZMUtilities(const KZMUtilities&) = delete;
+  KZMUtilities& operator=(const KZMUtilities&) = delete;
+  ~KZMUtilities();
+
+  /// `cache`: never null.
+  [[nodiscard]] std::shared_ptr<kzm::Cache> cache() const;
+  /// `setCache:` puts another cache in place, for the next call on; null puts an empty one there.
+  void setCache(std::shared_ptr<kzm::Cache> cache);
+
+ private:
+  mutable std::mutex mutex_;
+  std::shared_ptr<kzm::Cache> cache_;
+};
+
+#endif

@@ -1,0 +1,94 @@
+#include "port/number_symbols.h"
+
+#include <memory>
+#include <optional>
+#include <unicode/dcfmtsym.h>
+#include <unicode/decimfmt.h>
+#include <unicode/locid.h>
+#include <unicode/numberformatter.h>
+#include <unicode/unistr.h>
+
+namespace kzm::port {
+namespace {
+
+std::string utf8(const icu::UnicodeString& text) {
+  std::string bytes;
+  text.toUTF8String(bytes);
+  return bytes;
+}
+
+// What the locale writes before and behind the digit of -1.
+void readNegativeAffixes(const icu::number::LocalizedNumberFormatter& formatter, NumberSymbols& symbols,
+                         UErrorCode& status) {
+  const std::string text = utf8(formatter.formatInt(-1, status).toString(status));
+  const std::size_t one = text.find(symbols.digits[1]);
+  if (U_FAILURE(status) || one == std::string::npos) return;
+  symbols.negativePrefix = text.substr(0, one);
+  symbols.negativeSuffix = text.substr(one + symbols.digits[1].size());
+}
+
+// The shortest number that the locale groups tells its minimum: 1234 means 1, 12345 means 2.
+void readMinimumGrouping(const icu::number::LocalizedNumberFormatter& formatter, NumberSymbols& symbols,
+                         UErrorCode& status) {
+  constexpr int kLargestProbe = 8;
+  std::int64_t probe = 1;
+  for (int i = 0; i < symbols.primaryGroup; ++i) probe *= 10;
+  for (int minimum = 1; minimum <= kLargestProbe; ++minimum, probe *= 10) {
+    if (utf8(formatter.formatInt(probe, status).toString(status)).find(symbols.groupSeparator) != std::string::npos) {
+      symbols.minimumGroupDigits = minimum;
+      return;
+    }
+  }
+  symbols.primaryGroup = 0;
+}
+
+std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale) {
+  using Symbol = icu::DecimalFormatSymbols;
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::NumberFormat> style(icu::NumberFormat::createInstance(locale, UNUM_DECIMAL, status));
+  const auto* decimal = dynamic_cast<const icu::DecimalFormat*>(style.get());
+  const auto formatter = icu::number::NumberFormatter::withLocale(locale);
+  if (U_FAILURE(status) || decimal == nullptr) return std::nullopt;
+
+  const Symbol& source = *decimal->getDecimalFormatSymbols();
+  NumberSymbols symbols;
+  for (int digit = 0; digit < 10; ++digit) {
+    std::string& text = symbols.digits[static_cast<std::size_t>(digit)];
+    text = utf8(source.getConstDigitSymbol(digit));
+    symbols.digitsAreAscii = symbols.digitsAreAscii && text == std::to_string(digit);
+  }
+  symbols.decimalSeparator = utf8(source.getConstSymbol(Symbol::kDecimalSeparatorSymbol));
+  symbols.groupSeparator = utf8(source.getConstSymbol(Symbol::kGroupingSeparatorSymbol));
+  symbols.notANumber = utf8(source.getConstSymbol(Symbol::kNaNSymbol));
+  symbols.infinity = utf8(source.getConstSymbol(Symbol::kInfinitySymbol));
+  if (decimal->isGroupingUsed()) {
+    symbols.primaryGroup = decimal->getGroupingSize();
+    symbols.secondaryGroup = decimal->getSecondaryGroupingSize();
+  }
+  if (symbols.secondaryGroup <= 0) symbols.secondaryGroup = symbols.primaryGroup;
+  if (symbols.primaryGroup > 0) readMinimumGrouping(formatter, symbols, status);
+  readNegativeAffixes(formatter, symbols, status);
+  if (U_FAILURE(status)) return std::nullopt;
+  return symbols;
+}
+
+}  // namespace
+
+NumberSymbols numberSymbols(const std::string& localeIdentifier) {
+  const icu::Locale locale(localeIdentifier.c_str());
+  for (const icu::Locale& candidate : {locale, icu::Locale(locale.getBaseName()), icu::Locale("en_001")}) {
+    if (std::optional<NumberSymbols> symbols = symbolsOf(candidate)) return *std::move(symbols);
+  }
+  // Only a machine without any locale data comes here.
+  NumberSymbols plain;
+  for (std::size_t digit = 0; digit < plain.digits.size(); ++digit) plain.digits[digit] = std::to_string(digit);
+  plain.decimalSeparator = ".";
+  plain.groupSeparator = ",";
+  plain.negativePrefix = "-";
+  plain.notANumber = "NaN";
+  plain.infinity = "∞";
+  plain.primaryGroup = plain.secondaryGroup = 3;
+  return plain;
+}
+
+}  // namespace kzm::port

@@ -1,0 +1,34 @@
+// What a locale knows about writing numbers.
+#ifndef KZM_PORT_NUMBER_SYMBOLS_H
+#define KZM_PORT_NUMBER_SYMBOLS_H
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace kzm {
+
+/// The parts that a number in decimal style is put together from, all in UTF-8.
+struct NumberSymbols {
+  std::array<std::string, 10> digits;
+  bool digitsAreAscii = true;
+  std::string decimalSeparator;
+  std::string groupSeparator;
+  std::string negativePrefix;  // the minus, with whatever invisible marks the locale puts beside it
+  std::string negativeSuffix;
+  std::string notANumber;
+  std::string infinity;
+  int primaryGroup = 0;        // digits in the group next to the decimal separator; 0 means no grouping
+  int secondaryGroup = 0;      // digits in every further group
+  int minimumGroupDigits = 1;  // digits that must stand before the first separator for any separator to be written
+};
+
+namespace port {
+
+/// The symbols of the locale; those of world English when its data cannot be had (an unusable numbering system, say).
+[[nodiscard]] NumberSymbols numberSymbols(const std::string& localeIdentifier);
+
+}  // namespace port
+}  // namespace kzm
+
+#endif

@@ -1,0 +1,228 @@
+#include "core/number_text.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <limits>
+#include <map>
+#include <random>
+#include <string>
+#include <unicode/numberformatter.h>
+
+namespace kzm::core {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+
+const NumberSymbols& symbolsOf(const std::string& locale) {
+  static auto& known = *new std::map<std::string, NumberSymbols>;
+  return known.try_emplace(locale, port::numberSymbols(locale)).first->second;
+}
+
+std::string text(const std::string& locale, int least, int most, double value) {
+  return std::string(NumberText(symbolsOf(locale), least, most, value).view());
+}
+
+TEST(NumberText, RoundsHalfToEvenOnTheShortestDecimal) {
+  struct Case {
+    double value;
+    int digits;
+    const char* text;
+  };
+  const Case cases[] = {
+      {2.675,               2,  "2.68"                           },
+      {1.015,               2,  "1.02"                           },
+      {8.345,               2,  "8.34"                           },
+      {4.35,                1,  "4.4"                            },
+      {1.005,               2,  "1.00"                           },
+      {0.35,                1,  "0.4"                            },
+      {0.45,                1,  "0.4"                            },
+      {0.65,                1,  "0.6"                            },
+      {0.15,                1,  "0.2"                            },
+      {0.125,               2,  "0.12"                           },
+      {42.25,               1,  "42.2"                           },
+      {42.35,               1,  "42.4"                           },
+      {1013.25,             1,  "1,013.2"                        },
+      {2.5,                 0,  "2"                              },
+      {3.5,                 0,  "4"                              },
+      {0.5,                 0,  "0"                              },
+      {1.5,                 0,  "2"                              },
+      {-0.5,                0,  "-0"                             },
+      {-0.3,                0,  "-0"                             },
+      {-0.0,                0,  "-0"                             },
+      {-0.0,                2,  "-0.00"                          },
+      {0.0,                 0,  "0"                              },
+      {0.05,                1,  "0.0"                            },
+      {0.15000000000000002, 1,  "0.2"                            },
+      {9.5,                 0,  "10"                             },
+      {99.5,                0,  "100"                            },
+      {999.5,               0,  "1,000"                          },
+      {9.995,               2,  "10.00"                          },
+      {0.9995,              3,  "1.000"                          },
+      {0.1,                 17, "0.10000000000000000"            },
+      {0.30000000000000004, 17, "0.30000000000000004"            },
+      {5e-324,              0,  "0"                              },
+      {5e-324,              5,  "0.00000"                        },
+      {1e21,                1,  "1,000,000,000,000,000,000,000.0"},
+      {123456789012345.67,  1,  "123,456,789,012,345.7"          },
+      {11.444091796875,     1,  "11.4"                           },
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(text("en_US", c.digits, c.digits, c.value), c.text) << c.value << " with " << c.digits;
+  }
+}
+
+TEST(NumberText, DropsZerosDownToTheMinimum) {
+  EXPECT_EQ(text("en_US", 0, 2, 3.0), "3");
+  EXPECT_EQ(text("en_US", 0, 2, 3.14159), "3.14");
+  EXPECT_EQ(text("en_US", 0, 2, 1.5), "1.5");
+  EXPECT_EQ(text("en_US", 1, 3, 2.0), "2.0");
+  EXPECT_EQ(text("en_US", 1, 3, 2.125), "2.125");
+  EXPECT_EQ(text("en_US", 0, 20, 1e-7), "0.0000001");
+}
+
+TEST(NumberText, FollowsTheLocale) {
+  struct Case {
+    const char* locale;
+    double value;
+    const char* text;
+  };
+  const Case cases[] = {
+      {"en_US",              1234567.891, "1,234,567.89"              },
+      {"en_001",             1234567.891, "1,234,567.89"              },
+      {"de_DE",              1234567.891, "1.234.567,89"              },
+      {"de_AT",              1234.5,      "1\u00a0234,5"              },
+      {"de_CH",              1234567.891, "1’234’567.89"          },
+      {"fr_FR",              1234.5,      "1\u202f234,5"              },
+      {"es_ES",              1234.0,      "1234"                      },
+      {"es_ES",              12345.0,     "12.345"                    },
+      {"es_MX",              1234.0,      "1,234"                     },
+      {"pl_PL",              1234.0,      "1234"                      },
+      {"pl_PL",              12345.0,     "12\u00a0345"               },
+      {"pt_PT",              1234.0,      "1234"                      },
+      {"pt_BR",              1234.0,      "1.234"                     },
+      {"hi_IN",              1234567.891, "12,34,567.89"              },
+      {"hi_IN",              123456789.0, "12,34,56,789"              },
+      {"en_IN",              12345678.0,  "1,23,45,678"               },
+      {"bn_BD",              1234567.0,   "১২,৩৪,৫৬৭"   },
+      {"ar_EG",              -1234.5,     "\u061c-١٬٢٣٤٫٥"     },
+      {"fa_IR",              -1234.5,     "\u200e\u2212۱٬۲۳۴٫۵"},
+      {"he_IL",              -1.0,        "\u200e-1"                  },
+      {"sv_SE",              -1234.5,     "\u22121\u00a0234,5"        },
+      {"ru_RU",              1234.5,      "1\u00a0234,5"              },
+      {"en_US_POSIX",        1234567.891, "1234567.89"                },
+      {"ja_JP",              1234.5,      "1,234.5"                   },
+      {"ar_EG@numbers=latn", 1234.5,      "1,234.5"                   },
+      {"en_US",              kNaN,        "NaN"                       },
+      {"en_US",              -kNaN,       "NaN"                       },
+      {"ru_RU",              kNaN,        "не\u00a0число"      },
+      {"fi_FI",              -kNaN,       "epäluku"                  },
+      {"en_US",              kInfinity,   "∞"                       },
+      {"en_US",              -kInfinity,  "-∞"                      },
+      {"sv_SE",              -kInfinity,  "\u2212∞"                 },
+      {"en_US_POSIX",        kInfinity,   "INF"                       },
+  };
+  for (const Case& c : cases) EXPECT_EQ(text(c.locale, 0, 2, c.value), c.text) << c.locale << ' ' << c.value;
+}
+
+TEST(NumberText, AnUnusableNumberingSystemIsSetAside) { EXPECT_EQ(text("de_DE@numbers=nonsense", 0, 1, 1.5), "1,5"); }
+
+TEST(NumberText, TheLargestAndTheLongestFit) {
+  constexpr double kLargest = std::numeric_limits<double>::max();
+  for (const char* locale : {"en_US", "hi_IN", "ar_EG", "fa_IR", "en_US_POSIX"}) {
+    const std::string written = text(locale, kMostFractionDigits, kMostFractionDigits, -kLargest);
+    EXPECT_GT(written.size(), 600U) << locale;
+  }
+  EXPECT_EQ(text("en_US_POSIX", 0, 0, kLargest), "17976931348623157" + std::string(292, '0'));
+  EXPECT_EQ(text("en_US", 0, 340, 5e-324), "0." + std::string(323, '0') + "5");
+}
+
+TEST(NumberText, PlainWholeNumbersHaveNoLocale) {
+  struct Case {
+    double value;
+    const char* text;
+  };
+  const Case cases[] = {
+      {1023.6,     "1024"                   },
+      {0.5,        "0"                      },
+      {1.5,        "2"                      },
+      {2.5,        "2"                      },
+      {-0.2,       "-0"                     },
+      {-0.0,       "-0"                     },
+      {0.0,        "0"                      },
+      {kNaN,       "nan"                    },
+      {-kNaN,      "nan"                    },
+      {kInfinity,  "inf"                    },
+      {-kInfinity, "-inf"                   },
+      {1e15,       "1000000000000000"       },
+      {1e23,       "99999999999999991611392"},
+      {-1234567.0, "-1234567"               },
+  };
+  for (const Case& c : cases) EXPECT_EQ(NumberText::plainWhole(c.value).view(), c.text) << c.value;
+}
+
+// The locale library's own formatter is the reference for what a number looks like; ours is faster, and equal.
+class Reference {
+ public:
+  Reference(const char* locale, int least, int most)
+      : formatter_(icu::number::NumberFormatter::withLocale(locale)
+                       .precision(icu::number::Precision::minMaxFraction(least, most))
+                       .roundingMode(UNUM_ROUND_HALFEVEN)) {}
+
+  std::string text(double value) const {
+    UErrorCode status = U_ZERO_ERROR;
+    std::string bytes;
+    formatter_.formatDouble(value, status).toString(status).toUTF8String(bytes);
+    return U_SUCCESS(status) ? bytes : "failed";
+  }
+
+ private:
+  icu::number::LocalizedNumberFormatter formatter_;
+};
+
+double anyDouble(std::mt19937_64& random) {
+  switch (random() % 4) {
+    case 0: {  // every bit pattern
+      const std::uint64_t bits = random();
+      double value = 0;
+      std::memcpy(&value, &bits, sizeof value);
+      return std::isnan(value) ? 0.0 : value;
+    }
+    case 1:
+      return static_cast<double>(random() % 20000001) / 1000.0 - 10000.0;  // three decimals: many ties
+    case 2:
+      return static_cast<double>(random() % 2000001) / 2.0;  // halves
+    default:
+      return std::ldexp(static_cast<double>(random() >> 11), -40);  // what a monitor reads
+  }
+}
+
+TEST(NumberText, EqualsTheLocaleLibrarysFormatter) {
+  std::mt19937_64 random(20260101);
+  for (const char* locale : {"en_US", "de_CH", "es_ES", "hi_IN", "ar_EG", "sv_SE", "fr_FR", "pl_PL"}) {
+    for (int most = 0; most <= 8; ++most) {
+      const int least = most % 2 == 0 ? most : 0;
+      const Reference reference(locale, least, most);
+      for (int i = 0; i < 1500; ++i) {
+        const double value = anyDouble(random);
+        ASSERT_EQ(text(locale, least, most, value), reference.text(value)) << locale << ' ' << most << ' ' << value;
+      }
+    }
+  }
+}
+
+// Around every tie the quick rounding must hand over to the exact one.
+TEST(NumberText, EqualsTheReferenceAroundTies) {
+  const Reference reference("en_US", 0, 3);
+  for (int i = 0; i < 2000; ++i) {
+    const double tie = i * 1.037 + 0.0005;
+    for (const double value : {std::nextafter(tie, 0.0), tie, std::nextafter(tie, 1e9), tie * 1e8, -tie}) {
+      ASSERT_EQ(text("en_US", 0, 3, value), reference.text(value)) << value;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kzm::core
