@@ -1,0 +1,68 @@
+#include <KZMUtilities/bytes.h>
+
+#include "bytes/rendering.h"
+#include "bytes/scaling.h"
+
+namespace kzm::bytes {
+namespace {
+
+//   level        style          template  translator's hint
+constexpr ByteUnit kUnits[] = {
+    {Level::peta, Style::brief,  "%@P",   "petabyte"},
+    {Level::tera, Style::brief,  "%@T",   "terabyte"},
+    {Level::giga, Style::brief,  "%@G",   "gigabyte"},
+    {Level::mega, Style::brief,  "%@M",   "megabyte"},
+    {Level::kilo, Style::brief,  "%@K",   "kilobyte"},
+    {Level::peta, Style::spaced, "%@ PB", nullptr   },
+    {Level::tera, Style::spaced, "%@ TB", nullptr   },
+    {Level::giga, Style::spaced, "%@ GB", nullptr   },
+    {Level::mega, Style::spaced, "%@ MB", nullptr   },
+    {Level::kilo, Style::spaced, "%@ KB", nullptr   },
+    {Level::peta, Style::tight,  "%@PB",  nullptr   },
+    {Level::tera, Style::tight,  "%@TB",  nullptr   },
+    {Level::giga, Style::tight,  "%@GB",  nullptr   },
+    {Level::mega, Style::tight,  "%@MB",  nullptr   },
+    {Level::kilo, Style::tight,  "%@KB",  nullptr   },
+};
+constexpr auto kRows = core::unitRows(kUnits);
+static_assert(core::wellFormed(kRows));
+
+// Deliberate: the first three tests reach their threshold, the tera test does not: 10^12 bytes stay 1000 giga, 10^15
+// bytes move up to peta. The peta divisor is 10^12 as single precision holds it, so petabytes come out 4 in 10^9 large.
+// NaN ends in peta.
+//   level        taken when       kilobytes        shown as
+constexpr Rung kLadder[] = {
+    {Level::kilo, Test::atMost,    1000.0,          times(1.0)          },
+    {Level::mega, Test::atMost,    1000000.0,       over(1000.0)        },
+    {Level::giga, Test::atMost,    1000000000.0,    over(1000000.0)     },
+    {Level::tera, Test::below,     1000000000000.0, over(1000000000.0)  },
+    {Level::peta, Test::otherwise, 0.0,             over(999999995904.0)},
+};
+static_assert(wellFormed(kLadder));
+
+constexpr ByteFamily kDiskSpace{
+    .table = {core::UnitFamily::diskSpace, kRows},
+    .index = unitIndex(kUnits),
+    .toBase = over(1000.0),
+    .digits = core::DigitRule::atMost
+};
+
+Reading diskSpace(const Dictionary& options, double bytes) {
+  return scaled(kDiskSpace, kLadder, wholeUnitStyle(options), options, bytes);
+}
+
+}  // namespace
+}  // namespace kzm::bytes
+
+kzm::Dictionary KZMUtilitiesSpaceData(const kzm::Dictionary& options, double bytes) {
+  return kzm::bytes::dataOf(kzm::bytes::diskSpace(options, bytes));
+}
+
+std::string KZMUtilitiesFormatSpace(const kzm::Dictionary& options, double bytes) {
+  return kzm::bytes::plainText(kzm::bytes::diskSpace(options, bytes));
+}
+
+kzm::AttributedString KZMUtilitiesFormatSpaceWithAttributes(const kzm::Dictionary& options, double bytes) {
+  const kzm::bytes::Reading reading = kzm::bytes::diskSpace(options, bytes);
+  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading));
+}

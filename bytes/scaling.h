@@ -1,0 +1,30 @@
+// From a raw quantity to the number, its decimals and its unit.
+#ifndef KZM_BYTES_SCALING_H
+#define KZM_BYTES_SCALING_H
+
+#include <cstdint>
+
+#include <KZMUtilities/dictionary.h>
+
+#include "bytes/family.h"
+
+namespace kzm::bytes {
+
+/// What a family makes of a quantity: what its result Dictionary holds, without the Dictionary.
+struct Reading {
+  const core::Template* unit;  // null when a host's own table in the cache lacks the unit
+  std::int64_t decimals;
+  double value;
+  core::DigitRule digits;  // how `decimals` are meant
+};
+
+/// Walks the ladder, then the decimals rules under the key of the level reached, and takes the unit by level and style.
+[[nodiscard]] Reading scaled(const ByteFamily& family, Ladder ladder, Style style, const Dictionary& options,
+                             double quantity);
+
+/// The style of the families with a boolean "short": it wins over "space".
+[[nodiscard]] Style wholeUnitStyle(const Dictionary& options) noexcept;
+
+}  // namespace kzm::bytes
+
+#endif
