@@ -291,7 +291,7 @@ void writeTexts(std::ostream& out, const Table& table, std::size_t index) {
 
 void writeSource(std::ostream& out, const std::vector<Table>& tables, const std::string& developmentLanguage) {
   out << "// Written by tools/compile_strings from the string tables; changes belong there.\n"
-         "#include \"resources/bundle.h\"\n\nnamespace kzm::resources {\nnamespace {\n\n";
+         "#include <KZMUtilities/resources.h>\n\nnamespace kzm {\nnamespace {\n\n";
   for (std::size_t i = 0; i < tables.size(); ++i) writeTexts(out, tables[i], i);
   out << "constexpr StringTable kTables[] = {\n";
   for (std::size_t i = 0; i < tables.size(); ++i) {
@@ -300,7 +300,7 @@ void writeSource(std::ostream& out, const std::vector<Table>& tables, const std:
   out << "};\n\nconstexpr ResourceBundle kBundle{kBundleIdentifier, " << literal(developmentLanguage)
       << ", kTables};\n\n}  // namespace\n\n"
          "const ResourceBundle* bundleWithIdentifier(std::string_view identifier) noexcept {\n"
-         "  return identifier == kBundleIdentifier ? &kBundle : nullptr;\n}\n\n}  // namespace kzm::resources\n";
+         "  return identifier == kBundleIdentifier ? &kBundle : nullptr;\n}\n\n}  // namespace kzm\n";
 }
 
 void compile(const std::string& developmentLanguage, const fs::path& output, const std::vector<fs::path>& paths) {

@@ -1,0 +1,32 @@
+// The table of what can be called by name.
+#ifndef KZM_CLI_CALL_CALLABLES_H
+#define KZM_CLI_CALL_CALLABLES_H
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "cli/call/marshal.h"
+
+namespace kzm::cli {
+
+/// One exported function or operation.
+struct Callable {
+  std::string_view name;        // the function's name, or the operation's selector
+  std::string_view parameters;  // their names, in order, separated by blanks
+  Result (*call)(const Json& arguments);
+  std::span<const std::string_view> kinds;
+};
+
+/// Every callable, in the order of the library's families.
+[[nodiscard]] std::span<const Callable> callables();
+
+/// Calls by name. Unknown names, wrong counts and wrong types are an InputError that says which.
+[[nodiscard]] Result callByName(std::string_view name, const Json& arguments);
+
+/// The callable as `list` shows it: its name, then "parameter:kind" for each parameter.
+[[nodiscard]] std::string described(const Callable& callable);
+
+}  // namespace kzm::cli
+
+#endif

@@ -1,0 +1,99 @@
+// Carries JSON arguments into a C++ call, and its result back.
+//
+// `adapt<F>` makes a Callable's function of any function whose parameters and result are of the kinds listed here; what
+// each kind looks like in JSON is one specialisation.
+#ifndef KZM_CLI_CALL_MARSHAL_H
+#define KZM_CLI_CALL_MARSHAL_H
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include <KZMUtilities/attributed_string.h>
+#include <KZMUtilities/formatters.h>
+
+#include "cli/errors.h"
+#include "cli/json.h"
+
+namespace kzm::cli {
+
+/// A result: its JSON text, and the bare text when it is a string.
+struct Result {
+  std::string json;
+  std::optional<std::string> text;
+};
+
+/// How a parameter of type T is read. `name` is what `kzmutil list` calls it; `read` throws InputError.
+template <class T>
+struct Argument;
+
+template <>
+struct Argument<double> {
+  static constexpr std::string_view name = "double";
+  static double read(const Json& json);
+};
+
+template <>
+struct Argument<std::int64_t> {
+  static constexpr std::string_view name = "integer";
+  static std::int64_t read(const Json& json);
+};
+
+template <>
+struct Argument<std::string_view> {
+  static constexpr std::string_view name = "string";
+  static std::string read(const Json& json);
+};
+
+template <>
+struct Argument<Dictionary> {
+  static constexpr std::string_view name = "dictionary";
+  static Dictionary read(const Json& json);
+};
+
+template <>
+struct Argument<std::shared_ptr<const Locale>> {
+  static constexpr std::string_view name = "locale";
+  static std::shared_ptr<const Locale> read(const Json& json);
+};
+
+[[nodiscard]] Result resultOf(double number);
+[[nodiscard]] Result resultOf(bool boolean);
+[[nodiscard]] Result resultOf(std::int64_t integer);
+[[nodiscard]] Result resultOf(const std::string& text);
+[[nodiscard]] Result resultOf(const Dictionary& dictionary);
+[[nodiscard]] Result resultOf(const AttributedString& text);
+[[nodiscard]] Result resultOf(const std::shared_ptr<const Locale>& locale);
+[[nodiscard]] Result resultOf(const std::shared_ptr<const NumberFormatter>& formatter);
+
+template <class R, class... A>
+Result applyFunction(R (*function)(A...), const Json& arguments) {
+  return [&]<std::size_t... I>(std::index_sequence<I...>) {
+    const std::tuple read{Argument<std::remove_cvref_t<A>>::read(arguments[I])...};
+    return resultOf(function(std::get<I>(read)...));
+  }
+  (std::index_sequence_for<A...>());
+}
+
+/// A function that takes the JSON arguments, as many as F has parameters, and answers with F's result.
+template <auto F>
+Result adapt(const Json& arguments) {
+  return applyFunction(F, arguments);
+}
+
+/// The kinds of F's parameters, as `list` names them.
+template <class R, class... A>
+constexpr auto kindsOf(R (*)(A...)) {
+  return std::array<std::string_view, sizeof...(A)>{Argument<std::remove_cvref_t<A>>::name...};
+}
+template <auto F>
+inline constexpr auto kKinds = kindsOf(F);
+
+}  // namespace kzm::cli
+
+#endif

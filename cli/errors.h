@@ -1,0 +1,27 @@
+// The one way in which a verb refuses its input.
+#ifndef KZM_CLI_ERRORS_H
+#define KZM_CLI_ERRORS_H
+
+#include <stdexcept>
+#include <string>
+
+namespace kzm::cli {
+
+/// Input that a person can mend: its text is one line for standard error, and the program ends with status 2.
+class InputError : public std::runtime_error {
+ public:
+  explicit InputError(std::string text) : std::runtime_error(oneLine(std::move(text))) {}
+
+ private:
+  // What a caller typed may be quoted in the text: it must not break the line, nor reach the terminal as a command.
+  static std::string oneLine(std::string text) {
+    for (char& c : text) {
+      if (static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = '?';
+    }
+    return text;
+  }
+};
+
+}  // namespace kzm::cli
+
+#endif

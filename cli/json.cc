@@ -1,0 +1,134 @@
+#include "cli/json.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <memory>
+#include <utility>
+
+#include "cli/errors.h"
+
+namespace kzm::cli {
+namespace {
+
+constexpr int kDeepest = 256;
+
+// A set of text attributes as it was given.
+class JsonAttributes final : public Object {
+ public:
+  explicit JsonAttributes(Json json) : json_(std::move(json)) {}
+  [[nodiscard]] const Json& json() const { return json_; }
+  [[nodiscard]] bool equals(const Object& other) const override {
+    const auto* attributes = dynamic_cast<const JsonAttributes*>(&other);
+    return attributes != nullptr && attributes->json_ == json_;
+  }
+
+ private:
+  Json json_;
+};
+
+template <class Range, class Text>
+std::string joined(char open, const Range& range, char close, const Text& text) {
+  std::string all(1, open);
+  for (const auto& element : range) {
+    if (all.size() > 1) all += ", ";
+    all += text(element);
+  }
+  return all + close;
+}
+
+}  // namespace
+
+Json parseJson(std::string_view text) {
+  const auto refuseDepth = [](int depth, Json::parse_event_t, Json&) {
+    if (depth > kDeepest) throw InputError("nested deeper than " + std::to_string(kDeepest) + " levels");
+    return true;
+  };
+  try {
+    return Json::parse(text, refuseDepth);
+  } catch (const Json::parse_error& error) {
+    throw InputError("malformed JSON at byte " + std::to_string(error.byte));
+  }
+}
+
+Value valueFromJson(const Json& json) {
+  switch (json.type()) {
+    case Json::value_t::boolean:
+      return json.get<bool>();
+    case Json::value_t::number_integer:
+      return json.get<std::int64_t>();
+    case Json::value_t::number_unsigned:
+      return json.get<std::uint64_t>();
+    case Json::value_t::number_float:
+      return json.get<double>();
+    case Json::value_t::string:
+      return json.get<std::string>();
+    case Json::value_t::array: {
+      Array elements;
+      for (const Json& element : json) elements.push_back(valueFromJson(element));
+      return elements;
+    }
+    case Json::value_t::object: {
+      Dictionary members;
+      for (const auto& [key, member] : json.items()) members.set(key, valueFromJson(member));
+      return members;
+    }
+    default:
+      return nullptr;
+  }
+}
+
+Value attributesFromJson(const Json& json) {
+  return json.is_null() ? Value() : Value(std::make_shared<const JsonAttributes>(json));
+}
+
+Dictionary optionsFromJson(const Json& json) {
+  Dictionary options;
+  for (const auto& [key, member] : json.items()) {
+    const bool isAttributes = key == "attributes-main" || key == "attributes-units";
+    options.set(key, isAttributes ? attributesFromJson(member) : valueFromJson(member));
+  }
+  return options;
+}
+
+std::string jsonText(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
+
+std::string jsonText(double number) {
+  if (std::isnan(number)) return "\"NaN\"";
+  if (std::isinf(number)) return number < 0 ? "\"-Infinity\"" : "\"Infinity\"";
+  char room[32];
+  std::string text(room, std::to_chars(room, room + sizeof room, number).ptr);
+  return text.find_first_of(".e") == std::string::npos ? text + ".0" : text;
+}
+
+std::string jsonText(std::string_view text) { return jsonText(Json(text)); }
+
+std::string jsonText(const Value& value) {
+  if (const bool* boolean = value.boolean()) return *boolean ? "true" : "false";
+  if (const std::int64_t* integer = value.integer()) return std::to_string(*integer);
+  if (const double* real = value.real()) return jsonText(*real);
+  if (const std::string* text = value.string()) return jsonText(std::string_view(*text));
+  if (const Dictionary* dictionary = value.dictionary()) return jsonText(*dictionary);
+  if (const Array* array = value.array()) {
+    return joined('[', *array, ']', [](const Value& element) { return jsonText(element); });
+  }
+  const auto* attributes = dynamic_cast<const JsonAttributes*>(value.object());
+  return attributes != nullptr ? jsonText(attributes->json()) : "null";
+}
+
+std::string jsonText(const Dictionary& dictionary) {
+  return joined('{', dictionary, '}', [](const Dictionary::Entry& entry) {
+    return jsonText(std::string_view(entry.key)) + ": " + jsonText(entry.value);
+  });
+}
+
+std::string jsonText(const AttributedString& text) {
+  const auto run = [](const AttributedString::Run& part) {
+    return "{\"text\": " + jsonText(std::string_view(part.text)) + ", \"attributes\": " + jsonText(part.attributes) +
+           "}";
+  };
+  return "{\"text\": " + jsonText(std::string_view(text.text())) + ", \"runs\": " + joined('[', text.runs(), ']', run) +
+         "}";
+}
+
+}  // namespace kzm::cli

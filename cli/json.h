@@ -1,0 +1,39 @@
+// JSON texts and the library's values.
+#ifndef KZM_CLI_JSON_H
+#define KZM_CLI_JSON_H
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+
+#include <KZMUtilities/attributed_string.h>
+#include <KZMUtilities/dictionary.h>
+
+namespace kzm::cli {
+
+using Json = nlohmann::json;
+
+/// Reads one JSON text. Malformed or absurdly deep ones are an InputError.
+[[nodiscard]] Json parseJson(std::string_view text);
+
+/// The JSON as a Value, an object's members with it.
+[[nodiscard]] Value valueFromJson(const Json& json);
+
+/// A set of text attributes: any JSON, carried through unread. JSON null is no attributes.
+[[nodiscard]] Value attributesFromJson(const Json& json);
+
+/// An options dictionary; its attribute sets are carried through unread.
+[[nodiscard]] Dictionary optionsFromJson(const Json& json);
+
+// One line of JSON each. Doubles are the shortest text that reads back to the same double, always with a point or an
+// exponent, and "NaN", "Infinity" and "-Infinity" as strings. Bytes that are no UTF-8 become U+FFFD.
+[[nodiscard]] std::string jsonText(const Json& json);
+[[nodiscard]] std::string jsonText(double number);
+[[nodiscard]] std::string jsonText(std::string_view text);
+[[nodiscard]] std::string jsonText(const Value& value);
+[[nodiscard]] std::string jsonText(const Dictionary& dictionary);
+[[nodiscard]] std::string jsonText(const AttributedString& text);
+
+}  // namespace kzm::cli
+
+#endif

@@ -1,0 +1,61 @@
+// kzmutil: the library's command-line companion.
+#include <csignal>
+#include <exception>
+#include <iostream>
+#include <vector>
+
+#include "cli/errors.h"
+#include "cli/verbs.h"
+
+namespace kzm::cli {
+namespace {
+
+struct Verb {
+  std::string_view name;
+  std::string_view does;
+  int (*run)(Words words);
+};
+constexpr Verb kVerbs[] = {
+    {"call", "call a function of the library by name, with JSON arguments", callVerb},
+    {"list", "list the functions that `call` knows",                        listVerb},
+};
+
+void printUsage(std::ostream& out) {
+  out << "usage: kzmutil VERB [ARGUMENT...]\n\n";
+  for (const Verb& verb : kVerbs) {
+    out << "  " << verb.name << std::string(10 - verb.name.size(), ' ') << verb.does << '\n';
+  }
+  out << "\n`kzmutil VERB --help` tells more of each.\n";
+}
+
+int run(Words words) {
+  if (words.empty()) {
+    printUsage(std::cerr);
+    return 2;
+  }
+  if (words.front() == "--help" || words.front() == "help") {
+    printUsage(std::cout);
+    return 0;
+  }
+  for (const Verb& verb : kVerbs) {
+    if (verb.name == words.front()) return verb.run(words.subspan(1));
+  }
+  throw InputError("no verb is named \"" + std::string(words.front()) + "\"; `kzmutil --help` lists them");
+}
+
+}  // namespace
+}  // namespace kzm::cli
+
+int main(int count, char** arguments) {
+  std::signal(SIGPIPE, SIG_IGN);  // a reader that has gone is a failed write, not the end of the program
+  const std::vector<std::string_view> words(arguments + 1, arguments + count);
+  try {
+    return kzm::cli::run(words);
+  } catch (const kzm::cli::InputError& error) {
+    std::cerr << "kzmutil: " << error.what() << '\n';
+    return 2;
+  } catch (const std::exception& error) {
+    std::cerr << "kzmutil: " << error.what() << '\n';
+    return 1;
+  }
+}

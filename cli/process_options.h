@@ -1,0 +1,20 @@
+// The options that every verb understands: those that decide for the whole process.
+#ifndef KZM_CLI_PROCESS_OPTIONS_H
+#define KZM_CLI_PROCESS_OPTIONS_H
+
+#include <string_view>
+
+#include "cli/verbs.h"
+
+namespace kzm::cli {
+
+/// Takes the option at the front and its value; the value is returned. An option without its value is an InputError.
+std::string_view takeValue(Words& words);
+
+/// Takes "--locale ID" or "--time-zone ID" off the front and puts it into force; false when neither stands there.
+/// An unknown time zone is an InputError.
+bool takeProcessOption(Words& words);
+
+}  // namespace kzm::cli
+
+#endif
