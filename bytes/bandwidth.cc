@@ -112,8 +112,8 @@ Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
 
 // Deliberate: two styles of one text differ when there are no decimals. The plain one groups thousands in the locale's
 // way, the attributed one never does.
-core::NumberText attributedNumber(const Reading& reading) {
-  return reading.decimals <= 0 ? core::NumberText::plainWhole(reading.value) : localizedNumber(reading);
+std::string attributedNumber(const Reading& reading) {
+  return reading.decimals <= 0 ? core::plainWhole(reading.value) : localizedNumber(reading).string();
 }
 
 }  // namespace

@@ -62,5 +62,5 @@ kzm::AttributedString KZMUtilitiesFormatDiskActivityWithAttributes(const kzm::Di
     return kzm::AttributedString("-", kzm::core::attributesOf(options, kzm::core::kAttributesMain));
   }
   const kzm::bytes::Reading reading = kzm::bytes::diskActivity(options, bytesPerSecond);
-  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading));
+  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading).string());
 }

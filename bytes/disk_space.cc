@@ -64,5 +64,5 @@ std::string KZMUtilitiesFormatSpace(const kzm::Dictionary& options, double bytes
 
 kzm::AttributedString KZMUtilitiesFormatSpaceWithAttributes(const kzm::Dictionary& options, double bytes) {
   const kzm::bytes::Reading reading = kzm::bytes::diskSpace(options, bytes);
-  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading));
+  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading).string());
 }

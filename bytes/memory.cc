@@ -62,5 +62,5 @@ std::string KZMUtilitiesFormatMemory(const kzm::Dictionary& options, double byte
 
 kzm::AttributedString KZMUtilitiesFormatMemoryWithAttributes(const kzm::Dictionary& options, double bytes) {
   const kzm::bytes::Reading reading = kzm::bytes::memory(options, bytes);
-  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading));
+  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading).string());
 }

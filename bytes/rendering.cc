@@ -15,17 +15,17 @@ Dictionary dataOf(const Reading& reading) {
 }
 
 core::NumberText localizedNumber(const Reading& reading) {
-  return core::numberText(core::warmFormatter(reading.digits, reading.decimals), reading.value);
+  return {core::warmFormatter(reading.digits, reading.decimals), reading.value};
 }
 
 std::string plainText(const Reading& reading) {
   if (reading.unit == nullptr) return {};
-  return reading.unit->filled(localizedNumber(reading).view());
+  return reading.unit->filled(localizedNumber(reading));
 }
 
-AttributedString attributedText(const Dictionary& options, const Reading& reading, const core::NumberText& number) {
+AttributedString attributedText(const Dictionary& options, const Reading& reading, std::string_view number) {
   if (reading.unit == nullptr) return {};
-  return reading.unit->composed(number.view(), core::attributesOf(options, core::kAttributesMain),
+  return reading.unit->composed(number, core::attributesOf(options, core::kAttributesMain),
                                 core::attributesOf(options, core::kAttributesUnits));
 }
 

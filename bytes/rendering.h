@@ -3,6 +3,7 @@
 #define KZM_BYTES_RENDERING_H
 
 #include <string>
+#include <string_view>
 
 #include <KZMUtilities/attributed_string.h>
 #include <KZMUtilities/dictionary.h>
@@ -23,7 +24,7 @@ namespace kzm::bytes {
 
 /// The same composed of number and unit, each in its attributes from the options.
 [[nodiscard]] AttributedString attributedText(const Dictionary& options, const Reading& reading,
-                                              const core::NumberText& number);
+                                              std::string_view number);
 
 }  // namespace kzm::bytes
 

@@ -27,7 +27,7 @@ NumberFormatter::NumberFormatter(std::int64_t minimumFractionDigits, std::int64_
       mostDigits_(std::max(leastDigits_, applied(maximum_))),
       symbols_(&port::currentNumberSymbols()) {}
 
-std::string NumberFormatter::string(double value) const { return std::string(core::numberText(*this, value).view()); }
+std::string NumberFormatter::string(double value) const { return core::NumberText(*this, value).string(); }
 
 }  // namespace kzm
 

@@ -4,7 +4,8 @@
 
 #include <array>
 #include <cstddef>
-#include <string_view>
+#include <cstdint>
+#include <string>
 
 #include <KZMUtilities/formatters.h>
 
@@ -15,32 +16,48 @@ namespace kzm::core {
 /// Counts of fraction digits are clamped to this when a number is written.
 inline constexpr int kMostFractionDigits = 340;
 
-/// A number as text, in room enough for the largest double with the most fraction digits in any locale.
+/// A number rounded and laid out, whose size is known before it is written: so it goes straight to its last place.
 class NumberText {
  public:
   /// Decimal style: at least `least` and at most `most` fraction digits, rounded half to even on the shortest decimal
   /// that reads back to `value`. Both counts are within 0..kMostFractionDigits, `least` not above `most`.
   NumberText(const NumberSymbols& symbols, int least, int most, double value) noexcept;
 
-  /// Whole-number style without locale: "1024", "-0", "nan", "inf", "-inf", every digit of the double, halves to even.
-  [[nodiscard]] static NumberText plainWhole(double value) noexcept;
+  /// As the formatter writes it.
+  NumberText(const NumberFormatter& formatter, double value) noexcept
+      : NumberText(formatter.symbols(), formatter.leastDigits(), formatter.mostDigits(), value) {}
 
-  [[nodiscard]] std::string_view view() const noexcept { return {bytes_.data(), size_}; }
+  /// Bytes of the text.
+  [[nodiscard]] std::size_t size() const noexcept { return size_; }
+  /// Writes the text, all its bytes, and gives the place behind it.
+  char* writeTo(char* to) const noexcept;
+  [[nodiscard]] std::string string() const;
 
  private:
-  NumberText() noexcept = default;
+  void layOut(int least, int most, double magnitude) noexcept;
+  bool roundQuickly(int most, double magnitude) noexcept;
+  void roundExactly(int most, double magnitude) noexcept;
+  [[nodiscard]] int separators() const noexcept;
+  char* writeDigits(char* end, int count, std::uint64_t& rest, const char*& last) const noexcept;
+  char* writeInteger(char* end, std::uint64_t rest, const char* last) const noexcept;
 
-  // 309 integer digits in groups of two at the least, and the fraction; symbols of up to 4 bytes; signs and marks.
-  static constexpr std::size_t kCapacity = 4 * (309 + 155 + kMostFractionDigits) + 64;
+  static constexpr int kMostIntegerDigits = 309;
 
+  const NumberSymbols& symbols_;
+  bool isNegative_ = false;
+  const std::string* word_ = nullptr;  // what stands for the digits of a number that has none
+  int integerDigits_ = 0;
+  int fractionDigits_ = 0;
   std::size_t size_ = 0;
-  std::array<char, kCapacity> bytes_;
+
+  // The digits, integer part and fraction together: a whole number when they were found quickly, else ASCII digits.
+  std::uint64_t whole_ = 0;
+  const char* digits_ = nullptr;
+  std::array<char, 1 + kMostIntegerDigits + kMostFractionDigits> room_;
 };
 
-/// The number as the formatter writes it.
-[[nodiscard]] inline NumberText numberText(const NumberFormatter& formatter, double value) noexcept {
-  return {formatter.symbols(), formatter.leastDigits(), formatter.mostDigits(), value};
-}
+/// Whole-number style without locale: "1024", "-0", "nan", "inf", "-inf", every digit of the double, halves to even.
+[[nodiscard]] std::string plainWhole(double value);
 
 }  // namespace kzm::core
 

@@ -18,7 +18,7 @@ const Template& percentageTemplate(const Dictionary& options) {
 
 NumberText percentageNumber(const Dictionary& options, double percent) {
   const NumberFormatter& formatter = warmFormatter(DigitRule::atMost, readInteger(options.find(kDecimals)));
-  return numberText(formatter, percent);
+  return {formatter, percent};
 }
 
 }  // namespace
@@ -26,12 +26,12 @@ NumberText percentageNumber(const Dictionary& options, double percent) {
 
 std::string KZMUtilitiesFormatPercentage(const kzm::Dictionary& options, double percent) {
   using namespace kzm::core;
-  return percentageTemplate(options).filled(percentageNumber(options, percent).view());
+  return percentageTemplate(options).filled(percentageNumber(options, percent));
 }
 
 kzm::AttributedString KZMUtilitiesFormatPercentageWithAttributes(const kzm::Dictionary& options, double percent) {
   using namespace kzm::core;
-  return percentageTemplate(options).composed(percentageNumber(options, percent).view(),
+  return percentageTemplate(options).composed(percentageNumber(options, percent).string(),
                                               attributesOf(options, kAttributesMain),
                                               attributesOf(options, kAttributesUnits));
 }

@@ -1,7 +1,8 @@
 #include "core/template.h"
 
-#include <cstring>
 #include <utility>
+
+#include "core/small_copy.h"
 
 namespace kzm::core {
 namespace {
@@ -34,14 +35,17 @@ Template::Template(std::string text) : text_(std::move(text)) {
   }
 }
 
-std::string Template::filled(std::string_view number) const {
+std::string Template::filled(const NumberText& number) const {
   if (!hasPlace_) return before_;
   std::string text(before_.size() + number.size() + after_.size(), '\0');
-  char* p = text.data();
-  std::memcpy(p, before_.data(), before_.size());
-  std::memcpy(p + before_.size(), number.data(), number.size());
-  std::memcpy(p + before_.size() + number.size(), after_.data(), after_.size());
+  putText(number.writeTo(putText(text.data(), before_)), after_);
   return text;
+}
+
+std::string Template::filled(std::string_view number) const {
+  if (!hasPlace_) return before_;
+  std::string text = before_;
+  return text.append(number).append(after_);
 }
 
 AttributedString Template::composed(std::string_view number, const Value& main, const Value& units) const {

@@ -7,6 +7,8 @@
 
 #include <KZMUtilities/attributed_string.h>
 
+#include "core/number_text.h"
+
 namespace kzm::core {
 
 /// A template, taken apart once so that filling it in copies three pieces. Its text is data: it may hold anything.
@@ -19,6 +21,7 @@ class Template {
   /// The format operation: the first "%@" or "%1$@" becomes the number, "%%" one percent sign, and all else stays, a
   /// lone "%" and a second "%@" too. A template without a place for the number gives its own text.
   [[nodiscard]] std::string filled(std::string_view number) const;
+  [[nodiscard]] std::string filled(const NumberText& number) const;
 
   /// The text exactly as it stands, in the attributes of the units, but for its first "%@", which becomes the number in
   /// the main attributes. No format operation here: "%%" stays two signs.

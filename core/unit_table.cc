@@ -58,8 +58,7 @@ UnitTexts unitTexts(const UnitTable& table) {
 std::string localizedUnit(std::string_view keyPrefix, std::string_view text, const char* comment) {
   std::string key(keyPrefix);
   key += text;
-  return KZMLocalizedStringFromTableInBundle(key, "KZMUtilities",
-                                             bundleWithIdentifier(kBundleIdentifier), comment);
+  return KZMLocalizedStringFromTableInBundle(key, "KZMUtilities", bundleWithIdentifier(kBundleIdentifier), comment);
 }
 
 }  // namespace kzm::core

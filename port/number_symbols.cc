@@ -56,6 +56,8 @@ std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale) {
     std::string& text = symbols.digits[static_cast<std::size_t>(digit)];
     text = utf8(source.getConstDigitSymbol(digit));
     symbols.digitsAreAscii = symbols.digitsAreAscii && text == std::to_string(digit);
+    symbols.digitBytes = symbols.digits[0].size();
+    if (text.empty() || text.size() != symbols.digitBytes) return std::nullopt;
   }
   symbols.decimalSeparator = utf8(source.getConstSymbol(Symbol::kDecimalSeparatorSymbol));
   symbols.groupSeparator = utf8(source.getConstSymbol(Symbol::kGroupingSeparatorSymbol));

@@ -3,6 +3,7 @@
 #define KZM_PORT_NUMBER_SYMBOLS_H
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,7 @@ namespace kzm {
 struct NumberSymbols {
   std::array<std::string, 10> digits;
   bool digitsAreAscii = true;
+  std::size_t digitBytes = 1;  // every digit of a script has the same size
   std::string decimalSeparator;
   std::string groupSeparator;
   std::string negativePrefix;  // the minus, with whatever invisible marks the locale puts beside it

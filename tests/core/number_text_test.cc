@@ -22,7 +22,7 @@ const NumberSymbols& symbolsOf(const std::string& locale) {
 }
 
 std::string text(const std::string& locale, int least, int most, double value) {
-  return std::string(NumberText(symbolsOf(locale), least, most, value).view());
+  return NumberText(symbolsOf(locale), least, most, value).string();
 }
 
 TEST(NumberText, RoundsHalfToEvenOnTheShortestDecimal) {
@@ -160,7 +160,7 @@ TEST(NumberText, PlainWholeNumbersHaveNoLocale) {
       {1e23,       "99999999999999991611392"},
       {-1234567.0, "-1234567"               },
   };
-  for (const Case& c : cases) EXPECT_EQ(NumberText::plainWhole(c.value).view(), c.text) << c.value;
+  for (const Case& c : cases) EXPECT_EQ(plainWhole(c.value), c.text) << c.value;
 }
 
 // The locale library's own formatter is the reference for what a number looks like; ours is faster, and equal.
