@@ -19,10 +19,20 @@ std::string text(std::string_view key) {
   return KZMLocalizedStringFromTableInBundle(key, "KZMUtilities", bundle(), nullptr);
 }
 
-constexpr std::string_view kLanguages[] = {
-    "ar", "bg", "bn", "ca", "cs", "da",      "de", "el", "en", "es", "et", "eu", "fa",      "fi",     "fr", "gl",
-    "he", "hi", "hr", "hu", "id", "is",      "it", "ja", "ko", "lt", "lv", "ms", "nb",      "nl",     "pl", "pt-PT",
-    "pt", "ro", "ru", "sk", "sl", "sr-Latn", "sr", "sv", "th", "tr", "uk", "vi", "zh-Hans", "zh-Hant"};
+constexpr std::string_view kLanguages =
+    "ar bg bn ca cs da de el en es et eu fa fi fr gl he hi "
+    "hr hu id is it ja ko lt lv ms nb nl pl pt pt-PT ro ru sk "
+    "sl sr sr-Latn sv th tr uk vi zh-Hans zh-Hant";
+
+std::vector<std::string> words(std::string_view list) {
+  std::vector<std::string> found;
+  while (!list.empty()) {
+    const std::string_view word = list.substr(0, list.find(' '));
+    found.emplace_back(word);
+    list.remove_prefix(std::min(list.size(), word.size() + 1));
+  }
+  return found;
+}
 
 TEST(StringTables, AreFoundByTheirIdentifierAlone) {
   ASSERT_NE(bundle(), nullptr);
@@ -34,12 +44,13 @@ TEST(StringTables, AreFoundByTheirIdentifierAlone) {
 }
 
 TEST(StringTables, ThereIsOneForEveryLanguage) {
-  std::set<std::string_view> languages;
+  std::multiset<std::string> languages;
   for (const StringTable& table : bundle()->tables) {
     EXPECT_EQ(table.name, "KZMUtilities");
-    EXPECT_TRUE(languages.insert(table.language).second) << table.language;
+    languages.emplace(table.language);
   }
-  EXPECT_EQ(languages, std::set<std::string_view>(std::begin(kLanguages), std::end(kLanguages)));
+  const std::vector<std::string> expected = words(kLanguages);
+  EXPECT_EQ(languages, std::multiset<std::string>(expected.begin(), expected.end()));
 }
 
 TEST(StringTables, EveryLanguageHasAllRowsOfAllFamilies) {
@@ -180,16 +191,6 @@ constexpr TextCase kTexts[] = {
     {"xx",                 "Units.Weather.West",       "West"                  },
     {"C",                  "Units.Weather.West",       "West"                  },
 };
-
-std::vector<std::string> words(std::string_view list) {
-  std::vector<std::string> found;
-  while (!list.empty()) {
-    const std::string_view word = list.substr(0, list.find(' '));
-    found.emplace_back(word);
-    list.remove_prefix(std::min(list.size(), word.size() + 1));
-  }
-  return found;
-}
 
 TEST(StringTables, SayInEachLanguageWhatItsReadersExpect) {
   for (const TextCase& test : kTexts) {
