@@ -2,15 +2,16 @@
 
 #include <atomic>
 #include <memory>
-#include <vector>
+#include <mutex>
 #include <unicode/localematcher.h>
+#include <vector>
 
 #include "port/environment_locale.h"
 
 namespace kzm::localization {
 namespace {
 
-/// A choice in the chain of those made for one list of languages. The chain only ever grows at its head.
+/// A choice in the chain of those made for one list of languages. The chain only ever grows, at its head.
 struct Link {
   Choice choice;
   const Link* next;
@@ -27,6 +28,9 @@ struct Wanted {
 // Never destroyed: texts are asked for up to the very end of the process, from the destructors of static objects too.
 constinit std::atomic<Wanted*> gWanted{nullptr};
 
+// Held while something is made or replaced; what is there is read without it.
+constinit std::mutex gMaking;
+
 std::unique_ptr<Wanted> wanted(std::span<const std::string> identifiers) {
   auto list = std::make_unique<Wanted>();
   for (const std::string& identifier : identifiers) {
@@ -38,12 +42,12 @@ std::unique_ptr<Wanted> wanted(std::span<const std::string> identifiers) {
 }
 
 Wanted& current() {
-  Wanted* list = gWanted.load(std::memory_order_acquire);
-  if (list != nullptr) return *list;
-  std::unique_ptr<Wanted> fresh = wanted(port::textLocales());
-  // Whoever comes second takes what is there, be it another thread's or the host's own choice.
-  if (!gWanted.compare_exchange_strong(list, fresh.get(), std::memory_order_acq_rel)) return *list;
-  return *fresh.release();
+  if (Wanted* list = gWanted.load(std::memory_order_acquire)) return *list;
+  const std::lock_guard lock(gMaking);
+  if (Wanted* list = gWanted.load(std::memory_order_acquire)) return *list;
+  Wanted* fresh = wanted(port::textLocales()).release();
+  gWanted.store(fresh, std::memory_order_release);
+  return *fresh;
 }
 
 std::vector<const StringTable*> tablesNamed(const ResourceBundle& bundle, std::string_view name) {
@@ -90,30 +94,33 @@ const Choice* findChoice(const Wanted& list, const ResourceBundle& bundle, std::
   return link == nullptr ? nullptr : &link->choice;
 }
 
-/// Two threads may both add the same choice; they are equal, and either will do.
 const Choice* addChoice(Wanted& list, const Choice& choice) {
-  auto link = std::make_unique<Link>(Link{choice, list.choices.load(std::memory_order_acquire)});
-  while (!list.choices.compare_exchange_weak(link->next, link.get(), std::memory_order_acq_rel)) {
-  }
-  return &link.release()->choice;
+  const Link* link = new Link{choice, list.choices.load(std::memory_order_acquire)};
+  list.choices.store(link, std::memory_order_release);
+  return &link->choice;
+}
+
+const Choice* makeChoice(Wanted& list, const ResourceBundle& bundle, std::string_view table) {
+  const std::vector<const StringTable*> tables = tablesNamed(bundle, table);
+  if (tables.empty()) return nullptr;
+  const std::lock_guard lock(gMaking);
+  const Choice* made = findChoice(list, bundle, table);
+  return made != nullptr ? made : addChoice(list, choose(bundle, tables, list.languages));
 }
 
 }  // namespace
 
 const Choice* choiceFor(const ResourceBundle& bundle, std::string_view table) {
   Wanted& list = current();
-  if (const Choice* choice = findChoice(list, bundle, table)) return choice;
-  const std::vector<const StringTable*> tables = tablesNamed(bundle, table);
-  return tables.empty() ? nullptr : addChoice(list, choose(bundle, tables, list.languages));
+  const Choice* made = findChoice(list, bundle, table);
+  return made != nullptr ? made : makeChoice(list, bundle, table);
 }
 
 void setLanguages(std::span<const std::string> identifiers) {
+  const std::lock_guard lock(gMaking);
   std::unique_ptr<Wanted> fresh = wanted(identifiers);
-  Wanted* before = gWanted.load(std::memory_order_acquire);
-  do {
-    fresh->replaced = before;
-  } while (!gWanted.compare_exchange_weak(before, fresh.get(), std::memory_order_acq_rel));
-  static_cast<void>(fresh.release());
+  fresh->replaced = gWanted.load(std::memory_order_acquire);
+  gWanted.store(fresh.release(), std::memory_order_release);
 }
 
 }  // namespace kzm::localization

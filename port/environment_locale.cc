@@ -67,7 +67,8 @@ icu::Locale canonical(const std::string& name) { return icu::Locale::createCanon
 
 std::string canonicalName(const std::string& name) {
   const icu::Locale locale = canonical(name);
-  return locale.isBogus() ? std::string() : locale.getName();
+  // The undetermined language, "und", has become an empty one.
+  return locale.isBogus() || *locale.getLanguage() == '\0' ? std::string() : locale.getName();
 }
 
 bool isLanguageKnown(const std::string& identifier) {
@@ -81,7 +82,7 @@ bool isLanguageKnown(const std::string& identifier) {
 /// No locale at all, which is what gettext too takes as a wish for untranslated texts.
 bool isPlain(std::string_view name) {
   const std::string_view head = name.substr(0, name.find_first_of(".@"));
-  return head.empty() || head == "C" || head == "POSIX";
+  return name.empty() || head == "C" || head == "POSIX";
 }
 
 std::string_view valueOf(const Environment& environment, const char* name) {

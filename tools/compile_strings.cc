@@ -305,7 +305,7 @@ void writeSource(std::ostream& out, const std::vector<Table>& tables, const std:
 
 void compile(const std::string& developmentLanguage, const fs::path& output, const std::vector<fs::path>& paths) {
   std::vector<Table> tables;
-  for (const fs::path& path : paths) tables.push_back(readTable(path));
+  std::ranges::transform(paths, std::back_inserter(tables), readTable);
   checkAll(tables, developmentLanguage);
   std::ofstream file(output, std::ios::binary);
   writeSource(file, tables, developmentLanguage);

@@ -1,0 +1,177 @@
+// How a text is found: the language that serves best, key by key, with a small bundle of the test's own.
+#include <array>
+#include <barrier>
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <KZMLocalization/KZMLocalization.h>
+
+namespace kzm {
+namespace {
+
+// The French table lacks a key of the English one, and has one that is not there.
+constexpr LocalizedText kEnglish[] = {
+    {"Units.Test.%@ cats", "%@ cats"},
+    {"Units.Test.%@ dogs", "%@ dogs"},
+};
+constexpr LocalizedText kFrench[] = {
+    {"Units.Test.%@ birds", "%@ oiseaux"},
+    {"Units.Test.%@ cats",  "%@ chats"  },
+};
+constexpr LocalizedText kGerman[] = {
+    {"Units.Test.%@ cats", "%@ Katzen"},
+    {"Units.Test.%@ dogs", "%@ Hunde" },
+};
+constexpr LocalizedText kOther[] = {
+    {"Units.Test.%@ cats", "%@ felines"},
+};
+constexpr StringTable kTables[] = {
+    {"de", "Animals", kGerman },
+    {"en", "Animals", kEnglish},
+    {"en", "Other",   kOther  },
+    {"fr", "Animals", kFrench },
+};
+constexpr ResourceBundle kBundle{"org.kzm.tests", "en", kTables};
+constexpr ResourceBundle kEmptyBundle{"org.kzm.empty", "en", {}};
+constexpr ResourceBundle kGermanBundle{"org.kzm.german", "de", kTables};
+constexpr ResourceBundle kOddBundle{"org.kzm.odd", "xx", kTables};
+
+void want(const std::vector<std::string>& languages) { KZMLocalizationSetLanguages(languages); }
+
+std::string text(std::string_view key, std::string_view table = "Animals", const ResourceBundle* bundle = &kBundle) {
+  return KZMLocalizedStringFromTableInBundle(key, table, bundle, "a hint");
+}
+
+TEST(Localization, MissingKeysComeOneByOneFromTheDevelopmentLanguage) {
+  want({"fr_FR"});
+  EXPECT_EQ(text("Units.Test.%@ cats"), "%@ chats");
+  EXPECT_EQ(text("Units.Test.%@ dogs"), "%@ dogs");
+  EXPECT_EQ(text("Units.Test.%@ birds"), "%@ oiseaux");
+  want({"de_DE"});
+  EXPECT_EQ(text("Units.Test.%@ birds"), "%@ birds");
+}
+
+TEST(Localization, EveryTableHasItsOwnLanguages) {
+  want({"fr_FR"});
+  EXPECT_EQ(text("Units.Test.%@ cats", "Other"), "%@ felines");
+  EXPECT_EQ(text("Units.Test.%@ cats", "Animals"), "%@ chats");
+}
+
+TEST(Localization, EveryBundleHasItsOwnDevelopmentLanguage) {
+  want({"ja_JP"});
+  EXPECT_EQ(text("Units.Test.%@ cats", "Animals", &kBundle), "%@ cats");
+  EXPECT_EQ(text("Units.Test.%@ cats", "Animals", &kGermanBundle), "%@ Katzen");
+  EXPECT_EQ(text("Units.Test.%@ cats", "Animals", &kOddBundle), "%@ cats") << "no such table: the template";
+}
+
+TEST(Localization, WantedLanguagesAreTriedInOrderAndReplaceEarlierOnes) {
+  want({"xx", "fr", "de"});
+  EXPECT_EQ(text("Units.Test.%@ cats"), "%@ chats");
+  want({"de-CH", "fr"});
+  EXPECT_EQ(text("Units.Test.%@ cats"), "%@ Katzen");
+  want({});
+  EXPECT_EQ(text("Units.Test.%@ cats"), "%@ cats");
+  want({"", "C", "../../x", "garbage!!", std::string(100000, 'x'), "\xFF\xFE"});
+  EXPECT_EQ(text("Units.Test.%@ cats"), "%@ cats");
+}
+
+struct TemplateCase {
+  const char* why;
+  std::string_view key;
+  std::string_view text;
+};
+
+constexpr TemplateCase kTemplates[] = {
+    {"a family's prefix",               "Units.Network.%@ zz",   "%@ zz"            },
+    {"any letters",                     "Units.aZ.%@",           "%@"               },
+    {"only the first prefix",           "Units.A.Units.B.%@",    "Units.B.%@"       },
+    {"a point in the template",         "Units.A.%@ a.b",        "%@ a.b"           },
+    {"nothing behind the prefix",       "Units.A.",              ""                 },
+    {"no family",                       "Units..%@",             "Units..%@"        },
+    {"digits are no family",            "Units.A1.%@",           "Units.A1.%@"      },
+    {"no end of the family",            "Units.Network",         "Units.Network"    },
+    {"no family at all",                "Units.",                "Units."           },
+    {"another prefix",                  "Words.Network.%@",      "Words.Network.%@" },
+    {"another letter case",             "units.Network.%@",      "units.Network.%@" },
+    {"the prefix further on",           " Units.Network.%@",     " Units.Network.%@"},
+    {"a bare template",                 "%@ GB",                 "%@ GB"            },
+    {"empty",                           "",                      ""                 },
+    {"null",                            std::string_view(),      ""                 },
+    {"not UTF-8",                       "Units.Test.\xFF\xFE%@", "\xFF\xFE%@"       },
+    {"printf directives are text",      "Units.Test.%s%n%@",     "%s%n%@"           },
+    {"just before the first known key", "Units.Test.%@ cat",     "%@ cat"           },
+    {"just behind the last known key",  "Units.Test.%@ dogs ",   "%@ dogs "         },
+};
+
+TEST(Localization, UnknownKeysTablesAndBundlesGiveTheTemplate) {
+  want({"fr"});
+  for (const TemplateCase& test : kTemplates) {
+    EXPECT_EQ(text(test.key), test.text) << test.why;
+    EXPECT_EQ(text(test.key, "No such table"), test.text) << test.why;
+    EXPECT_EQ(text(test.key, {}), test.text) << test.why;
+    EXPECT_EQ(text(test.key, "Animals", &kEmptyBundle), test.text) << test.why;
+    EXPECT_EQ(text(test.key, "Animals", nullptr), test.text) << test.why;
+  }
+  EXPECT_EQ(text("Units.Test.%@ cats", "Animals", nullptr), "%@ cats");
+}
+
+TEST(Localization, NullCharactersAreCharacters) {
+  EXPECT_EQ(text(std::string_view("Units.Test.%@\0x", 15)), std::string_view("%@\0x", 4));
+}
+
+TEST(Localization, HugeKeysAreSurvived) {
+  const std::string huge(10'000'000, 'x');
+  EXPECT_EQ(text("Units.Test." + huge), huge);
+  EXPECT_EQ(text("Units." + huge), "Units." + huge);
+  EXPECT_EQ(text("Units.Test.%@ cats", huge), "%@ cats");
+}
+
+TEST(Localization, TheNameOfATableNeedNotOutliveTheCall) {
+  want({"de"});
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(text("Units.Test.%@ cats", std::string("Animals")), "%@ Katzen");
+}
+
+TEST(Localization, AHintMayBeAbsent) {
+  want({"de"});
+  EXPECT_EQ(KZMLocalizedStringFromTableInBundle("Units.Test.%@ cats", "Animals", &kBundle, nullptr), "%@ Katzen");
+}
+
+/// Calls `body` with the thread's number from all threads at once.
+template <typename Body>
+void together(int threads, const Body& body) {
+  std::barrier start(threads);
+  std::vector<std::jthread> running;
+  for (int i = 0; i < threads; ++i) {
+    running.emplace_back([&start, &body, i] {
+      start.arrive_and_wait();
+      body(i);
+    });
+  }
+}
+
+TEST(LocalizationConcurrency, ThreadsThatComeFirstTogetherGetTheSameText) {
+  constexpr int kThreads = 8;
+  for (int round = 0; round < 50; ++round) {
+    want({round % 2 == 0 ? "fr" : "de"});
+    std::array<std::string, kThreads> texts;
+    together(kThreads, [&](int i) { texts[static_cast<std::size_t>(i)] = text("Units.Test.%@ cats"); });
+    for (const std::string& each : texts) EXPECT_EQ(each, round % 2 == 0 ? "%@ chats" : "%@ Katzen");
+  }
+}
+
+TEST(LocalizationConcurrency, LanguagesMayChangeWhileTextsAreRead) {
+  const std::set<std::string> possible{"%@ chats", "%@ Katzen"};
+  want({"fr"});
+  together(4, [&](int i) {
+    for (int round = 0; round < 200; ++round) {
+      if (i == 0) want({round % 2 == 0 ? "de" : "fr"});
+      EXPECT_TRUE(possible.contains(text("Units.Test.%@ cats")));
+    }
+  });
+}
+
+}  // namespace
+}  // namespace kzm

@@ -1,0 +1,203 @@
+// The library's own string tables as they were embedded: what stands in every language, and what each one says.
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <KZMLocalization/KZMLocalization.h>
+
+#include "resources/bundle.h"
+
+namespace kzm {
+namespace {
+
+const ResourceBundle* bundle() { return resources::bundleWithIdentifier("org.kzm.utilities"); }
+
+std::string text(std::string_view key) {
+  return KZMLocalizedStringFromTableInBundle(key, "KZMUtilities", bundle(), nullptr);
+}
+
+constexpr std::string_view kLanguages =
+    "ar bg bn ca cs da de el en es et eu fa fi fr gl he hi "
+    "hr hu id is it ja ko lt lv ms nb nl pl pt pt-PT ro ru sk "
+    "sl sr sr-Latn sv th tr uk vi zh-Hans zh-Hant";
+
+std::vector<std::string> words(std::string_view list) {
+  std::vector<std::string> found;
+  while (!list.empty()) {
+    const std::string_view word = list.substr(0, list.find(' '));
+    found.emplace_back(word);
+    list.remove_prefix(std::min(list.size(), word.size() + 1));
+  }
+  return found;
+}
+
+TEST(StringTables, AreFoundByTheirIdentifierAlone) {
+  ASSERT_NE(bundle(), nullptr);
+  EXPECT_EQ(bundle()->identifier, resources::kBundleIdentifier);
+  EXPECT_EQ(bundle()->developmentLanguage, "en");
+  for (const char* other : {"", "org.kzm", "org.kzm.utilities.", "org.kzm.Utilities"}) {
+    EXPECT_EQ(resources::bundleWithIdentifier(other), nullptr) << other;
+  }
+}
+
+TEST(StringTables, ThereIsOneForEveryLanguage) {
+  std::multiset<std::string> languages;
+  for (const StringTable& table : bundle()->tables) {
+    EXPECT_EQ(table.name, "KZMUtilities");
+    languages.emplace(table.language);
+  }
+  const std::vector<std::string> expected = words(kLanguages);
+  EXPECT_EQ(languages, std::multiset<std::string>(expected.begin(), expected.end()));
+}
+
+TEST(StringTables, EveryLanguageHasAllRowsOfAllFamilies) {
+  const std::map<std::string, int> rows{
+      {"Network",  30},
+      {"Activity", 9 },
+      {"Space",    15},
+      {"Memory",   15},
+      {"Sensors",  29},
+      {"Weather",  29}
+  };
+  for (const StringTable& table : bundle()->tables) {
+    std::map<std::string, int> counted;
+    for (const LocalizedText& row : table.texts) {
+      const std::string_view family = row.key.substr(6, row.key.find('.', 6) - 6);
+      ++counted[std::string(family)];
+    }
+    EXPECT_EQ(counted, rows) << table.language;
+    EXPECT_TRUE(std::ranges::is_sorted(table.texts, {}, &LocalizedText::key)) << table.language;
+  }
+}
+
+TEST(StringTables, ABlankStandsBetweenNumberAndUnitWhereTheKeyHasOne) {
+  for (const StringTable& table : bundle()->tables) {
+    for (const LocalizedText& row : table.texts) {
+      const bool spaced = row.key.find("%@ ") != std::string_view::npos;
+      EXPECT_EQ(row.text.starts_with("%@ "), spaced) << table.language << " " << row.key;
+    }
+  }
+}
+
+TEST(StringTables, SpacedAndUnspacedRowsSayTheSame) {
+  for (const StringTable& table : bundle()->tables) {
+    const std::map<std::string_view, std::string_view> texts = [&] {
+      std::map<std::string_view, std::string_view> found;
+      for (const LocalizedText& row : table.texts) found[row.key] = row.text;
+      return found;
+    }();
+    for (const auto& [key, spaced] : texts) {
+      const std::size_t blank = key.find("%@ ");
+      if (blank == std::string_view::npos) continue;
+      const std::string twin = std::string(key.substr(0, blank + 2)) + std::string(key.substr(blank + 3));
+      const auto unspaced = texts.find(twin);
+      if (unspaced == texts.end()) continue;
+      EXPECT_EQ("%@" + std::string(spaced.substr(3)), unspaced->second) << table.language << " " << key;
+    }
+  }
+}
+
+TEST(StringTables, BitsNeverReadLikeBytes) {
+  for (const StringTable& table : bundle()->tables) {
+    KZMLocalizationSetLanguages(std::vector<std::string>{std::string(table.language)});
+    for (const char* level : {"G", "M", "K"}) {
+      const std::string unit(level);
+      const std::string bits = text("Units.Network.%@ " + unit + "b/s");
+      const std::string bytes = text("Units.Network.%@ " + unit + "B/s");
+      EXPECT_NE(bits, bytes) << table.language;
+      EXPECT_NE(text("Units.Network.%@ " + unit + "b"), text("Units.Network.%@ " + unit + "B")) << table.language;
+    }
+  }
+}
+
+/// Marks that change the direction of text have no place in units: the texts are right without them.
+TEST(StringTables, HoldNoDirectionMarks) {
+  for (const StringTable& table : bundle()->tables) {
+    for (const LocalizedText& row : table.texts) {
+      for (const char* mark : {"\u061C", "\u200E", "\u200F", "\u202A", "\u202B", "\u202C", "\u202D", "\u202E", "\u2066",
+                               "\u2067", "\u2068", "\u2069", "\uFEFF"}) {
+        EXPECT_EQ(row.text.find(mark), std::string_view::npos) << table.language << " " << row.key;
+      }
+    }
+  }
+}
+
+TEST(StringTables, EnglishTextsAreTheTemplates) {
+  KZMLocalizationSetLanguages(std::vector<std::string>{"en_US"});
+  EXPECT_EQ(text("Units.Network.%@ G"), "%@ G");
+  EXPECT_EQ(text("Units.Activity.%@KB/s"), "%@KB/s");
+  EXPECT_EQ(text("Units.Space.%@ PB"), "%@ PB");
+  EXPECT_EQ(text("Units.Memory.%@T"), "%@T");
+  EXPECT_EQ(text("Units.Sensors.%@°"), "%@°");
+  EXPECT_EQ(text("Units.Sensors.Off"), "Off");
+  EXPECT_EQ(text("Units.Weather.%@\""), "%@\"");
+  EXPECT_EQ(text("Units.Weather.%@%%"), "%@%%");
+  EXPECT_EQ(text("Units.Weather.South West"), "South West");
+}
+
+struct TextCase {
+  const char* languages;  // one or more, separated by blanks
+  const char* key;
+  const char* text;
+};
+
+constexpr TextCase kTexts[] = {
+    {"de_CH",              "Units.Weather.North East", "Nordosten"             },
+    {"de_AT",              "Units.Sensors.%@ rpm",     "%@ U/min"              },
+    {"fr_FR",              "Units.Network.%@ G",       "%@ G"                  },
+    {"fr_FR",              "Units.Network.%@KB/s",     "%@Ko/s"                },
+    {"fr_CA",              "Units.Network.%@ Mb/s",    "%@ Mbit/s"             },
+    {"fr_FR",              "Units.Space.%@PB",         "%@Po"                  },
+    {"fr_FR",              "Units.Weather.%@ knots",   "%@ nœuds"             },
+    {"fr_FR",              "Units.Weather.North East", "Nord-Est"              },
+    {"fi_FI",              "Units.Memory.%@ KB",       "%@ Kt"                 },
+    {"fi_FI",              "Units.Weather.South East", "Kaakko"                },
+    {"ru_RU",              "Units.Network.%@ Kb/s",    "%@ Кбит/с"        },
+    {"ru_RU",              "Units.Activity.%@MB/s",    "%@МБ/с"             },
+    {"ru_RU",              "Units.Space.%@T",          "%@Т"                  },
+    {"ru_RU",              "Units.Sensors.%@ mAh",     "%@ мА·ч"           },
+    {"uk_UA",              "Units.Weather.%@km/h",     "%@км/год"         },
+    {"bg_BG",              "Units.Space.%@ GB",        "%@ ГБ"               },
+    {"no_NO",              "Units.Weather.North East", "Nordøst"              },
+    {"nn_NO",              "Units.Weather.%@ Days",    "%@ døgn"              },
+    {"nb_NO",              "Units.Weather.%@ km/h",    "%@ km/t"               },
+    {"da_DK",              "Units.Network.%@Gb/s",     "%@Gbit/s"              },
+    {"sr_RS",              "Units.Weather.North East", "Североисток"},
+    {"sr_RS@latin",        "Units.Weather.North East", "Severoistok"           },
+    {"sr_Latn_RS",         "Units.Weather.North East", "Severoistok"           },
+    {"pt_BR",              "Units.Weather.East",       "Leste"                 },
+    {"pt_PT",              "Units.Weather.East",       "Este"                  },
+    {"pt_AO",              "Units.Weather.East",       "Este"                  },
+    {"zh_CN",              "Units.Weather.%@ m/s",     "%@ 米/秒"            },
+    {"zh_TW",              "Units.Weather.%@ m/s",     "%@ 公尺/秒"         },
+    {"zh_HK",              "Units.Sensors.Off",        "關閉"                },
+    {"zh_SG",              "Units.Sensors.Off",        "关闭"                },
+    {"ja_JP",              "Units.Activity.%@ MB/s",   "%@ MB/秒"             },
+    {"ko_KR",              "Units.Weather.%@ miles",   "%@ 마일"             },
+    {"tr_TR",              "Units.Weather.%@%%",       "%%%@"                  },
+    {"he_IL",              "Units.Weather.%@ km/h",    "%@ קמ״ש"           },
+    {"iw_IL",              "Units.Weather.North",      "צפון"              },
+    {"ar_EG",              "Units.Memory.%@ MB",       "%@ ميغابايت"   },
+    {"ar_EG",              "Units.Network.%@ Mb",      "%@ ميغابت"       },
+    {"fa_IR",              "Units.Space.%@ GB",        "%@ گیگابایت"   },
+    {"hi_IN@numbers=deva", "Units.Weather.%@mm",       "%@मि॰मी॰"  },
+    {"es_419",             "Units.Weather.North West", "Noroeste"              },
+    {"el_GR",              "Units.Weather.%@ m/s",     "%@ μ./δευτ."      },
+    {"xx fr",              "Units.Weather.West",       "Ouest"                 },
+    {"gsw_CH",             "Units.Weather.%@ Days",    "%@ Tage"               },
+    {"xx",                 "Units.Weather.West",       "West"                  },
+    {"C",                  "Units.Weather.West",       "West"                  },
+};
+
+TEST(StringTables, SayInEachLanguageWhatItsReadersExpect) {
+  for (const TextCase& test : kTexts) {
+    KZMLocalizationSetLanguages(words(test.languages));
+    EXPECT_EQ(text(test.key), test.text) << test.languages << " " << test.key;
+  }
+}
+
+}  // namespace
+}  // namespace kzm
