@@ -5,7 +5,8 @@
 // user's configuration directory (XDG_CONFIG_HOME, else ~/.config). A missing, broken or unreadable file means that
 // there are no settings; a broken or unreadable one is told in one line of the log.
 //
-// Every function may be called from any thread at any time. A read takes no lock.
+// Every function may be called from any thread at any time, also while a thread or the process ends. A read takes no lock
+// unless the settings changed since the thread's last one, and reading a number does not allocate.
 #ifndef KZMSETTINGS_H
 #define KZMSETTINGS_H
 
@@ -20,7 +21,9 @@
 
 /// Stores the setting at the key path; a null object removes it. The file is replaced as a whole or not at all.
 /// Returns false, and leaves every setting as it was, when the object holds something that JSON cannot (an opaque
-/// object, a number that is not finite), when the stored file is broken, or when the file cannot be written.
+/// object, a number that is not finite, text that is not UTF-8) or is nested too deep (64 levels with the file's own),
+/// when the file would grow beyond 1 MiB, when it is broken, when it cannot be written, or when another process keeps
+/// it locked for two seconds.
 [[nodiscard]] KZM_EXPORT bool KZMSettingsSetObjectForKeyPath(const kzm::Value& object, std::string_view keyPath);
 
 /// All settings, key path to value.
