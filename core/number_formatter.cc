@@ -27,6 +27,8 @@ NumberFormatter::NumberFormatter(std::int64_t minimumFractionDigits, std::int64_
       mostDigits_(std::max(leastDigits_, applied(maximum_))),
       symbols_(&port::currentNumberSymbols()) {}
 
+NumberFormatter::~NumberFormatter() = default;
+
 std::string NumberFormatter::string(double value) const { return core::NumberText(*this, value).string(); }
 
 }  // namespace kzm

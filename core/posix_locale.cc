@@ -3,6 +3,8 @@
 #include "core/shared.h"
 #include "port/posix_variant.h"
 
+kzm::Locale::~Locale() = default;
+
 std::shared_ptr<const kzm::Locale> KZMUtilitiesPosixLocale(std::shared_ptr<const kzm::Locale> locale) {
   if (locale == nullptr) return nullptr;
   const std::string& identifier = locale->identifier();

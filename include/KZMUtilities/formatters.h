@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include <KZMUtilities/dictionary.h>
 #include <KZMUtilities/export.h>
@@ -31,6 +32,9 @@ class KZM_EXPORT NumberFormatter final : public Object {
   /// A formatter in the current locale. Any counts are taken and given back as they are; when a number is formatted
   /// they are clamped to 0..340, and a minimum above the maximum raises it.
   NumberFormatter(std::int64_t minimumFractionDigits, std::int64_t maximumFractionDigits);
+  NumberFormatter(const NumberFormatter&) = default;
+  NumberFormatter& operator=(const NumberFormatter&) = default;
+  ~NumberFormatter() override;
 
   [[nodiscard]] std::int64_t minimumFractionDigits() const noexcept { return minimum_; }
   [[nodiscard]] std::int64_t maximumFractionDigits() const noexcept { return maximum_; }
@@ -55,6 +59,9 @@ class KZM_EXPORT NumberFormatter final : public Object {
 class KZM_EXPORT Locale final : public Object {
  public:
   explicit Locale(std::string identifier) : identifier_(std::move(identifier)) {}
+  Locale(const Locale&) = default;
+  Locale& operator=(const Locale&) = default;
+  ~Locale() override;
   [[nodiscard]] const std::string& identifier() const noexcept { return identifier_; }
 
  private:

@@ -166,9 +166,9 @@ TEST_F(CompileStrings, GoodTablesAreWrittenSortedByKeyWithTheirTextsAsTheyStand)
   EXPECT_EQ(outcome.output, "");
   ASSERT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(written(), R"(// Written by tools/compile_strings from the string tables; changes belong there.
-#include "resources/bundle.h"
+#include <KZMUtilities/resources.h>
 
-namespace kzm::resources {
+namespace kzm {
 namespace {
 
 constexpr LocalizedText kTexts0[] = {
@@ -198,7 +198,7 @@ const ResourceBundle* bundleWithIdentifier(std::string_view identifier) noexcept
   return identifier == kBundleIdentifier ? &kBundle : nullptr;
 }
 
-}  // namespace kzm::resources
+}  // namespace kzm
 )");
 }
 

@@ -9,13 +9,13 @@
 
 #include <KZMLocalization/KZMLocalization.h>
 
-#include "resources/bundle.h"
+#include <KZMUtilities/resources.h>
 
 namespace {
 
 std::string textFor(const std::string& key) {
   return KZMLocalizedStringFromTableInBundle(
-      key, "KZMUtilities", kzm::resources::bundleWithIdentifier(kzm::resources::kBundleIdentifier), nullptr);
+      key, "KZMUtilities", kzm::bundleWithIdentifier(kzm::kBundleIdentifier), nullptr);
 }
 
 /// Asks once more when everything made later is gone already.

@@ -8,12 +8,12 @@
 
 #include <KZMLocalization/KZMLocalization.h>
 
-#include "resources/bundle.h"
+#include <KZMUtilities/resources.h>
 
 namespace kzm {
 namespace {
 
-const ResourceBundle* bundle() { return resources::bundleWithIdentifier("org.kzm.utilities"); }
+const ResourceBundle* bundle() { return bundleWithIdentifier("org.kzm.utilities"); }
 
 std::string text(std::string_view key) {
   return KZMLocalizedStringFromTableInBundle(key, "KZMUtilities", bundle(), nullptr);
@@ -36,10 +36,10 @@ std::vector<std::string> words(std::string_view list) {
 
 TEST(StringTables, AreFoundByTheirIdentifierAlone) {
   ASSERT_NE(bundle(), nullptr);
-  EXPECT_EQ(bundle()->identifier, resources::kBundleIdentifier);
+  EXPECT_EQ(bundle()->identifier, kBundleIdentifier);
   EXPECT_EQ(bundle()->developmentLanguage, "en");
   for (const char* other : {"", "org.kzm", "org.kzm.utilities.", "org.kzm.Utilities"}) {
-    EXPECT_EQ(resources::bundleWithIdentifier(other), nullptr) << other;
+    EXPECT_EQ(bundleWithIdentifier(other), nullptr) << other;
   }
 }
 
