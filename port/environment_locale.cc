@@ -43,7 +43,7 @@ bool isWellFormed(std::string_view head) {
       return false;
     }
   }
-  return head.size() == language || isSeparator(head[language]);
+  return head.size() == language || (isSeparator(head[language]) && !isSeparator(head.back()));
 }
 
 std::string joined(std::string_view language, std::string_view script, std::string_view region,

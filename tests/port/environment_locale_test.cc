@@ -83,6 +83,8 @@ const NameCase kNames[] = {
     {"a codeset alone",                      ".UTF-8",                   "en_001"            },
     {"a modifier alone",                     "@latin",                   "en_001"            },
     {"keywords alone",                       "@numbers=deva",            "en_001"            },
+    {"separator at the end",                 "de_",                      "en_001"            },
+    {"separator before the keywords",        "de_DE_@numbers=latn",      "en_001"            },
     {"broken keywords",                      "de_DE@=;",                 "en_001"            },
     {"blank",                                " de_DE",                   "en_001"            },
     {"line break",                           "de_DE\n",                  "en_001"            },
