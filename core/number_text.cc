@@ -109,20 +109,15 @@ int NumberText::separators() const noexcept {
 
 // Writes so many digits, the last ones that are left, in front of `end`.
 char* NumberText::writeDigits(char* end, int count, std::uint64_t& rest, const char*& last) const noexcept {
+  if (digits_ == nullptr && symbols_.digitsAreAscii) [[likely]] {
+    for (; count > 0; --count, rest /= 10) *--end = static_cast<char>('0' + rest % 10);
+    return end;
+  }
   for (; count > 0; --count) {
-    int digit = 0;
-    if (digits_ == nullptr) {
-      digit = static_cast<int>(rest % 10);
-      rest /= 10;
-    } else {
-      digit = *--last - '0';
-    }
-    if (symbols_.digitsAreAscii) {
-      *--end = static_cast<char>('0' + digit);
-    } else {
-      end -= symbols_.digitBytes;
-      std::memcpy(end, symbols_.digits[static_cast<std::size_t>(digit)].data(), symbols_.digitBytes);
-    }
+    const std::uint64_t digit = digits_ != nullptr ? static_cast<std::uint64_t>(*--last - '0') : rest % 10;
+    rest /= 10;
+    end -= symbols_.digitBytes;
+    std::memcpy(end, symbols_.digits[digit].data(), symbols_.digitBytes);
   }
   return end;
 }

@@ -5,6 +5,8 @@
 #define KZMUTILITIES_DICTIONARY_H
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -29,7 +31,7 @@ class Key {
   [[nodiscard]] constexpr std::uint32_t hash() const noexcept { return hash_; }
 
  private:
-  // FNV-1a, folded so that the low six bits, which Dictionary's filter uses, depend on all of them.
+  // FNV-1a, folded so that the low six bits, which choose Dictionary's slot, depend on all of them.
   static constexpr std::uint32_t hashOf(std::string_view text) noexcept {
     std::uint32_t hash = 2166136261U;
     for (const char c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
@@ -42,8 +44,9 @@ class Key {
 
 /// A string-keyed dictionary of Values: flat, in the order in which keys were first set.
 ///
-/// It is made for reading a handful of options many times: a 64-bit filter answers most questions for absent keys,
-/// and the others are found by comparing hashes. Dictionaries of more than a few entries keep an index beside.
+/// It is made for reading a handful of options many times. One of 64 slots, chosen by the key's hash, says where to
+/// look: a free slot means that the key is absent, and the entry that a taken slot names is nearly always the one asked
+/// for. Dictionaries of more than a few entries keep an index beside.
 class Dictionary {
  public:
   struct Entry {
@@ -64,7 +67,10 @@ class Dictionary {
 
   /// The Value under the key, or null. A key is present also when its Value is null.
   [[nodiscard]] const Value* find(const Key& key) const noexcept {
-    if ((filter_ >> (key.hash() & 63U) & 1U) == 0) return nullptr;
+    const std::size_t slot = slots_[key.hash() % kSlots];
+    if (slot == kFree) return nullptr;
+    if (slot < kBeyond && isAt(slot - 1, key)) [[likely]]
+      return &entries_[slot - 1].value;
     const std::size_t position = positionOf(key);
     return position < entries_.size() ? &entries_[position].value : nullptr;
   }
@@ -79,8 +85,7 @@ class Dictionary {
       return;
     }
     entries_.push_back({std::string(key.text()), std::move(value), key.hash()});
-    filter_ |= std::uint64_t{1} << (key.hash() & 63U);
-    if (entries_.size() > kScanned) enterInIndex(entries_.size() - 1);
+    enter(entries_.size() - 1);
   }
 
   /// Removes the key; an absent key changes nothing.
@@ -88,10 +93,9 @@ class Dictionary {
     const std::size_t position = positionOf(key);
     if (position >= entries_.size()) return;
     entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(position));
-    filter_ = 0;
-    for (const Entry& entry : entries_) filter_ |= std::uint64_t{1} << (entry.hash & 63U);
+    slots_.fill(kFree);
     index_.clear();
-    if (entries_.size() > kScanned) enterInIndex(entries_.size() - 1);
+    for (std::size_t i = 0; i < entries_.size(); ++i) enter(i);
   }
 
   [[nodiscard]] std::size_t size() const noexcept { return entries_.size(); }
@@ -108,7 +112,10 @@ class Dictionary {
   }
 
  private:
-  static constexpr std::size_t kScanned = 16;  // Up to so many entries a scan is faster than the index.
+  static constexpr std::size_t kSlots = 64;
+  static constexpr std::uint8_t kFree = 0;
+  static constexpr std::uint8_t kBeyond = 255;  // a slot whose entry stands too far behind for a byte
+  static constexpr std::size_t kScanned = 16;   // up to so many entries a scan is faster than the index
 
   // Equal texts of up to 16 bytes are told by two overlapping words: calling memcmp would be most of a look-up.
   template <class Word>
@@ -148,23 +155,26 @@ class Dictionary {
     return entries_.size();
   }
 
-  void enterInIndex(std::size_t position) {
-    const bool grows = index_.size() < 2 * entries_.size();
-    if (grows) {
-      std::size_t size = 4 * kScanned;
-      while (size < 4 * entries_.size()) size *= 2;
-      index_.assign(size, 0);
-      position = 0;
+  // Makes the entry findable. The first entry of a slot keeps it; the others are searched for.
+  void enter(std::size_t position) {
+    std::uint8_t& slot = slots_[entries_[position].hash % kSlots];
+    if (slot == kFree) slot = static_cast<std::uint8_t>(std::min<std::size_t>(position + 1, kBeyond));
+    if (entries_.size() <= kScanned) return;
+    if (index_.size() < 2 * entries_.size()) {
+      index_.assign(std::bit_ceil(4 * entries_.size()), 0);
+      for (std::size_t i = 0; i < position; ++i) enterInIndex(i);
     }
-    const std::size_t mask = index_.size() - 1;
-    for (; position < entries_.size(); ++position) {
-      std::size_t slot = entries_[position].hash & mask;
-      while (index_[slot] != 0) slot = (slot + 1) & mask;
-      index_[slot] = static_cast<std::uint32_t>(position + 1);
-    }
+    enterInIndex(position);
   }
 
-  std::uint64_t filter_ = 0;  // One bit for each key's hash modulo 64: a zero bit means surely absent.
+  void enterInIndex(std::size_t position) {
+    const std::size_t mask = index_.size() - 1;
+    std::size_t slot = entries_[position].hash & mask;
+    while (index_[slot] != 0) slot = (slot + 1) & mask;
+    index_[slot] = static_cast<std::uint32_t>(position + 1);
+  }
+
+  std::array<std::uint8_t, kSlots> slots_{};  // position plus one of the first entry with this hash modulo 64
   std::vector<Entry> entries_;
   std::vector<std::uint32_t> index_;
 };
