@@ -1,11 +1,15 @@
-#include <KZMUtilities/default_units.h>
-#include <optional>
+#include <atomic>
+#include <iterator>
+#include <span>
+#include <string_view>
 #include <utility>
 
 #include <KZMSettings/KZMSettings.h>
+#include <KZMUtilities/default_units.h>
 
 #include "core/reading.h"
 #include "port/current_locale.h"
+#include "port/measurement_locale.h"
 #include "units/locale_units.h"
 
 namespace kzm::units {
@@ -27,35 +31,30 @@ enum class Question : std::uint8_t {
   snow,
 };
 
-// The units of a setting's codes, from 1 on, and what is asked of the region when the user chose none of them.
+// The units of each setting's codes, from 1 on.
+constexpr Unit kSpeeds[] = {Unit::metersPerSecond, Unit::kilometersPerHour, Unit::milesPerHour, Unit::knots};
+constexpr Unit kTemperatures[] = {Unit::celsius, Unit::fahrenheit, Unit::kelvin};
+constexpr Unit kDistances[] = {Unit::kilometers, Unit::miles};
+constexpr Unit kPressures[] = {Unit::hectopascals, Unit::millibars, Unit::inchesOfMercury};
+constexpr Unit kRains[] = {Unit::millimeters, Unit::inches};
+constexpr Unit kSnows[] = {Unit::centimeters, Unit::inches};
+
 struct Choice {
   Question question;
   std::string_view keyPath;
-  std::array<std::optional<Unit>, 4> codes;
-  Quantity quantity;
+  std::span<const Unit> units;
+  Quantity otherwise;  // what is asked of the region when the user chose none of the units
 };
 
-// Deliberate: rain and snow share one setting, whose first code means millimeters for one and centimeters for the other.
+// Deliberate: rain and snow share one setting. Its first code means millimeters for one, centimeters for the other.
 constexpr Choice kChoices[] = {
-    {Question::windSpeed,
-     "Weather.Global.Units.WindSpeed",
-     {Unit::metersPerSecond, Unit::kilometersPerHour, Unit::milesPerHour, Unit::knots},
-     Quantity::windSpeed},
-    {Question::sensorsTemperature,
-     "Sensors.Global.Degrees.Format",
-     {Unit::celsius, Unit::fahrenheit, Unit::kelvin},
-     Quantity::temperature},
-    {Question::weatherTemperature,
-     "Weather.Global.Units.Degrees",
-     {Unit::celsius, Unit::fahrenheit, Unit::kelvin},
-     Quantity::temperature},
-    {Question::distance, "Weather.Global.Units.Distance", {Unit::kilometers, Unit::miles}, Quantity::distance},
-    {Question::pressure,
-     "Weather.Global.Units.Pressure",
-     {Unit::hectopascals, Unit::millibars, Unit::inchesOfMercury},
-     Quantity::pressure},
-    {Question::rain, "Weather.Global.Units.Precipitation", {Unit::millimeters, Unit::inches}, Quantity::rain},
-    {Question::snow, "Weather.Global.Units.Precipitation", {Unit::centimeters, Unit::inches}, Quantity::snow},
+    {Question::windSpeed,          "Weather.Global.Units.WindSpeed",     kSpeeds,       Quantity::windSpeed  },
+    {Question::sensorsTemperature, "Sensors.Global.Degrees.Format",      kTemperatures, Quantity::temperature},
+    {Question::weatherTemperature, "Weather.Global.Units.Degrees",       kTemperatures, Quantity::temperature},
+    {Question::distance,           "Weather.Global.Units.Distance",      kDistances,    Quantity::distance   },
+    {Question::pressure,           "Weather.Global.Units.Pressure",      kPressures,    Quantity::pressure   },
+    {Question::rain,               "Weather.Global.Units.Precipitation", kRains,        Quantity::rain       },
+    {Question::snow,               "Weather.Global.Units.Precipitation", kSnows,        Quantity::snow       },
 };
 static_assert([] {
   std::size_t position = 0;
@@ -65,20 +64,14 @@ static_assert([] {
   return true;
 }());
 
-std::optional<Unit> chosen(const Choice& choice) {
-  const Value setting = KZMSettingsObjectForKeyPath(choice.keyPath);
-  const std::int64_t code = core::readInteger(&setting);
-  const bool isCode = code >= 1 && code <= static_cast<std::int64_t>(choice.codes.size());
-  return isCode ? choice.codes[static_cast<std::size_t>(code) - 1] : std::nullopt;
-}
-
 using Preferred = std::array<std::atomic<Unit>, kQuantities>;
 
 Unit answer(Question question, const Preferred& preferred) {
   const Choice& choice = kChoices[static_cast<std::size_t>(question)];
-  const std::optional<Unit> unit = chosen(choice);
-  return unit.has_value() ? *unit
-                          : preferred[static_cast<std::size_t>(choice.quantity)].load(std::memory_order_relaxed);
+  const Value setting = KZMSettingsObjectForKeyPath(choice.keyPath);
+  const std::int64_t code = core::readInteger(&setting);
+  if (code >= 1 && code <= std::ssize(choice.units)) return choice.units[static_cast<std::size_t>(code) - 1];
+  return preferred[static_cast<std::size_t>(choice.otherwise)].load(std::memory_order_relaxed);
 }
 
 PreferredUnits localePreferences() {
@@ -104,8 +97,12 @@ KZMUtilitiesDefaultUnits::KZMUtilitiesDefaultUnits() { setUnits(kzm::units::loca
 KZMUtilitiesDefaultUnits::~KZMUtilitiesDefaultUnits() = default;
 
 MeasurementUnit KZMUtilitiesDefaultUnits::windSpeedUnit() const { return answer(Question::windSpeed, preferred_); }
-MeasurementUnit KZMUtilitiesDefaultUnits::sensorsTemperatureUnit() const { return answer(Question::sensorsTemperature, preferred_); }
-MeasurementUnit KZMUtilitiesDefaultUnits::weatherTemperatureUnit() const { return answer(Question::weatherTemperature, preferred_); }
+MeasurementUnit KZMUtilitiesDefaultUnits::sensorsTemperatureUnit() const {
+  return answer(Question::sensorsTemperature, preferred_);
+}
+MeasurementUnit KZMUtilitiesDefaultUnits::weatherTemperatureUnit() const {
+  return answer(Question::weatherTemperature, preferred_);
+}
 MeasurementUnit KZMUtilitiesDefaultUnits::distanceUnit() const { return answer(Question::distance, preferred_); }
 MeasurementUnit KZMUtilitiesDefaultUnits::pressureUnit() const { return answer(Question::pressure, preferred_); }
 MeasurementUnit KZMUtilitiesDefaultUnits::rainUnit() const { return answer(Question::rain, preferred_); }

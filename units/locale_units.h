@@ -26,9 +26,9 @@ using Samples = std::array<std::string, kQuantities>;
 using Preferences = std::array<MeasurementUnit, kQuantities>;
 
 /// What is preferred where nothing else is known.
-inline constexpr Preferences kMetric = {
-    MeasurementUnit::kilometersPerHour, MeasurementUnit::hectopascals, MeasurementUnit::celsius,
-    MeasurementUnit::kilometers,        MeasurementUnit::millimeters,  MeasurementUnit::centimeters};
+inline constexpr Preferences kMetric = {MeasurementUnit::kilometersPerHour, MeasurementUnit::hectopascals,
+                                        MeasurementUnit::celsius,           MeasurementUnit::kilometers,
+                                        MeasurementUnit::millimeters,       MeasurementUnit::centimeters};
 
 /// The six samples as they read in the locale's units.
 [[nodiscard]] Samples samplesIn(const port::MeasurementLocale& locale);

@@ -16,8 +16,8 @@ struct UnitFacts {
 
 //   unit                                name                 symbol  sample
 constexpr UnitFacts kFacts[] = {
-    {MeasurementUnit::celsius,           "celsius",           "°C",   "0"     },
-    {MeasurementUnit::fahrenheit,        "fahrenheit",        "°F",   "32"    },
+    {MeasurementUnit::celsius,           "celsius",           "°C",  "0"     },
+    {MeasurementUnit::fahrenheit,        "fahrenheit",        "°F",  "32"    },
     {MeasurementUnit::kelvin,            "kelvin",            "K",    "273.15"},
     {MeasurementUnit::metersPerSecond,   "metersPerSecond",   "m/s",  "0"     },
     {MeasurementUnit::kilometersPerHour, "kilometersPerHour", "km/h", "0"     },

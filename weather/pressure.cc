@@ -10,6 +10,8 @@
 namespace kzm::weather {
 namespace {
 
+using Unit = MeasurementUnit;
+
 // What the published conversions lack; inchToMillibar divides by the same factor.
 constexpr double hectopascalsToInches(double hectopascals) noexcept { return hectopascals * 0.029529983071445; }
 
@@ -28,9 +30,9 @@ struct PressureRow {
 
 // Deliberate: only inches of mercury take no heed of the options.
 constexpr PressureRow kPressures[] = {
-    {MeasurementUnit::millibars,       unchanged,            Style::chosen,   Text::millibarsSpaced,    Text::millibars   },
-    {MeasurementUnit::inchesOfMercury, hectopascalsToInches, Style::complete, Text::inches,             Text::inches      },
-    {MeasurementUnit::hectopascals,    unchanged,            Style::chosen,   Text::hectopascalsSpaced, Text::hectopascals},
+    {Unit::millibars,       unchanged,            Style::chosen,   Text::millibarsSpaced,    Text::millibars   },
+    {Unit::inchesOfMercury, hectopascalsToInches, Style::complete, Text::inches,             Text::inches      },
+    {Unit::hectopascals,    unchanged,            Style::chosen,   Text::hectopascalsSpaced, Text::hectopascals},
 };
 
 constexpr std::int64_t kInchDigits = 2;

@@ -8,6 +8,7 @@
 
 #include "core/options.h"
 #include "core/reading.h"
+#include "units/measurement_unit.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -28,11 +29,6 @@ constexpr TemperatureRow kTemperatures[] = {
     {MeasurementUnit::celsius,    unchanged,           true,  Text::degrees},
 };
 
-constexpr MeasurementUnit reversed(MeasurementUnit unit) noexcept {
-  if (unit == MeasurementUnit::fahrenheit) return MeasurementUnit::celsius;
-  return unit == MeasurementUnit::celsius ? MeasurementUnit::fahrenheit : unit;
-}
-
 // Deliberate: made so that a rounded zero has no minus, this takes the minus off -0.4 too, wherever the locale writes
 // it as the ASCII sign next to an ASCII digit.
 void dropMinusBeforeZero(std::string& text) {
@@ -49,7 +45,7 @@ std::string KZMUtilitiesFormatWeatherTemperature(const kzm::Dictionary& options,
   using namespace kzm::weather;
   using namespace kzm::core;
   kzm::MeasurementUnit unit = KZMUtilitiesDefaultUnits::shared().weatherTemperatureUnit();
-  if (readBoolean(options.find(kReverse))) unit = reversed(unit);
+  if (readBoolean(options.find(kReverse))) unit = kzm::units::reversed(unit);
   const TemperatureRow& row = rowFor(kTemperatures, unit);
   const std::int64_t digits = row.honoursDecimals ? readInteger(options.find(kDecimals)) : 0;
   const bool showsUnit = readBoolean(options.find(kUnits));

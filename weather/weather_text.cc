@@ -21,7 +21,7 @@ struct TextRow {
 
 constexpr TextRow kTexts[] = {
     {Text::number,                  "%@",         nullptr },
-    {Text::degrees,                 "%@°",        nullptr },
+    {Text::degrees,                 "%@°",       nullptr },
     {Text::kelvin,                  "%@K",        "kelvin"},
     {Text::knotsSpaced,             "%@ knots",   nullptr },
     {Text::knots,                   "%@knots",    nullptr },

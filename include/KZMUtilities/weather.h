@@ -24,7 +24,8 @@
 ///   "decimals"   integer   at most so many fraction digits, in Celsius only
 ///   "reverse"    boolean   swaps Celsius and Fahrenheit; Kelvin stays
 ///
-/// Example (English, Celsius):  KZMUtilitiesFormatWeatherTemperature({{"units", true}, {"decimals", 1}}, 21.64)  // "21.6°"
+/// Example (English, Celsius):  KZMUtilitiesFormatWeatherTemperature({{"units", true}, {"decimals", 1}}, 21.64)  //
+/// "21.6°"
 [[nodiscard]] KZM_EXPORT std::string KZMUtilitiesFormatWeatherTemperature(const kzm::Dictionary& options,
                                                                           double celsius);
 
@@ -59,7 +60,8 @@
 ///   "space"      boolean   one blank between number and unit
 ///   "decimals"   boolean   at most one fraction digit, 5 like true; else none
 ///
-/// Example (English, hPa):  KZMUtilitiesFormatWeatherPressure({{"units", true}, {"space", true}}, 1013.25)  // "1,013 hPa"
+/// Example (English, hPa):  KZMUtilitiesFormatWeatherPressure({{"units", true}, {"space", true}}, 1013.25)  // "1,013
+/// hPa"
 [[nodiscard]] KZM_EXPORT std::string KZMUtilitiesFormatWeatherPressure(const kzm::Dictionary& options,
                                                                        double hectopascals);
 
