@@ -50,13 +50,13 @@ struct Row {
 };
 
 const Row kRows[] = {
-    {"windSpeedUnit", &Units::windSpeedUnit, kWind, kSpeeds, "windspeed", Unit::inches},
-    {"sensorsTemperatureUnit", &Units::sensorsTemperatureUnit, kSensors, kTemperatures, "temperature", Unit::inches},
-    {"weatherTemperatureUnit", &Units::weatherTemperatureUnit, kDegrees, kTemperatures, "temperature", Unit::inches},
-    {"distanceUnit", &Units::distanceUnit, kDistance, kDistances, "distance", Unit::inches},
-    {"pressureUnit", &Units::pressureUnit, kPressure, kPressures, "pressure", Unit::inches},
-    {"rainUnit", &Units::rainUnit, kPrecipitation, kRains, "rain", Unit::knots},
-    {"snowUnit", &Units::snowUnit, kPrecipitation, kSnows, "snow", Unit::knots},
+    {"windSpeedUnit",          &Units::windSpeedUnit,          kWind,          kSpeeds,       "windspeed",   Unit::inches},
+    {"sensorsTemperatureUnit", &Units::sensorsTemperatureUnit, kSensors,       kTemperatures, "temperature", Unit::inches},
+    {"weatherTemperatureUnit", &Units::weatherTemperatureUnit, kDegrees,       kTemperatures, "temperature", Unit::inches},
+    {"distanceUnit",           &Units::distanceUnit,           kDistance,      kDistances,    "distance",    Unit::inches},
+    {"pressureUnit",           &Units::pressureUnit,           kPressure,      kPressures,    "pressure",    Unit::inches},
+    {"rainUnit",               &Units::rainUnit,               kPrecipitation, kRains,        "rain",        Unit::knots },
+    {"snowUnit",               &Units::snowUnit,               kPrecipitation, kSnows,        "snow",        Unit::knots },
 };
 
 void set(const char* keyPath, Value value) {
@@ -117,25 +117,26 @@ TEST_F(DefaultUnits, SettingsAreReadAsIntegers) {
   Dictionary nested;
   nested.set("value", 2);
   const Array listed(1, 2);
+  const std::string endless(1000, '9');
   constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   const Case cases[] = {
-      {"a text",                   "2",                       Unit::millibars      },
-      {"a text with blanks",       "  3x",                    Unit::inchesOfMercury},
-      {"a fraction is cut",        2.9,                       Unit::millibars      },
-      {"a text's fraction is cut", "2.9",                     Unit::millibars      },
-      {"true is one",              true,                      Unit::hectopascals   },
-      {"false is none",            false,                     Unit::miles          },
-      {"null",                     nullptr,                   Unit::miles          },
-      {"a word",                   "millibars",               Unit::miles          },
-      {"an array",                 listed,                 Unit::miles          },
-      {"a dictionary",             nested, Unit::miles          },
-      {"not a number",             kNan, Unit::miles},
-      {"infinite",                 kInfinity, Unit::miles},
-      {"less than one",            0.99,                      Unit::miles          },
-      {"just below four",          3.9999999999999996,        Unit::inchesOfMercury},
-      {"four",                     4.0,                       Unit::miles          },
-      {"an endless text",          std::string(1000, '9'),    Unit::miles          },
+      {"a text",                   "2",                Unit::millibars      },
+      {"a text with blanks",       "  3x",             Unit::inchesOfMercury},
+      {"a fraction is cut",        2.9,                Unit::millibars      },
+      {"a text's fraction is cut", "2.9",              Unit::millibars      },
+      {"true is one",              true,               Unit::hectopascals   },
+      {"false is none",            false,              Unit::miles          },
+      {"null",                     nullptr,            Unit::miles          },
+      {"a word",                   "millibars",        Unit::miles          },
+      {"an array",                 listed,             Unit::miles          },
+      {"a dictionary",             nested,             Unit::miles          },
+      {"not a number",             kNan,               Unit::miles          },
+      {"infinite",                 kInfinity,          Unit::miles          },
+      {"less than one",            0.99,               Unit::miles          },
+      {"just below four",          3.9999999999999996, Unit::inchesOfMercury},
+      {"four",                     4.0,                Unit::miles          },
+      {"an endless text",          endless,            Unit::miles          },
   };
   KZMUtilitiesDefaultUnits units;
   units.setUnits(only("pressure", Unit::miles));
@@ -198,35 +199,35 @@ TEST_F(DefaultUnits, FollowTheLocaleInForceWhenMade) {
   };
   const PreferredUnits metric = preferred(Unit::kilometersPerHour, Unit::hectopascals, Unit::celsius, Unit::kilometers,
                                           Unit::millimeters, Unit::centimeters);
-  const PreferredUnits american = preferred(Unit::milesPerHour, Unit::inchesOfMercury, Unit::fahrenheit, Unit::miles,
-                                            Unit::inches, Unit::inches);
-  const PreferredUnits british = preferred(Unit::milesPerHour, Unit::millibars, Unit::celsius, Unit::miles,
-                                           Unit::millimeters, Unit::centimeters);
+  const PreferredUnits american =
+      preferred(Unit::milesPerHour, Unit::inchesOfMercury, Unit::fahrenheit, Unit::miles, Unit::inches, Unit::inches);
+  const PreferredUnits british =
+      preferred(Unit::milesPerHour, Unit::millibars, Unit::celsius, Unit::miles, Unit::millimeters, Unit::centimeters);
   const PreferredUnits northern = preferred(Unit::metersPerSecond, Unit::hectopascals, Unit::celsius, Unit::kilometers,
                                             Unit::millimeters, Unit::centimeters);
   const PreferredUnits egyptian = preferred(Unit::kilometersPerHour, Unit::millibars, Unit::celsius, Unit::kilometers,
                                             Unit::millimeters, Unit::centimeters);
   const Case cases[] = {
-      {"en_US",                american},
-      {"en_US.UTF-8",          american},
-      {"en_GB",                british },
-      {"de_DE",                metric  },
-      {"fr_FR",                metric  },
-      {"es_ES",                metric  },
-      {"hi_IN",                metric  },
-      {"sv_SE",                northern},
-      {"ru_RU",                northern},
-      {"ar_EG",                egyptian},
-      {"en_001",               metric  },
-      {"C",                    metric  },
-      {"POSIX",                metric  },
-      {"xx_YY",                metric  },
-      {"en",                   american},
-      {"de",                   metric  },
-      {"en_US@measure=metric", metric  },
-      {"en_US@rg=gbzzzz",      british },
+      {"en_US",                  american},
+      {"en_US.UTF-8",            american},
+      {"en_GB",                  british },
+      {"de_DE",                  metric  },
+      {"fr_FR",                  metric  },
+      {"es_ES",                  metric  },
+      {"hi_IN",                  metric  },
+      {"sv_SE",                  northern},
+      {"ru_RU",                  northern},
+      {"ar_EG",                  egyptian},
+      {"en_001",                 metric  },
+      {"C",                      metric  },
+      {"POSIX",                  metric  },
+      {"xx_YY",                  metric  },
+      {"en",                     american},
+      {"de",                     metric  },
+      {"en_US@measure=metric",   metric  },
+      {"en_US@rg=gbzzzz",        british },
       {"de_DE@measure=ussystem", american},
-      {"sv_SE@measure=metric", metric  },
+      {"sv_SE@measure=metric",   metric  },
   };
   for (const Case& c : cases) {
     setCurrentLocale(c.locale);
