@@ -31,10 +31,10 @@ std::string KZMUtilitiesFormatSensor(std::int64_t type, const kzm::Dictionary& o
   const std::optional<Reading> reading = readingOf(type, options, value);
   if (!reading.has_value()) return {};
   // The number before the unit: what is held of the unit is good until the next call only.
-  const NumberText number = numberText(warmFormatter(DigitRule::atMost, reading->decimals), reading->value);
+  const NumberText number(warmFormatter(DigitRule::atMost, reading->decimals), reading->value);
   const Template* unit = unitText(*reading, options);
   if (unit == nullptr) return {};
-  std::string text = readBoolean(options.find(kUnits)) ? unit->filled(number.view()) : std::string(number.view());
+  std::string text = readBoolean(options.find(kUnits)) ? unit->filled(number) : number.string();
   if (options.contains(kStrip)) strip(text, reading->decimals == 0);
   return text;
 }

@@ -46,5 +46,5 @@ std::string KZMUtilitiesFormatWeatherDistance(double kilometers) {
 // Deliberate: the number is neither converted nor grouped, only labelled with the unit of distances.
 std::string KZMUtilitiesFormatWeatherVisibility(double distance) {
   using namespace kzm::weather;
-  return filled(distanceRow().text, kzm::core::NumberText::plainWhole(distance));
+  return textOf(distanceRow().text).filled(kzm::core::plainWhole(distance));
 }

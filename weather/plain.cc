@@ -13,8 +13,6 @@ namespace {
 
 constexpr std::int64_t kMostDigits = 2;  // of days and of the illuminated part
 
-std::string plainWhole(double value) { return std::string(core::NumberText::plainWhole(value).view()); }
-
 std::string angle(const Dictionary& options, double degrees) {
   return filled(Text::degrees, decimalNumber(core::readInteger(options.find(core::kDecimals)), degrees));
 }
@@ -22,9 +20,9 @@ std::string angle(const Dictionary& options, double degrees) {
 }  // namespace
 }  // namespace kzm::weather
 
-std::string KZMUtilitiesFormatWeatherUV(double index) { return kzm::weather::plainWhole(index); }
+std::string KZMUtilitiesFormatWeatherUV(double index) { return kzm::core::plainWhole(index); }
 
-std::string KZMUtilitiesFormatWeatherHumidity(double percent) { return kzm::weather::plainWhole(percent) + '%'; }
+std::string KZMUtilitiesFormatWeatherHumidity(double percent) { return kzm::core::plainWhole(percent) + '%'; }
 
 std::string KZMUtilitiesFormatWeatherAltitude(const kzm::Dictionary& options, double degrees) {
   return kzm::weather::angle(options, degrees);

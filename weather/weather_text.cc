@@ -82,6 +82,6 @@ core::NumberText decimalNumber(std::int64_t mostDigits, double value) {
   return {symbols, 0, most, value};
 }
 
-std::string filled(Text text, const core::NumberText& number) { return textOf(text).filled(number.view()); }
+std::string filled(Text text, const core::NumberText& number) { return textOf(text).filled(number); }
 
 }  // namespace kzm::weather
