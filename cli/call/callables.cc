@@ -3,9 +3,13 @@
 #include <algorithm>
 
 #include <KZMUtilities/bytes.h>
+#include <KZMUtilities/conversions.h>
+#include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
 #include <KZMUtilities/percentage.h>
 #include <KZMUtilities/resources.h>
+#include <KZMUtilities/sensors.h>
+#include <KZMUtilities/weather.h>
 
 namespace kzm::cli {
 namespace {
@@ -14,6 +18,12 @@ namespace {
 std::string localizedString(std::string_view key, std::string_view table, std::string_view comment) {
   return KZMLocalizedStringFromTableInBundle(key, table, bundleWithIdentifier(kBundleIdentifier),
                                              std::string(comment).c_str());
+}
+
+// An operation of the shared default units.
+template <MeasurementUnit (KZMUtilitiesDefaultUnits::*Unit)() const>
+MeasurementUnit ofSharedUnits() {
+  return (KZMUtilitiesDefaultUnits::shared().*Unit)();
 }
 
 template <auto F>
@@ -29,6 +39,31 @@ const Callable kCallables[] = {
     row<localizedString>("KZMLocalizedStringFromTableInBundle", "key table comment"),
     row<KZMUtilitiesFormatPercentage>("KZMUtilitiesFormatPercentage", "options percent"),
     row<KZMUtilitiesFormatPercentageWithAttributes>("KZMUtilitiesFormatPercentageWithAttributes", "options percent"),
+    row<celciusToFahrenheit>("celciusToFahrenheit", "celsius"),
+    row<fahrenheitToCelcius>("fahrenheitToCelcius", "fahrenheit"),
+    row<celciusToKelvin>("celciusToKelvin", "celsius"),
+    row<kelvinToCelcius>("kelvinToCelcius", "kelvin"),
+    row<inchToCm>("inchToCm", "inches"),
+    row<cmToInch>("cmToInch", "centimeters"),
+    row<inchToMm>("inchToMm", "inches"),
+    row<mmToInch>("mmToInch", "millimeters"),
+    row<mmToCm>("mmToCm", "millimeters"),
+    row<cmToMm>("cmToMm", "centimeters"),
+    row<milesToKm>("milesToKm", "miles"),
+    row<KmToMiles>("KmToMiles", "kilometers"),
+    row<mpsToKph>("mpsToKph", "metersPerSecond"),
+    row<kphToMps>("kphToMps", "kilometersPerHour"),
+    row<mpsToMph>("mpsToMph", "metersPerSecond"),
+    row<mphToMps>("mphToMps", "milesPerHour"),
+    row<mpsToKnots>("mpsToKnots", "metersPerSecond"),
+    row<inchToMillibar>("inchToMillibar", "inchesOfMercury"),
+    row<ofSharedUnits<&KZMUtilitiesDefaultUnits::windSpeedUnit>>("windSpeedUnit", ""),
+    row<ofSharedUnits<&KZMUtilitiesDefaultUnits::sensorsTemperatureUnit>>("sensorsTemperatureUnit", ""),
+    row<ofSharedUnits<&KZMUtilitiesDefaultUnits::weatherTemperatureUnit>>("weatherTemperatureUnit", ""),
+    row<ofSharedUnits<&KZMUtilitiesDefaultUnits::distanceUnit>>("distanceUnit", ""),
+    row<ofSharedUnits<&KZMUtilitiesDefaultUnits::pressureUnit>>("pressureUnit", ""),
+    row<ofSharedUnits<&KZMUtilitiesDefaultUnits::rainUnit>>("rainUnit", ""),
+    row<ofSharedUnits<&KZMUtilitiesDefaultUnits::snowUnit>>("snowUnit", ""),
     row<KZMUtilitiesBandwidthData>("KZMUtilitiesBandwidthData", "options bytesPerSecond"),
     row<KZMUtilitiesFormatBandwidth>("KZMUtilitiesFormatBandwidth", "options bytesPerSecond"),
     row<KZMUtilitiesFormatBandwidthWithAttributes>("KZMUtilitiesFormatBandwidthWithAttributes",
@@ -43,6 +78,22 @@ const Callable kCallables[] = {
     row<KZMUtilitiesMemoryData>("KZMUtilitiesMemoryData", "options bytes"),
     row<KZMUtilitiesFormatMemory>("KZMUtilitiesFormatMemory", "options bytes"),
     row<KZMUtilitiesFormatMemoryWithAttributes>("KZMUtilitiesFormatMemoryWithAttributes", "options bytes"),
+    row<KZMUtilitiesFormatWeatherTemperature>("KZMUtilitiesFormatWeatherTemperature", "options celsius"),
+    row<KZMUtilitiesFormatWeatherWindSpeed>("KZMUtilitiesFormatWeatherWindSpeed", "options metersPerSecond"),
+    row<KZMUtilitiesFormatWeatherWindDirection>("KZMUtilitiesFormatWeatherWindDirection", "degrees"),
+    row<KZMUtilitiesFormatWeatherPressure>("KZMUtilitiesFormatWeatherPressure", "options hectopascals"),
+    row<KZMUtilitiesFormatWeatherDistance>("KZMUtilitiesFormatWeatherDistance", "kilometers"),
+    row<KZMUtilitiesFormatWeatherVisibility>("KZMUtilitiesFormatWeatherVisibility", "distance"),
+    row<KZMUtilitiesFormatWeatherRainAmount>("KZMUtilitiesFormatWeatherRainAmount", "millimeters"),
+    row<KZMUtilitiesFormatWeatherSnowAmount>("KZMUtilitiesFormatWeatherSnowAmount", "millimeters"),
+    row<KZMUtilitiesFormatWeatherUV>("KZMUtilitiesFormatWeatherUV", "index"),
+    row<KZMUtilitiesFormatWeatherHumidity>("KZMUtilitiesFormatWeatherHumidity", "percent"),
+    row<KZMUtilitiesFormatWeatherAltitude>("KZMUtilitiesFormatWeatherAltitude", "options degrees"),
+    row<KZMUtilitiesFormatWeatherAzimuth>("KZMUtilitiesFormatWeatherAzimuth", "options degrees"),
+    row<KZMUtilitiesFormatWeatherDays>("KZMUtilitiesFormatWeatherDays", "days"),
+    row<KZMUtilitiesFormatWeatherIllumination>("KZMUtilitiesFormatWeatherIllumination", "percent"),
+    row<KZMUtilitiesSensorData>("KZMUtilitiesSensorData", "type options value"),
+    row<KZMUtilitiesFormatSensor>("KZMUtilitiesFormatSensor", "type options value"),
 };
 
 }  // namespace

@@ -60,6 +60,10 @@ Result resultOf(bool boolean) { return {boolean ? "true" : "false", std::nullopt
 Result resultOf(std::int64_t integer) { return {std::to_string(integer), std::nullopt}; }
 Result resultOf(const std::string& text) { return {jsonText(std::string_view(text)), text}; }
 Result resultOf(const Dictionary& dictionary) { return {jsonText(dictionary), std::nullopt}; }
+Result resultOf(const std::optional<Dictionary>& dictionary) {
+  return dictionary.has_value() ? resultOf(*dictionary) : Result{"null", std::nullopt};
+}
+Result resultOf(MeasurementUnit unit) { return resultOf(std::string(measurementUnitName(unit))); }
 Result resultOf(const AttributedString& text) { return {jsonText(text), std::nullopt}; }
 Result resultOf(const std::shared_ptr<const Locale>& locale) { return resultOf(locale->identifier()); }
 

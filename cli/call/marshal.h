@@ -15,6 +15,7 @@
 #include <utility>
 
 #include <KZMUtilities/attributed_string.h>
+#include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
 
 #include "cli/errors.h"
@@ -67,12 +68,14 @@ struct Argument<std::shared_ptr<const Locale>> {
 [[nodiscard]] Result resultOf(std::int64_t integer);
 [[nodiscard]] Result resultOf(const std::string& text);
 [[nodiscard]] Result resultOf(const Dictionary& dictionary);
+[[nodiscard]] Result resultOf(const std::optional<Dictionary>& dictionary);
+[[nodiscard]] Result resultOf(MeasurementUnit unit);
 [[nodiscard]] Result resultOf(const AttributedString& text);
 [[nodiscard]] Result resultOf(const std::shared_ptr<const Locale>& locale);
 [[nodiscard]] Result resultOf(const std::shared_ptr<const NumberFormatter>& formatter);
 
-template <class R, class... A>
-Result applyFunction(R (*function)(A...), const Json& arguments) {
+template <class R, class... A, bool N>
+Result applyFunction(R (*function)(A...) noexcept(N), const Json& arguments) {
   return [&]<std::size_t... I>(std::index_sequence<I...>) {
     const std::tuple read{Argument<std::remove_cvref_t<A>>::read(arguments[I])...};
     return resultOf(function(std::get<I>(read)...));
@@ -87,8 +90,8 @@ Result adapt(const Json& arguments) {
 }
 
 /// The kinds of F's parameters, as `list` names them.
-template <class R, class... A>
-constexpr auto kindsOf(R (*)(A...)) {
+template <class R, class... A, bool N>
+constexpr auto kindsOf(R (*)(A...) noexcept(N)) {
   return std::array<std::string_view, sizeof...(A)>{Argument<std::remove_cvref_t<A>>::name...};
 }
 template <auto F>

@@ -1,0 +1,74 @@
+#include "port/measurement_locale.h"
+
+#include <string_view>
+#include <unicode/locid.h>
+
+namespace kzm::port {
+namespace {
+
+struct Meaning {
+  std::string_view value;
+  std::string_view meaning;
+};
+
+// "fahrenhe" is how a language tag, whose subtags have at most eight letters, writes it.
+constexpr Meaning kSystems[] = {
+    {"metric",   "001"},
+    {"ussystem", "US" },
+    {"uksystem", "GB" },
+};
+constexpr Meaning kTemperatures[] = {
+    {"celsius",    "celsius"   },
+    {"fahrenhe",   "fahrenheit"},
+    {"fahrenheit", "fahrenheit"},
+    {"kelvin",     "kelvin"    },
+};
+
+std::string keyword(const icu::Locale& locale, const char* name) {
+  UErrorCode status = U_ZERO_ERROR;
+  auto value = locale.getKeywordValue<std::string>(name, status);
+  return U_SUCCESS(status) ? value : std::string();
+}
+
+template <std::size_t N>
+std::string_view meaningOf(const Meaning (&meanings)[N], std::string_view value) {
+  for (const Meaning& row : meanings) {
+    if (row.value == value) return row.meaning;
+  }
+  return {};
+}
+
+constexpr bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+// The country of an "rg" value: two letters, and behind them "zzzz" or the name of a part of the country.
+std::string overridingRegion(std::string_view value) {
+  constexpr std::size_t kCountry = 2;
+  constexpr std::size_t kLongest = 6;
+  if (value.size() <= kCountry || value.size() > kLongest || !isLetter(value[0]) || !isLetter(value[1])) return {};
+  return {upper(value[0]), upper(value[1])};
+}
+
+std::string ownRegion(icu::Locale locale) {
+  UErrorCode status = U_ZERO_ERROR;
+  if (*locale.getCountry() == '\0') locale.addLikelySubtags(status);
+  return U_SUCCESS(status) ? locale.getCountry() : std::string();
+}
+
+std::string regionOf(const icu::Locale& locale) {
+  if (const std::string_view region = meaningOf(kSystems, keyword(locale, "measure")); !region.empty()) {
+    return std::string(region);
+  }
+  std::string region = overridingRegion(keyword(locale, "rg"));
+  return region.empty() ? ownRegion(locale) : region;
+}
+
+}  // namespace
+
+MeasurementLocale measurementLocaleOf(const std::string& identifier) {
+  const icu::Locale locale = icu::Locale::createCanonical(identifier.c_str());
+  if (locale.isBogus()) return {};
+  return {regionOf(locale), std::string(meaningOf(kTemperatures, keyword(locale, "mu")))};
+}
+
+}  // namespace kzm::port

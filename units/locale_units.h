@@ -1,0 +1,41 @@
+// Which units a locale prefers.
+//
+// The decision is made on texts: a sample of each kind of quantity, shown in the unit that the region prefers, is
+// searched for the symbols of units. The texts come from a table of regions; the rules would do as well on others.
+#ifndef KZM_UNITS_LOCALE_UNITS_H
+#define KZM_UNITS_LOCALE_UNITS_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+#include <KZMUtilities/default_units.h>
+
+#include "port/measurement_locale.h"
+
+namespace kzm::units {
+
+/// The kinds of quantity that have a preferred unit.
+enum class Quantity : std::uint8_t { windSpeed, pressure, temperature, distance, rain, snow };
+inline constexpr std::size_t kQuantities = 6;
+
+/// A text for each quantity.
+using Samples = std::array<std::string, kQuantities>;
+/// A unit for each quantity.
+using Preferences = std::array<MeasurementUnit, kQuantities>;
+
+/// What is preferred where nothing else is known.
+inline constexpr Preferences kMetric = {MeasurementUnit::kilometersPerHour, MeasurementUnit::hectopascals,
+                                        MeasurementUnit::celsius,           MeasurementUnit::kilometers,
+                                        MeasurementUnit::millimeters,       MeasurementUnit::centimeters};
+
+/// The six samples as they read in the locale's units.
+[[nodiscard]] Samples samplesIn(const port::MeasurementLocale& locale);
+
+/// The units whose symbols six texts contain, whatever the texts are.
+[[nodiscard]] Preferences preferencesFrom(const Samples& samples);
+
+}  // namespace kzm::units
+
+#endif
