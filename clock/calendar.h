@@ -1,8 +1,8 @@
 // Day numbers and dates of the Gregorian calendar and, before 15 October 1582, the Julian one.
 //
 // Days are numbered from 1970-01-01, which is 0. Years are astronomical: 1 BC is 0, 2 BC is -1.
-#ifndef CLOCK_CALENDAR_H
-#define CLOCK_CALENDAR_H
+#ifndef KZM_CLOCK_CALENDAR_H
+#define KZM_CLOCK_CALENDAR_H
 
 #include <cstdint>
 

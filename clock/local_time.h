@@ -1,6 +1,6 @@
 // Between time points and the wall clock of a zone.
-#ifndef CLOCK_LOCAL_TIME_H
-#define CLOCK_LOCAL_TIME_H
+#ifndef KZM_CLOCK_LOCAL_TIME_H
+#define KZM_CLOCK_LOCAL_TIME_H
 
 #include <cstdint>
 #include <optional>

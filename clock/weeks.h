@@ -1,6 +1,6 @@
 // Weeks of a year or a month, counted as the user's locale does.
-#ifndef CLOCK_WEEKS_H
-#define CLOCK_WEEKS_H
+#ifndef KZM_CLOCK_WEEKS_H
+#define KZM_CLOCK_WEEKS_H
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
 // The current time, which tests may hold still.
-#ifndef PORT_NOW_H
-#define PORT_NOW_H
+#ifndef KZM_PORT_NOW_H
+#define KZM_PORT_NOW_H
 
 namespace kzm::port {
 

@@ -1,6 +1,6 @@
 // Searches with regular expressions.
-#ifndef PORT_REGEX_H
-#define PORT_REGEX_H
+#ifndef KZM_PORT_REGEX_H
+#define KZM_PORT_REGEX_H
 
 #include <optional>
 #include <string>

@@ -50,6 +50,7 @@ bool isWellFormed(std::string_view identifier) {
            kOther.find(c) != std::string_view::npos;
   };
   return !identifier.empty() && identifier.size() <= kLongestName && identifier.front() != '/' &&
+         identifier.find("//") == std::string_view::npos &&
          std::all_of(identifier.begin(), identifier.end(), isAllowed);
 }
 

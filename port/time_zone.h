@@ -1,8 +1,8 @@
 // Time zones of this machine: offsets from GMT, and the instants of a local time.
 //
 // Zones are found by name, live as long as the process, and may be asked from any thread.
-#ifndef PORT_TIME_ZONE_H
-#define PORT_TIME_ZONE_H
+#ifndef KZM_PORT_TIME_ZONE_H
+#define KZM_PORT_TIME_ZONE_H
 
 #include <cstdint>
 #include <filesystem>

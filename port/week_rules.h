@@ -1,6 +1,8 @@
 // How the user's locale counts weeks.
-#ifndef PORT_WEEK_RULES_H
-#define PORT_WEEK_RULES_H
+#ifndef KZM_PORT_WEEK_RULES_H
+#define KZM_PORT_WEEK_RULES_H
+
+#include <string>
 
 namespace kzm::port {
 
@@ -9,10 +11,10 @@ struct WeekRules {
   int daysInFirstWeek;  ///< how many days of a year or month its first week has at least, 1 to 7
 };
 
-/// The rules of a locale, such as "de_DE.UTF-8". Names of no known language, C and POSIX: Monday, 1 day.
-[[nodiscard]] WeekRules weekRulesOf(const char* locale);
+/// The rules of the locale with that ICU identifier, by its region; Monday and 1 day where ICU has none.
+[[nodiscard]] WeekRules weekRulesOf(const std::string& locale);
 
-/// The rules of the locale in force for dates: the first that is not empty of LC_ALL, LC_TIME, LANG, read once.
+/// The rules of the locale that the environment gives for dates, read on the first call.
 [[nodiscard]] const WeekRules& weekRules();
 
 }  // namespace kzm::port
