@@ -41,6 +41,12 @@ class NamedZone final : public Zone {
   cctz::time_zone zone_;
 };
 
+// The zone files' folder holds these besides: other names of zones, and zones that count leap seconds.
+bool isOtherFile(std::string_view identifier) {
+  return identifier.starts_with("posix/") || identifier.starts_with("right/") || identifier == "localtime" ||
+         identifier == "posixrules";
+}
+
 // Only names that can be a zone's: no way leads out of the folder of zone files, and cctz's own prefixes have a colon.
 bool isWellFormed(std::string_view identifier) {
   constexpr std::size_t kLongestName = 64;  // The longest zone name has about half of that.
@@ -50,7 +56,7 @@ bool isWellFormed(std::string_view identifier) {
            kOther.find(c) != std::string_view::npos;
   };
   return !identifier.empty() && identifier.size() <= kLongestName && identifier.front() != '/' &&
-         identifier.find("//") == std::string_view::npos &&
+         identifier.find("//") == std::string_view::npos && !isOtherFile(identifier) &&
          std::all_of(identifier.begin(), identifier.end(), isAllowed);
 }
 
