@@ -1,8 +1,12 @@
 #include "port/regex.h"
 
+#include <algorithm>
 #include <chrono>
+#include <memory>
 #include <unicode/regex.h>
 #include <unicode/unistr.h>
+
+#include "port/per_thread.h"
 
 namespace kzm::port {
 namespace {
@@ -41,13 +45,27 @@ icu::UnicodeString utf16(std::string_view text) {
   return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
 }
 
-// A back-reference compares as much text as its group holds, in one step; escaped backslashes are counted along.
+// A back-reference compares as much text as its group holds, and all that in one step. An escaped backslash before a
+// digit is taken for one as well: what it costs is only that long texts are not searched.
 bool refersBack(std::string_view pattern) {
-  for (std::size_t i = pattern.find('\\'); i + 1 < pattern.size(); i = pattern.find('\\', i + 1)) {
-    const char next = pattern[i + 1];
-    if ((next >= '1' && next <= '9') || next == 'k') return true;
-  }
-  return false;
+  const auto begins = [](char c, char next) { return c == '\\' && ((next >= '1' && next <= '9') || next == 'k'); };
+  return std::adjacent_find(pattern.begin(), pattern.end(), begins) != pattern.end();
+}
+
+// Compiling costs a hundred times what a short search does, and hosts ask for one pattern again and again. A pattern
+// that does not compile is remembered as well.
+struct LastPattern {
+  std::optional<std::string> text;
+  std::unique_ptr<icu::RegexPattern> compiled;
+};
+
+const icu::RegexPattern* compiled(std::string_view pattern) {
+  LastPattern& last = perThread<LastPattern>();
+  if (last.text == pattern) return last.compiled.get();
+  UErrorCode status = U_ZERO_ERROR;
+  last.compiled.reset(icu::RegexPattern::compile(utf16(pattern), UREGEX_CASE_INSENSITIVE, status));
+  last.text = pattern;
+  return last.compiled.get();
 }
 
 bool isTooLong(std::string_view text, std::string_view pattern) {
@@ -59,14 +77,15 @@ bool isTooLong(std::string_view text, std::string_view pattern) {
 
 std::optional<std::string> firstGroup(std::string_view text, std::string_view pattern) {
   if (isTooLong(text, pattern)) return std::nullopt;
+  const icu::RegexPattern* expression = compiled(pattern);
+  if (expression == nullptr) return std::nullopt;
   UErrorCode status = U_ZERO_ERROR;
-  icu::RegexMatcher matcher(utf16(pattern), UREGEX_CASE_INSENSITIVE, status);
-  if (U_FAILURE(status) || matcher.groupCount() < 1) return std::nullopt;
   const icu::UnicodeString input = utf16(text);  // The matcher keeps a reference.
-  matcher.reset(input);
-  const Deadline deadline(matcher, status);
-  if (!matcher.find(status) || U_FAILURE(status) || matcher.start(1, status) < 0) return std::nullopt;
-  const icu::UnicodeString group = matcher.group(1, status);
+  const std::unique_ptr<icu::RegexMatcher> matcher(expression->matcher(input, status));
+  if (U_FAILURE(status) || matcher == nullptr || matcher->groupCount() < 1) return std::nullopt;
+  const Deadline deadline(*matcher, status);
+  if (!matcher->find(status) || U_FAILURE(status) || matcher->start(1, status) < 0) return std::nullopt;
+  const icu::UnicodeString group = matcher->group(1, status);
   if (U_FAILURE(status)) return std::nullopt;
   std::string result;
   return group.toUTF8String(result);

@@ -18,8 +18,8 @@ namespace kzm::port {
 [[nodiscard]] std::optional<std::string> firstGroup(std::string_view text, std::string_view pattern);
 
 inline constexpr std::size_t kLongestText = std::size_t{4} << 20U;                  ///< in bytes
-inline constexpr std::size_t kLongestPattern = std::size_t{1} << 16U;               ///< in bytes
-inline constexpr std::size_t kLongestTextForBackReference = std::size_t{1} << 15U;  ///< in bytes
+inline constexpr std::size_t kLongestPattern = std::size_t{1} << 14U;               ///< in bytes
+inline constexpr std::size_t kLongestTextForBackReference = std::size_t{1} << 14U;  ///< in bytes
 
 }  // namespace kzm::port
 

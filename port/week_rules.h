@@ -11,7 +11,7 @@ struct WeekRules {
   int daysInFirstWeek;  ///< how many days of a year or month its first week has at least, 1 to 7
 };
 
-/// The rules of the locale with that ICU identifier, by its region; Monday and 1 day where ICU has none.
+/// The rules of the locale with that ICU identifier, by its region; Monday and 1 day when ICU fails.
 [[nodiscard]] WeekRules weekRulesOf(const std::string& locale);
 
 /// The rules of the locale that the environment gives for dates, read on the first call.

@@ -36,8 +36,8 @@ KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::s
 ///
 /// False for an invalid pattern, one without a capture group, and a search that the engine gives up: after 2000 units
 /// of work of ten thousand steps each (about a quarter of a second), after one second in work that it does not count in
-/// steps, or when its stack is full. Not searched at all are patterns above 64 KiB, texts above 4 MiB, and texts above
-/// 32 KiB when the pattern refers back to a group.
+/// steps, or when its stack is full. Not searched at all are patterns above 16 KiB, texts above 4 MiB, and texts above
+/// 16 KiB when the pattern refers back to a group.
 ///
 /// Example:  doesStringMatchExpression("ab", "([A-Z]{2})")  // true
 [[nodiscard]] KZM_EXPORT bool doesStringMatchExpression(std::string_view text, std::string_view pattern);
