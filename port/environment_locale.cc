@@ -131,6 +131,8 @@ std::string measurementLocale(const Environment& environment) {
   return usableLocale(firstSet(environment, "LC_MEASUREMENT"));
 }
 
+std::string dateLocale(const Environment& environment) { return usableLocale(firstSet(environment, "LC_TIME")); }
+
 std::vector<std::string> textLocales(const Environment& environment) {
   std::vector<std::string> identifiers;
   const std::string_view message = firstSet(environment, "LC_MESSAGES");

@@ -31,6 +31,9 @@ inline constexpr std::string_view kFallbackLocale = "en_001";
 /// The same for the user's units of measurement: LC_ALL, LC_MEASUREMENT, LANG.
 [[nodiscard]] std::string measurementLocale(const Environment& environment = processEnvironment);
 
+/// The same for the way dates and weeks are counted: LC_ALL, LC_TIME, LANG.
+[[nodiscard]] std::string dateLocale(const Environment& environment = processEnvironment);
+
 /// The identifiers of the languages in which texts are wanted, best first; empty means English. LANGUAGE holds a list,
 /// separated by colons, that goes before the message locale (LC_ALL, LC_MESSAGES, LANG), but counts only when there is
 /// one: with C, POSIX or nothing at all the texts stay English. An entry "C" ends the list; malformed ones are left

@@ -1,0 +1,53 @@
+// Helpers for strings and attributed strings: replacing the first occurrence of a text, and regular expressions.
+//
+// All operations are free of shared state and may be called from any thread; a text that is changed belongs to the
+// calling thread during the call. Texts are UTF-8.
+#ifndef KZMUTILITIES_TEXT_H
+#define KZMUTILITIES_TEXT_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <KZMUtilities/attributed_string.h>
+#include <KZMUtilities/export.h>
+#include <KZMUtilities/value.h>
+
+namespace kzm {
+
+/// `replaceString:withString:attributes:`   Replaces the first occurrence of the target by the replacement text with
+/// the given attributes over its whole length.
+///
+/// The search is literal and case-sensitive, from the start. An empty target, or one that is not found, changes
+/// nothing; the rest of the text keeps its attributes.
+///
+/// Example:  "%@ of %@" with "%@" replaced by "3" is "3 of %@".
+KZM_EXPORT void replaceStringWithStringAttributes(AttributedString& text, std::string_view target,
+                                                  std::string_view replacement, const Value& attributes);
+
+/// `replaceString:withAttributedString:`   The same with a replacement that keeps its own runs.
+KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::string_view target,
+                                                  const AttributedString& replacement);
+
+/// `doesStringMatchExpression:`   Whether the pattern is found in the text and its capture group 1 took part.
+///
+/// The pattern is an ICU regular expression, used case-insensitively by full Unicode folding and without any other
+/// option; the first match anywhere in the text counts. Invalid UTF-8 counts as U+FFFD, one for each bad sequence.
+///
+/// False for an invalid pattern, one without a capture group, and a search that the engine gives up: after 2000 units
+/// of work of ten thousand steps each (about a quarter of a second), after one second in work that it does not count in
+/// steps, or when its stack is full. Not searched at all are patterns above 16 KiB, texts above 4 MiB, and texts above
+/// 16 KiB when the pattern refers back to a group.
+///
+/// Example:  doesStringMatchExpression("ab", "([A-Z]{2})")  // true
+[[nodiscard]] KZM_EXPORT bool doesStringMatchExpression(std::string_view text, std::string_view pattern);
+
+/// `matchForExpression:`   The text of capture group 1 in the first match, possibly empty; null where
+/// doesStringMatchExpression is false.
+///
+/// Example:  matchForExpression("12 Files", "(\\d+) files")  // "12"
+[[nodiscard]] KZM_EXPORT std::optional<std::string> matchForExpression(std::string_view text, std::string_view pattern);
+
+}  // namespace kzm
+
+#endif

@@ -1,0 +1,121 @@
+#include "port/time_zone.h"
+
+#include <algorithm>
+#include <array>
+#include <cctz/civil_time.h>
+#include <cctz/time_zone.h>
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <shared_mutex>
+#include <string>
+#include <system_error>
+
+namespace kzm::port {
+namespace {
+
+using CctzTime = cctz::time_point<cctz::seconds>;
+
+std::int64_t secondsOf(CctzTime time) { return time.time_since_epoch().count(); }
+
+// A zone of the system's zone files. Local times go to cctz as bare second counts, so its calendar does not matter.
+class NamedZone final : public Zone {
+ public:
+  NamedZone(std::string identifier, cctz::time_zone zone) : Zone(std::move(identifier)), zone_(zone) {}
+
+  [[nodiscard]] std::int64_t offset(std::int64_t instant) const override {
+    return zone_.lookup(CctzTime(cctz::seconds(instant))).offset;
+  }
+
+  [[nodiscard]] LocalTimeInstants instants(std::int64_t local) const override {
+    const cctz::time_zone::civil_lookup found = zone_.lookup(cctz::civil_second(1970) + local);
+    return {secondsOf(found.pre), secondsOf(found.trans), secondsOf(found.post)};
+  }
+
+ private:
+  cctz::time_zone zone_;
+};
+
+// The zone files' folder holds these besides: other names of zones, and zones that count leap seconds.
+bool isOtherFile(std::string_view identifier) {
+  return identifier.starts_with("posix/") || identifier.starts_with("right/") || identifier == "localtime" ||
+         identifier == "posixrules";
+}
+
+// Only names that can be a zone's: no way leads out of the folder of zone files, and cctz's own prefixes have a colon.
+bool isWellFormed(std::string_view identifier) {
+  constexpr std::size_t kLongestName = 64;  // The longest zone name has about half of that.
+  static constexpr std::string_view kOther = "_+-/";
+  const auto isAllowed = [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+           kOther.find(c) != std::string_view::npos;
+  };
+  return !identifier.empty() && identifier.size() <= kLongestName && identifier.front() != '/' &&
+         identifier.find("//") == std::string_view::npos && !isOtherFile(identifier) &&
+         std::all_of(identifier.begin(), identifier.end(), isAllowed);
+}
+
+// cctz remembers every name it is asked for, so it is asked for zone files only. It looks in the same folder.
+bool isZoneFile(std::string_view identifier) {
+  const char* folder = std::getenv("TZDIR");  // NOLINT(concurrency-mt-unsafe): read only, and cctz reads it as well
+  const std::filesystem::path path =
+      std::filesystem::path(folder != nullptr && *folder != '\0' ? folder : "/usr/share/zoneinfo") / identifier;
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(path, error)) return false;
+  std::ifstream file(path, std::ios::binary);
+  std::array<char, 4> magic{};
+  return file.read(magic.data(), magic.size()) && std::string_view(magic.data(), magic.size()) == "TZif";
+}
+
+std::unique_ptr<const Zone> loadZone(std::string_view identifier) {
+  cctz::time_zone zone;
+  const std::string name(identifier);
+  if (!isWellFormed(identifier) || !isZoneFile(identifier) || !cctz::load_time_zone(name, &zone)) return nullptr;
+  return std::make_unique<const NamedZone>(name, zone);
+}
+
+struct ZoneTable {
+  std::shared_mutex mutex;
+  std::map<std::string, std::unique_ptr<const Zone>, std::less<>> zones;
+};
+
+// Never destroyed: zones are handed out for as long as the process lives.
+ZoneTable& zoneTable() {
+  static ZoneTable& table = *new ZoneTable;
+  return table;
+}
+
+const Zone* knownZone(std::string_view identifier) {
+  ZoneTable& table = zoneTable();
+  const std::shared_lock lock(table.mutex);
+  const auto found = table.zones.find(identifier);
+  return found != table.zones.end() ? found->second.get() : nullptr;
+}
+
+const Zone* rememberZone(std::unique_ptr<const Zone> zone) {
+  ZoneTable& table = zoneTable();
+  const std::unique_lock lock(table.mutex);
+  // Of two threads that loaded the same file, the first one's zone stays.
+  return table.zones.try_emplace(zone->identifier(), std::move(zone)).first->second.get();
+}
+
+}  // namespace
+
+const Zone& utcZone() {
+  static const Zone& zone = *new NamedZone("UTC", cctz::utc_time_zone());
+  return zone;
+}
+
+const Zone* namedZone(std::string_view identifier) {
+  if (identifier == utcZone().identifier()) return &utcZone();
+  if (const Zone* known = knownZone(identifier)) return known;
+  std::unique_ptr<const Zone> loaded = loadZone(identifier);
+  return loaded != nullptr ? rememberZone(std::move(loaded)) : nullptr;
+}
+
+}  // namespace kzm::port
