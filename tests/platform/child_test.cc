@@ -243,6 +243,8 @@ TEST_F(ChildTest, ManyStartsAtOnceAreOne) {
   for (int number = 0; number < 8; ++number) threads.emplace_back([&] { started += child->launch() ? 1 : 0; });
   for (std::thread& thread : threads) thread.join();
   EXPECT_EQ(started, 1);
+  child->forceCancel();
+  finish(*child);
 }
 
 }  // namespace

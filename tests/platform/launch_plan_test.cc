@@ -127,7 +127,7 @@ TEST_F(LaunchTest, ConnectsPipesAndClosesTheChildsEnds) {
   ASSERT_EQ(::write(input.writingEnd().descriptor(), "hello", 5), 5);
   input.writingEnd().close();
   EXPECT_EQ(readAll(output.readingEnd().descriptor()), "hello");
-  EXPECT_EQ(readAll(errors.readingEnd().descriptor()), "complaint");
+  EXPECT_EQ(readAll(errors.readingEnd().descriptor()), "complaint\n");
   finish(*child);
 }
 
@@ -140,7 +140,7 @@ TEST_F(LaunchTest, TwoStreamsMayShareAPipe) {
       .standardError = both
   });
   ASSERT_TRUE(child->launch());
-  EXPECT_EQ(readAll(both.readingEnd().descriptor()), "complaintready\n");
+  EXPECT_EQ(readAll(both.readingEnd().descriptor()), "complaint\nready\n");
   finish(*child);
 }
 

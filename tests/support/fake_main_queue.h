@@ -43,13 +43,12 @@ class FakeMainQueue final : public port::MainQueue {
     return watched_.size();
   }
 
-  /// Moves the clock on, and runs what falls due, in the order of time.
+  /// Moves the clock on, and runs what falls due on the way, each at its own time.
   void advance(std::int64_t nanoseconds) {
-    {
-      const std::lock_guard lock(mutex_);
-      now_ += nanoseconds;
-    }
-    while (Action action = nextDue()) action();
+    const std::int64_t end = now() + nanoseconds;
+    while (Action action = nextDue(end)) action();
+    const std::lock_guard lock(mutex_);
+    now_ = end;
   }
 
   /// Runs what is due now, and what waits for a descriptor that is readable now.
@@ -78,9 +77,15 @@ class FakeMainQueue final : public port::MainQueue {
     int number_;
   };
 
-  Action nextDue() {
+  std::int64_t now() {
     const std::lock_guard lock(mutex_);
-    if (timers_.empty() || timers_.begin()->first > now_) return nullptr;
+    return now_;
+  }
+
+  Action nextDue(std::int64_t end) {
+    const std::lock_guard lock(mutex_);
+    if (timers_.empty() || timers_.begin()->first > end) return nullptr;
+    now_ = timers_.begin()->first;
     return std::move(timers_.extract(timers_.begin()).mapped());
   }
 
