@@ -1,0 +1,161 @@
+// Bars, images and colours for graphs and icons, drawn with cairo into the context that the host has made current.
+//
+// Lengths are points: the units of the context's own coordinates. Without a current context nothing is drawn, and what
+// cannot be drawn (a rectangle that is empty, negative or not finite, an empty image) is passed over: no call fails,
+// and none puts the host's cairo context into an error state. Its source, path, line width, clip and transformation are
+// as before after each call. Each thread has its own current context; one context or image is used by one thread at a
+// time.
+#ifndef KZMUTILITIES_DRAWING_H
+#define KZMUTILITIES_DRAWING_H
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <KZMUtilities/export.h>
+
+typedef struct _cairo cairo_t;
+typedef struct _cairo_surface cairo_surface_t;
+
+namespace kzm {
+
+struct Point {
+  double x = 0.0;
+  double y = 0.0;
+  [[nodiscard]] friend bool operator==(const Point&, const Point&) = default;
+};
+
+struct Size {
+  double width = 0.0;
+  double height = 0.0;
+  [[nodiscard]] friend bool operator==(const Size&, const Size&) = default;
+};
+
+struct Rect {
+  Point origin{};
+  Size size{};
+  [[nodiscard]] friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+/// A colour as hue, saturation, brightness and alpha, each from 0 to 1. What a component has beyond that is cut off,
+/// and no number is 0. Hue and saturation stay as they are also where they cannot be seen, as in black.
+class KZM_EXPORT Color {
+ public:
+  /// Opaque black.
+  Color() noexcept = default;
+  /// A hue of 1 looks like a hue of 0: red.
+  [[nodiscard]] static Color fromHSBA(double hue, double saturation, double brightness, double alpha) noexcept;
+  /// Greys get hue 0 and saturation 0.
+  [[nodiscard]] static Color fromRGBA(double red, double green, double blue, double alpha) noexcept;
+
+  [[nodiscard]] double hue() const noexcept { return hue_; }
+  [[nodiscard]] double saturation() const noexcept { return saturation_; }
+  [[nodiscard]] double brightness() const noexcept { return brightness_; }
+  [[nodiscard]] double alpha() const noexcept { return alpha_; }
+  [[nodiscard]] double red() const noexcept;
+  [[nodiscard]] double green() const noexcept;
+  [[nodiscard]] double blue() const noexcept;
+
+  /// `multiplyBrightness:` The colour with its brightness times the factor, cut off at 1 as everywhere (0.8 times 2.0
+  /// is 1); hue, saturation and alpha exactly as they are.
+  [[nodiscard]] Color multiplyBrightness(float factor) const noexcept;
+
+  [[nodiscard]] friend bool operator==(const Color&, const Color&) = default;
+
+ private:
+  double hue_ = 0.0;
+  double saturation_ = 0.0;
+  double brightness_ = 0.0;
+  double alpha_ = 1.0;
+};
+
+/// A place to draw: a caller's cairo context with a fill and a stroke colour that stay set until changed. Copies are
+/// handles on the same one.
+class KZM_EXPORT GraphicsContext {
+ public:
+  /// Makes a context current on this thread for as long as it lives; the one before is current again afterwards.
+  class KZM_EXPORT Current {
+   public:
+    explicit Current(const GraphicsContext& context);
+    ~Current();
+    Current(const Current&) = delete;
+    Current& operator=(const Current&) = delete;
+
+   private:
+    std::unique_ptr<GraphicsContext> previous_;
+  };
+
+  /// Keeps a reference on the cairo context; with null nothing is drawn. `flipped` tells which way up images stand:
+  /// true when y grows downwards, as cairo has it by itself, false when the host has turned the y axis upwards.
+  explicit GraphicsContext(cairo_t* cairo, bool flipped = true);
+
+  /// The calling thread's current context, if any.
+  [[nodiscard]] static std::optional<GraphicsContext> current();
+  /// Makes this one current: `const auto drawing = context.makeCurrent();`
+  [[nodiscard]] Current makeCurrent() const;
+
+  /// The caller's own; null if there was none.
+  [[nodiscard]] cairo_t* cairo() const noexcept;
+  [[nodiscard]] bool isFlipped() const noexcept;
+  /// Opaque black at first, both.
+  [[nodiscard]] Color fillColor() const noexcept;
+  [[nodiscard]] Color strokeColor() const noexcept;
+  void setFillColor(const Color& color) const noexcept;
+  void setStrokeColor(const Color& color) const noexcept;
+
+ private:
+  struct State;
+  std::shared_ptr<State> state_;
+};
+
+/// A picture with a size in points. Copies are handles on the same pixels.
+class KZM_EXPORT Image {
+ public:
+  /// Draws into an image for as long as it lives: its context is current, with y growing downwards from its top.
+  class KZM_EXPORT Focus {
+   public:
+    explicit Focus(const Image& image);
+
+   private:
+    GraphicsContext context_;
+    GraphicsContext::Current current_;
+  };
+
+  /// Empty: no size, and drawing it does nothing.
+  Image() noexcept;
+  /// Transparent, with `scale` pixels to the point. Empty if a side is not above 0 or has more than 32767 pixels.
+  explicit Image(Size size, double scale = 1.0);
+  /// A copy of an image surface's pixels and device scale; empty if it is none, or is in an error state.
+  [[nodiscard]] static Image fromSurface(cairo_surface_t* surface);
+  /// Empty if the file cannot be read.
+  [[nodiscard]] static Image fromPNG(const std::string& path);
+  /// Writes the pixels; false if that fails, or if the image is empty.
+  [[nodiscard]] bool writePNG(const std::string& path) const;
+
+  [[nodiscard]] Size size() const noexcept;
+
+  /// `drawAtPoint:` Draws the image in its own size from the point on.
+  void drawAtPoint(const Point& point) const;
+  /// `drawInRect:` Draws the whole image over the rectangle, scaled to fit it, upright in every context.
+  void drawInRect(const Rect& rect) const;
+
+  /// `tint:` A copy in which every pixel has the colour, its alpha times the pixel's own: same shape, other colour.
+  [[nodiscard]] Image tint(const Color& color) const;
+
+ private:
+  struct Pixels;
+  explicit Image(std::shared_ptr<const Pixels> pixels) noexcept;
+  std::shared_ptr<const Pixels> pixels_;
+};
+
+/// `barGraphWithRect:fill:` Fills the rectangle, its corners rounded by 2 by 2 points, or by half a side that is
+/// shorter than 4. The colour stays the context's fill colour.
+KZM_EXPORT void barGraphWithRectFill(const Rect& rect, const Color& fill);
+
+/// `barGraphWithRect:border:` Outlines the same shape with a line 0.5 wide, centred on the rectangle's edge: half of it
+/// lies outside. The colour stays the context's stroke colour.
+KZM_EXPORT void barGraphWithRectBorder(const Rect& rect, const Color& border);
+
+}  // namespace kzm
+
+#endif

@@ -1,0 +1,72 @@
+// Guards around code that raises the platform's exceptions, and a maximum and minimum that pass over what is no number.
+//
+// Everything here is free of shared state and may be called from any thread.
+#ifndef KZMUTILITIES_GUARDS_H
+#define KZMUTILITIES_GUARDS_H
+
+#include <exception>
+#include <functional>
+#include <string>
+
+#include <KZMUtilities/export.h>
+
+namespace kzm {
+
+/// The platform's exception: the one kind that the guards below catch. Hosts throw it, or classes derived from it.
+class KZM_EXPORT Exception : public std::exception {
+ public:
+  /// `name` says which kind of exception it is, for programs; `reason` what happened, for people. Either may be empty.
+  Exception(std::string name, std::string reason);
+  ~Exception() override;
+
+  Exception(const Exception&);
+  Exception& operator=(const Exception&);
+
+  [[nodiscard]] const std::string& name() const noexcept { return name_; }
+  [[nodiscard]] const std::string& reason() const noexcept { return reason_; }
+  /// The reason.
+  [[nodiscard]] const char* what() const noexcept override;
+
+ private:
+  std::string name_;
+  std::string reason_;
+};
+
+}  // namespace kzm
+
+/// Runs the block and swallows a platform exception (kzm::Exception or a class derived from it) that it raises; nothing
+/// is logged. Any other exception passes on to the caller unchanged. An empty block does nothing.
+KZM_EXPORT void KZMTryCatchBlock(const std::function<void()>& block);
+
+/// Runs the block and tells the completion how it ended: null for success, else the platform exception itself, with its
+/// dynamic type, valid during the call only.
+///
+/// The completion's call with null is guarded like the block: if it raises a platform exception, the completion is
+/// called a second time, with that exception. What the completion raises when it is given an exception passes on to the
+/// caller, and so does any other kind of exception from the block. An empty block succeeds; an empty completion is told
+/// nothing.
+KZM_EXPORT void KZMTryCatchBlockWithError(const std::function<void()>& block,
+                                          const std::function<void(const kzm::Exception*)>& completion);
+
+/// The greater of the finite arguments; 0.0 when neither is finite (NaN, an infinity). On a tie, a:
+/// KZMMAXDouble(-0.0, 0.0) is -0.0.
+[[nodiscard]] KZM_EXPORT double KZMMAXDouble(double a, double b);
+
+/// The lesser of the finite arguments; 0.0 when neither is finite (NaN, an infinity). On a tie, b:
+/// KZMMINDouble(0.0, -0.0) is -0.0.
+[[nodiscard]] KZM_EXPORT double KZMMINDouble(double a, double b);
+
+/// Published under its name, with no operations and no state. Its constructor is defined inside the library, for a
+/// class leaves its name among the exported symbols only through something of its own that is compiled there.
+class KZM_EXPORT KZMMath {
+ public:
+  KZMMath() noexcept;
+};
+
+/// Published under its name, with no operations and no state, like KZMMath.
+class KZM_EXPORT KZMUtilitiesBatteryIcons {
+ public:
+  KZMUtilitiesBatteryIcons() noexcept;
+};
+
+#endif

@@ -1,0 +1,31 @@
+// The bars of bar graphs: rounded rectangles in the current context.
+#include <KZMUtilities/drawing.h>
+
+#include "port/canvas.h"
+
+namespace kzm {
+namespace {
+
+constexpr double kCornerRadius = 2.0;  // points, in both directions
+constexpr double kOutlineWidth = 0.5;  // points
+
+}  // namespace
+
+void barGraphWithRectFill(const Rect& rect, const Color& fill) {
+  const std::optional<GraphicsContext> context = GraphicsContext::current();
+  if (!context) return;
+  // Deliberate: the colour stays the context's fill colour, also when nothing can be drawn.
+  context->setFillColor(fill);
+  port::fillRoundedRect(context->cairo(), rect, kCornerRadius, fill);
+}
+
+void barGraphWithRectBorder(const Rect& rect, const Color& border) {
+  const std::optional<GraphicsContext> context = GraphicsContext::current();
+  if (!context) return;
+  // Deliberate: the colour stays the context's stroke colour, also when nothing can be drawn.
+  context->setStrokeColor(border);
+  // Deliberate: the rectangle is not inset, so half of the line lies outside it, along the edge of the fill.
+  port::strokeRoundedRect(context->cairo(), rect, kCornerRadius, kOutlineWidth, border);
+}
+
+}  // namespace kzm

@@ -1,0 +1,51 @@
+// The current context of each thread, and the two colours that cairo, with its single source, does not keep.
+#include <cairo.h>
+#include <utility>
+
+#include <KZMUtilities/drawing.h>
+
+namespace kzm {
+namespace {
+
+std::unique_ptr<GraphicsContext>& currentContext() {
+  static thread_local std::unique_ptr<GraphicsContext> context;
+  return context;
+}
+
+}  // namespace
+
+struct GraphicsContext::State {
+  State(cairo_t* context, bool yGrowsDown) : cairo(context ? cairo_reference(context) : nullptr), flipped(yGrowsDown) {}
+  State(const State&) = delete;
+  State& operator=(const State&) = delete;
+  ~State() {
+    if (cairo) cairo_destroy(cairo);
+  }
+
+  cairo_t* cairo;
+  bool flipped;
+  Color fill;
+  Color stroke;
+};
+
+GraphicsContext::GraphicsContext(cairo_t* cairo, bool flipped) : state_(std::make_shared<State>(cairo, flipped)) {}
+
+std::optional<GraphicsContext> GraphicsContext::current() {
+  return currentContext() ? std::optional(*currentContext()) : std::nullopt;
+}
+
+GraphicsContext::Current GraphicsContext::makeCurrent() const { return Current(*this); }
+
+cairo_t* GraphicsContext::cairo() const noexcept { return state_->cairo; }
+bool GraphicsContext::isFlipped() const noexcept { return state_->flipped; }
+Color GraphicsContext::fillColor() const noexcept { return state_->fill; }
+Color GraphicsContext::strokeColor() const noexcept { return state_->stroke; }
+void GraphicsContext::setFillColor(const Color& color) const noexcept { state_->fill = color; }
+void GraphicsContext::setStrokeColor(const Color& color) const noexcept { state_->stroke = color; }
+
+GraphicsContext::Current::Current(const GraphicsContext& context)
+    : previous_(std::exchange(currentContext(), std::make_unique<GraphicsContext>(context))) {}
+
+GraphicsContext::Current::~Current() { currentContext() = std::move(previous_); }
+
+}  // namespace kzm

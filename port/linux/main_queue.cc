@@ -1,0 +1,78 @@
+// The main queue on GLib's default main context.
+#include "port/main_queue.h"
+
+#include <glib-unix.h>
+#include <glib.h>
+#include <utility>
+
+namespace kzm::port {
+namespace {
+
+using Action = MainQueue::Action;
+
+constexpr std::int64_t kNanosecondsPerMicrosecond = 1000;
+
+gboolean run(gpointer data) noexcept {
+  (*static_cast<Action*>(data))();
+  return G_SOURCE_CONTINUE;
+}
+
+gboolean runOnce(gpointer data) noexcept {
+  (*static_cast<Action*>(data))();
+  return G_SOURCE_REMOVE;
+}
+
+gboolean dispatch(GSource*, GSourceFunc callback, gpointer data) { return callback(data); }
+
+// A source of no type of its own: it is ready by its time or by its descriptor alone.
+GSource* makeSource(GSourceFunc callback, Action action) {
+  static GSourceFuncs functions{nullptr, nullptr, dispatch, nullptr, nullptr, nullptr};
+  GSource* source = g_source_new(&functions, sizeof(GSource));
+  g_source_set_callback(source, callback, std::make_unique<Action>(std::move(action)).release(),
+                        [](gpointer data) { std::unique_ptr<Action>(static_cast<Action*>(data)).reset(); });
+  return source;
+}
+
+// Rounded up: never too early.
+std::int64_t readyTime(std::int64_t nanoseconds) {
+  const std::int64_t rest = nanoseconds % kNanosecondsPerMicrosecond > 0 ? 1 : 0;
+  return g_get_monotonic_time() + nanoseconds / kNanosecondsPerMicrosecond + rest;
+}
+
+class DescriptorWatch final : public MainQueue::Watch {
+ public:
+  explicit DescriptorWatch(GSource* source) : source_(source) {}
+  ~DescriptorWatch() override {
+    g_source_destroy(source_);
+    g_source_unref(source_);
+  }
+
+ private:
+  GSource* source_;
+};
+
+class GlibMainQueue final : public MainQueue {
+ public:
+  void after(std::int64_t nanoseconds, Action action) override {
+    GSource* source = makeSource(runOnce, std::move(action));
+    g_source_set_ready_time(source, nanoseconds > 0 ? readyTime(nanoseconds) : 0);
+    g_source_attach(source, nullptr);
+    g_source_unref(source);
+  }
+
+  std::unique_ptr<Watch> whenReadable(int descriptor, Action action) override {
+    GSource* source = makeSource(run, std::move(action));
+    g_source_add_unix_fd(source, descriptor, G_IO_IN);
+    g_source_attach(source, nullptr);
+    return std::make_unique<DescriptorWatch>(source);
+  }
+};
+
+}  // namespace
+
+MainQueue& mainQueue() {
+  static GlibMainQueue& queue = *std::make_unique<GlibMainQueue>().release();
+  return queue;
+}
+
+}  // namespace kzm::port

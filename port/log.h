@@ -1,0 +1,25 @@
+// The system log, where an administrator looks for what programs have to tell.
+#ifndef KZM_PORT_LOG_H
+#define KZM_PORT_LOG_H
+
+#include <string>
+
+namespace kzm::port {
+
+class Log {
+ public:
+  Log() = default;
+  Log(const Log&) = delete;
+  Log& operator=(const Log&) = delete;
+  virtual ~Log() = default;
+
+  /// Writes one line of text. Safe on any thread.
+  virtual void write(const std::string& text) = 0;
+};
+
+/// The journal, or syslog where there is none, and standard error. Never destroyed.
+[[nodiscard]] Log& systemLog();
+
+}  // namespace kzm::port
+
+#endif

@@ -1,0 +1,66 @@
+// Ten thousand launches in a row, on the real main queue: nothing is left behind, whether anybody turns it or not.
+#include <chrono>
+#include <cstdio>
+#include <glib.h>
+#include <gtest/gtest.h>
+
+#include <KZMUtilities/process.h>
+
+#include "tests/support/processes.h"
+
+namespace kzm::tests {
+namespace {
+
+// Starts children one after another, each with pipes and a watchdog far away, and returns how many ended as they
+// should.
+template <typename AwaitEnd>
+int launchMany(int count, AwaitEnd awaitEndOf) {
+  int ended = 0;
+  for (int number = 0; number < count; ++number) {
+    const Pipe output;
+    ChildProcess child({
+        .executable = KZM_CHILD_HELPER, .arguments = {"exit", "7"},
+             .standardInput = Pipe(), .standardOutput = output
+    });
+    if (!child.launch()) continue;
+    readAll(output.readingEnd().descriptor());
+    awaitEndOf(child);
+    if (child.exitStatus() == ExitStatus{ExitStatus::Reason::exited, 7}) ++ended;
+  }
+  return ended;
+}
+
+void withoutATurn(ChildProcess& child) { awaitEnd(child.processIdentifier()); }
+
+void turningTheQueue(ChildProcess& child) {
+  bool called = false;
+  child.setTerminationHandler([&](const ExitStatus&) { called = true; });
+  while (!called && child.isRunning()) g_main_context_iteration(nullptr, TRUE);
+  while (g_main_context_iteration(nullptr, FALSE)) {
+  }
+}
+
+template <typename AwaitEnd>
+void expectNothingLeft(const char* how, AwaitEnd awaitEndOf) {
+  constexpr int kLaunches = 5'000;
+  EXPECT_EQ(launchMany(1, awaitEndOf), 1) << "what is opened once and kept is open now";
+  const std::ptrdiff_t before = openDescriptors();
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(launchMany(kLaunches, awaitEndOf), kLaunches);
+  const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+  const std::ptrdiff_t after = openDescriptors();
+  std::printf("%s: %d launches in %.1f s, descriptors before %td after %td, children left: %s\n", how, kLaunches,
+              seconds.count(), before, after, hasChildren() ? "yes" : "none");
+  EXPECT_EQ(after, before);
+  EXPECT_FALSE(hasChildren());
+}
+
+TEST(Launches, LeaveNothingBehindWithoutATurnOfTheQueue) {
+  expectNothingLeft("queue not turned", withoutATurn);
+  EXPECT_FALSE(g_main_context_pending(nullptr)) << "nothing waits for a queue that nobody turns";
+}
+
+TEST(Launches, LeaveNothingBehindWithAQueueThatTurns) { expectNothingLeft("queue turned", turningTheQueue); }
+
+}  // namespace
+}  // namespace kzm::tests

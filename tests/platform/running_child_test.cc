@@ -1,0 +1,211 @@
+#include "platform/running_child.h"
+
+#include <atomic>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <memory>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "tests/support/child_fixture.h"
+
+namespace kzm::tests {
+namespace {
+
+using RunningChildTest = ChildTest;
+
+TEST_F(RunningChildTest, IsRunningIsTrueToTheMomentWithoutATurnOfTheQueue) {
+  const Pipe input;
+  const SharedChild child = make({.executable = KZM_CHILD_HELPER, .arguments = {"echo"}, .standardInput = input});
+  ASSERT_TRUE(child->launch());
+  EXPECT_TRUE(child->isRunning());
+  EXPECT_EQ(child->exitStatus(), std::nullopt);
+  input.writingEnd().close();
+  ASSERT_TRUE(awaitEnd(child->processIdentifier()));
+  EXPECT_FALSE(child->isRunning());
+  EXPECT_EQ(processState(child->processIdentifier()), "") << "collected, not a zombie";
+}
+
+TEST_F(RunningChildTest, TheQueueNoticesTheEndByItself) {
+  const SharedChild child = helper({"exit", "5"});
+  std::vector<ExitStatus> endings;
+  child->setTerminationHandler([&](const ExitStatus& status) { endings.push_back(status); });
+  ASSERT_TRUE(child->launch());
+  ASSERT_TRUE(awaitEnd(child->processIdentifier()));
+  EXPECT_EQ(processState(child->processIdentifier()), "Z");
+  queue_.turn();
+  EXPECT_EQ(processState(child->processIdentifier()), "");
+  EXPECT_EQ(endings, std::vector<ExitStatus>{(ExitStatus{Reason::exited, 5})});
+  queue_.turn();
+  EXPECT_EQ(endings.size(), 1U) << "called once";
+}
+
+TEST_F(RunningChildTest, TheHandlerRunsOnTheQueueOnlyEvenIfSomebodyElseSawTheEnd) {
+  const SharedChild child = helper({"die"});
+  std::optional<ExitStatus> ending;
+  child->setTerminationHandler([&](const ExitStatus& status) { ending = status; });
+  ASSERT_TRUE(child->launch());
+  finish(*child);
+  EXPECT_EQ(ending, std::nullopt);
+  queue_.turn();
+  EXPECT_EQ(ending, (ExitStatus{Reason::signaled, SIGABRT}));
+}
+
+TEST_F(RunningChildTest, TheHandlerMayBeChangedWhileTheChildRuns) {
+  const SharedChild child = helper({"exit", "0"});
+  std::string calls;
+  child->setTerminationHandler([&](const ExitStatus&) { calls += "first "; });
+  ASSERT_TRUE(child->launch());
+  child->setTerminationHandler([&](const ExitStatus&) { calls += "second "; });
+  finish(*child);
+  queue_.turn();
+  EXPECT_EQ(calls, "second ");
+}
+
+TEST_F(RunningChildTest, AHandlerThatIsClearedBeforeItsTurnIsNotCalled) {
+  const SharedChild child = helper({"exit", "0"});
+  int calls = 0;
+  child->setTerminationHandler([&](const ExitStatus&) { ++calls; });
+  ASSERT_TRUE(child->launch());
+  finish(*child);
+  child->setTerminationHandler(nullptr);
+  queue_.turn();
+  EXPECT_EQ(calls, 0);
+}
+
+TEST_F(RunningChildTest, AHandlerThatComesTooLateIsNeitherCalledNorKept) {
+  const SharedChild child = helper({"exit", "0"});
+  ASSERT_TRUE(child->launch());
+  finish(*child);
+  const auto held = std::make_shared<int>(0);
+  child->setTerminationHandler([held](const ExitStatus&) { ++*held; });
+  queue_.turn();
+  EXPECT_EQ(*held, 0);
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(RunningChildTest, AHandlerMayHoldItsOwnChild) {
+  SharedChild child = helper({"exit", "0"});
+  const std::weak_ptr<platform::Child> weak = child;
+  child->setTerminationHandler([child](const ExitStatus&) { EXPECT_FALSE(child->isRunning()); });
+  ASSERT_TRUE(child->launch());
+  ASSERT_TRUE(awaitEnd(child->processIdentifier()));
+  child.reset();
+  EXPECT_FALSE(weak.expired());
+  queue_.turn();
+  EXPECT_TRUE(weak.expired());
+}
+
+TEST_F(RunningChildTest, AReleasedChildGoesOnWithoutItsPipesAndIsCollected) {
+  SharedChild child;
+  {
+    const Pipe input;
+    child = make({
+        .executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "4"},
+             .standardInput = input
+    });
+  }
+  std::optional<ExitStatus> ending;
+  child->setTerminationHandler([&](const ExitStatus& status) { ending = status; });
+  ASSERT_TRUE(child->launch());
+  const int process = child->processIdentifier();
+  child.reset();
+  ASSERT_TRUE(awaitEnd(process)) << "the end of its input, for nobody holds the pipe any more";
+  queue_.turn();
+  EXPECT_EQ(ending, (ExitStatus{Reason::exited, 4})) << "the handler runs all the same";
+  EXPECT_EQ(processState(process), "");
+}
+
+TEST_F(RunningChildTest, TheNextStartCollectsWhatNobodyAskedFor) {
+  const std::ptrdiff_t descriptors = openDescriptors();
+  SharedChild child = helper({"exit", "0"});
+  ASSERT_TRUE(child->launch());
+  const int process = child->processIdentifier();
+  child.reset();
+  ASSERT_TRUE(awaitEnd(process));
+  EXPECT_FALSE(make({.executable = "/no/such/program"})->launch()) << "a start that fails collects too";
+  EXPECT_EQ(processState(process), "");
+  EXPECT_EQ(openDescriptors(), descriptors);
+}
+
+TEST_F(RunningChildTest, TheReleaseOfAnObjectCollectsToo) {
+  SharedChild first = helper({"exit", "0"});
+  ASSERT_TRUE(first->launch());
+  ASSERT_TRUE(awaitEnd(first->processIdentifier()));
+  const int process = first->processIdentifier();
+  first.reset();
+  EXPECT_EQ(processState(process), "");
+}
+
+TEST_F(RunningChildTest, AHostThatIgnoresSigchldLosesTheStatusButNotTheEnd) {
+  const auto before = std::signal(SIGCHLD, SIG_IGN);
+  const Pipe output;
+  const SharedChild child = talkingHelper({"stubborn", "ready", "block"}, output);
+  int calls = 0;
+  child->setTerminationHandler([&](const ExitStatus&) { ++calls; });
+  child->launchWithTimeout(1.0);
+  EXPECT_EQ(readLine(output.readingEnd().descriptor()), "ready");
+  EXPECT_TRUE(child->isRunning());
+  queue_.advance(3 * kSecond);
+  EXPECT_EQ(log_.lines.size(), 2U);
+  finish(*child);
+  queue_.turn();
+  EXPECT_EQ(calls, 1);
+  EXPECT_EQ(child->exitStatus(), (ExitStatus{Reason::unknown, 0}));
+  for (int number = 0; number < 50; ++number) {  // some of these are gone before their start returns
+    const SharedChild brief = helper({"exit", "1"});
+    ASSERT_TRUE(brief->launch());
+    finish(*brief);
+  }
+  std::signal(SIGCHLD, before);
+}
+
+TEST_F(RunningChildTest, AHostThatTakesTheStatusItselfDoesNotHideTheEnd) {
+  const SharedChild child = helper({"exit", "6"});
+  ASSERT_TRUE(child->launch());
+  ASSERT_EQ(::waitpid(child->processIdentifier(), nullptr, 0), child->processIdentifier());
+  EXPECT_FALSE(child->isRunning());
+  EXPECT_EQ(child->exitStatus(), (ExitStatus{Reason::unknown, 0}));
+  child->forceCancel();
+  EXPECT_TRUE(log_.lines.empty());
+}
+
+TEST_F(RunningChildTest, ManyThreadsMaySeeOneEnd) {
+  const SharedChild child = helper({"exit", "0"});
+  std::atomic<int> calls = 0;
+  child->setTerminationHandler([&](const ExitStatus&) { ++calls; });
+  ASSERT_TRUE(child->launch());
+  std::vector<std::thread> threads;
+  for (int number = 0; number < 4; ++number)
+    threads.emplace_back([&] {
+      while (child->isRunning()) std::this_thread::yield();
+      EXPECT_EQ(child->exitStatus(), (ExitStatus{Reason::exited, 0}));
+    });
+  for (std::thread& thread : threads) thread.join();
+  queue_.turn();
+  EXPECT_EQ(calls, 1);
+}
+
+TEST_F(RunningChildTest, ManyThreadsMayStartChildrenAtOnce) {
+  std::vector<std::thread> threads;
+  std::atomic<int> ended = 0;
+  for (int number = 0; number < 4; ++number)
+    threads.emplace_back([&] {
+      for (int turn = 0; turn < 20; ++turn) {
+        const Pipe output;
+        auto child = std::make_shared<platform::Child>(
+            ChildConfiguration{.executable = KZM_CHILD_HELPER, .arguments = {"descriptors"}, .standardOutput = output},
+            platform::Host{queue_, log_});
+        if (!child->launch()) continue;
+        EXPECT_EQ(readAll(output.readingEnd().descriptor()), "0 1 2\n");
+        if (awaitEnd(child->processIdentifier()) && !child->isRunning()) ++ended;
+      }
+    });
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(ended, 80);
+}
+
+}  // namespace
+}  // namespace kzm::tests
