@@ -17,6 +17,16 @@ std::pair<std::size_t, std::size_t> wholeCharacters(std::string_view text, std::
   return {first, last};
 }
 
+// Adds a run; equal neighbours become one, and empty text is none.
+void appendRun(std::vector<AttributedString::Run>& runs, std::string_view text, const Value& attributes) {
+  if (text.empty()) return;
+  if (!runs.empty() && runs.back().attributes == attributes) {
+    runs.back().text += text;
+  } else {
+    runs.push_back({std::string(text), attributes});
+  }
+}
+
 }  // namespace
 
 AttributedString::AttributedString() noexcept = default;
@@ -32,7 +42,7 @@ std::string AttributedString::text() const {
 }
 
 void AttributedString::append(const AttributedString& other) {
-  for (const Run& run : std::vector<Run>(other.runs_)) appendRun(run.text, run.attributes);
+  for (const Run& run : std::vector<Run>(other.runs_)) appendRun(runs_, run.text, run.attributes);
 }
 
 void AttributedString::replace(std::size_t position, std::size_t length, const AttributedString& replacement) {
@@ -43,8 +53,8 @@ void AttributedString::replace(std::size_t position, std::size_t length, const A
   for (const Run& run : runs_) {
     const std::string_view text = run.text;
     const auto within = [&](std::size_t offset) { return std::clamp(offset, start, start + text.size()) - start; };
-    result.appendRun(text.substr(0, within(first)), run.attributes);
-    tail.appendRun(text.substr(within(last)), run.attributes);
+    appendRun(result.runs_, text.substr(0, within(first)), run.attributes);
+    appendRun(tail.runs_, text.substr(within(last)), run.attributes);
     start += text.size();
   }
   result.append(replacement);
@@ -57,15 +67,6 @@ bool AttributedString::replaceFirst(std::string_view target, const AttributedStr
   if (position == std::string::npos) return false;
   replace(position, target.size(), replacement);
   return true;
-}
-
-void AttributedString::appendRun(std::string_view text, const Value& attributes) {
-  if (text.empty()) return;
-  if (!runs_.empty() && runs_.back().attributes == attributes) {
-    runs_.back().text += text;
-  } else {
-    runs_.push_back({std::string(text), attributes});
-  }
 }
 
 }  // namespace kzm

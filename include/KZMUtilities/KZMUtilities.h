@@ -4,12 +4,22 @@
 
 #include <KZMUtilities/attributed_string.h>
 #include <KZMUtilities/bytes.h>
+#include <KZMUtilities/conversions.h>
+#include <KZMUtilities/dates.h>
+#include <KZMUtilities/default_units.h>
 #include <KZMUtilities/dictionary.h>
+#include <KZMUtilities/drawing.h>
 #include <KZMUtilities/export.h>
 #include <KZMUtilities/formatters.h>
+#include <KZMUtilities/guards.h>
 #include <KZMUtilities/percentage.h>
+#include <KZMUtilities/process.h>
 #include <KZMUtilities/resources.h>
+#include <KZMUtilities/sensors.h>
 #include <KZMUtilities/shared.h>
+#include <KZMUtilities/text.h>
+#include <KZMUtilities/time_items.h>
 #include <KZMUtilities/value.h>
+#include <KZMUtilities/weather.h>
 
 #endif

@@ -51,8 +51,6 @@ class KZM_EXPORT AttributedString {
   [[nodiscard]] friend bool operator==(const AttributedString&, const AttributedString&) = default;
 
  private:
-  void appendRun(std::string_view text, const Value& attributes);
-
   std::vector<Run> runs_;
 };
 
