@@ -21,14 +21,14 @@ std::size_t widthOf(const Cell& cell) {
   return width;
 }
 
-// The width of the names, and of each column of cells.
+// The width of the names, and of each column of cells; one in which nothing stands takes no room.
 struct Grid {
   std::size_t name = kLeastName;
   std::vector<std::size_t> cells;
 
   void fit(std::size_t column, std::size_t width) {
-    if (cells.size() <= column) cells.resize(column + 1, kLeastCell);
-    cells[column] = std::max(cells[column], width);
+    if (cells.size() <= column) cells.resize(column + 1);
+    if (width > 0) cells[column] = std::max({kLeastCell, cells[column], width});
   }
 };
 
@@ -91,7 +91,7 @@ std::string lineOf(const Piece& name, std::size_t indent, const std::vector<Cell
   line.add(isLong ? Piece{std::string(fitting(name.text, grid.name - indent - 1)) + "…", name.style} : name);
   std::size_t until = grid.name;
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    until += kGap + grid.cells[i];
+    if (grid.cells[i] > 0) until += kGap + grid.cells[i];
     line.fillAndAdd(until, cells[i]);
   }
   return line.take();
