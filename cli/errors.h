@@ -4,6 +4,8 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
+#include <utility>
 
 namespace kzm::cli {
 
@@ -21,6 +23,13 @@ class InputError : public std::runtime_error {
     return text;
   }
 };
+
+/// The text between quotation marks, for an InputError; a long one is cut.
+[[nodiscard]] inline std::string quoted(std::string_view text) {
+  constexpr std::size_t kLongest = 60;  // bytes
+  if (text.size() <= kLongest) return "\"" + std::string(text) + "\"";
+  return "\"" + std::string(text.substr(0, kLongest)) + "...\"";
+}
 
 }  // namespace kzm::cli
 

@@ -48,6 +48,8 @@ Json parseJson(std::string_view text) {
     return Json::parse(text, refuseDepth);
   } catch (const Json::parse_error& error) {
     throw InputError("malformed JSON at byte " + std::to_string(error.byte));
+  } catch (const Json::out_of_range&) {
+    throw InputError("a number in the JSON is out of range");
   }
 }
 

@@ -16,8 +16,12 @@ struct Verb {
   int (*run)(Words words);
 };
 constexpr Verb kVerbs[] = {
-    {"call", "call a function of the library by name, with JSON arguments", callVerb},
-    {"list", "list the functions that `call` knows",                        listVerb},
+    {"show",     "show this machine's readings: network, disks, memory, sensors and more", showVerb    },
+    {"monitor",  "the same, again and again",                                              monitorVerb },
+    {"format",   "write numbers as text, for scripts and status bars",                     formatVerb  },
+    {"settings", "list and choose the user's units",                                       settingsVerb},
+    {"call",     "call a function of the library by name, with JSON arguments",            callVerb    },
+    {"list",     "list the functions that `call` knows",                                   listVerb    },
 };
 
 void printUsage(std::ostream& out) {
@@ -35,7 +39,7 @@ int run(Words words) {
   }
   if (words.front() == "--help" || words.front() == "help") {
     printUsage(std::cout);
-    return 0;
+    return std::cout.flush() ? 0 : 1;
   }
   for (const Verb& verb : kVerbs) {
     if (verb.name == words.front()) return verb.run(words.subspan(1));

@@ -1,11 +1,13 @@
 #include "cli/process_options.h"
 
+#include <optional>
 #include <string>
 
 #include <KZMLocalization/KZMLocalization.h>
 #include <KZMUtilities/formatters.h>
 
 #include "cli/errors.h"
+#include "cli/flags.h"
 
 namespace kzm::cli {
 namespace {
@@ -18,10 +20,12 @@ void useLocale(std::string_view identifier) {
 
 struct ProcessOption {
   std::string_view name;
+  std::string_view value;
+  std::string_view help;
   void (*use)(std::string_view value);
 };
 constexpr ProcessOption kProcessOptions[] = {
-    {"--locale", useLocale},
+    {"--locale", "ID", "locale of numbers, texts and default units, such as de_CH", useLocale},
 };
 
 }  // namespace
@@ -35,11 +39,18 @@ std::string_view takeValue(Words& words) {
 
 bool takeProcessOption(Words& words) {
   for (const ProcessOption& option : kProcessOptions) {
-    if (words.empty() || words.front() != option.name) continue;
-    option.use(takeValue(words));
+    const std::optional<std::string_view> value = takeFlagNamed(words, option.name, true);
+    if (!value.has_value()) continue;
+    option.use(*value);
     return true;
   }
   return false;
+}
+
+std::string processOptionsHelp() {
+  std::string text;
+  for (const ProcessOption& option : kProcessOptions) text += flagLine(option.name, option.value, option.help);
+  return text;
 }
 
 }  // namespace kzm::cli

@@ -2,6 +2,7 @@
 #ifndef KZM_CLI_PROCESS_OPTIONS_H
 #define KZM_CLI_PROCESS_OPTIONS_H
 
+#include <string>
 #include <string_view>
 
 #include "cli/verbs.h"
@@ -14,6 +15,9 @@ std::string_view takeValue(Words& words);
 /// Takes "--locale ID" or "--time-zone ID" off the front and puts it into force; false when neither stands there.
 /// An unknown time zone is an InputError.
 bool takeProcessOption(Words& words);
+
+/// Their lines in a verb's help.
+[[nodiscard]] std::string processOptionsHelp();
 
 }  // namespace kzm::cli
 

@@ -11,7 +11,11 @@ namespace kzm::cli {
 using Words = std::span<const std::string_view>;
 
 int callVerb(Words words);
+int formatVerb(Words words);
 int listVerb(Words words);
+int monitorVerb(Words words);
+int settingsVerb(Words words);
+int showVerb(Words words);
 
 }  // namespace kzm::cli
 

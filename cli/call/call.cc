@@ -7,7 +7,7 @@
 #include <KZMSettings/KZMSettings.h>
 
 #include "cli/call/callables.h"
-#include "cli/process_options.h"
+#include "cli/flags.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
@@ -18,47 +18,33 @@ constexpr std::string_view kHelp =
        kzmutil call [OPTION...] --batch           JSON Lines: {"call": NAME, "args": [...], "settings": {...}, "id": ANY}
        kzmutil list                               the names, with their parameters
 
-  --locale ID            locale of numbers, texts and default units, such as de_CH
-  --time-zone ID         default time zone, such as Europe/Paris
-  --set KEYPATH=JSON     a setting, such as Weather.Global.Units.Pressure=2; repeatable
-  --json                 print a string result as JSON too
 )";
 
 // A setting given as KEYPATH=JSON.
 void addSetting(Dictionary& settings, std::string_view text) {
   const std::size_t sign = text.find('=');
-  if (sign == std::string_view::npos || sign == 0) throw InputError("--set takes KEYPATH=JSON");
+  if (sign == std::string_view::npos || sign == 0) throw InputError("takes KEYPATH=JSON");
   settings.set(text.substr(0, sign), valueFromJson(parseJson(text.substr(sign + 1))));
 }
 
 struct CallOptions {
   bool batch = false;
   bool json = false;
-  bool help = false;
+  Dictionary settings;
 };
 
-// Takes the options off the front of the words.
-CallOptions takeOptions(Words& words) {
-  CallOptions options;
-  Dictionary settings;
-  while (!words.empty() && words.front().starts_with("--")) {
-    if (takeProcessOption(words)) continue;
-    if (words.front() == "--batch") {
-      options.batch = true;
-    } else if (words.front() == "--json") {
-      options.json = true;
-    } else if (words.front() == "--help") {
-      options.help = true;
-    } else if (words.front() == "--set") {
-      addSetting(settings, takeValue(words));
-      continue;
-    } else {
-      throw InputError("call: no option \"" + std::string(words.front()) + "\"");
-    }
-    words = words.subspan(1);
-  }
-  if (!settings.empty()) KZMSettingsUseObjects(std::move(settings));
-  return options;
+constexpr Flag<CallOptions> kFlags[] = {
+    {"--batch", "",             "read JSON Lines from standard input",
+     [](CallOptions& options, std::string_view, std::string_view) { options.batch = true; }                     },
+    {"--set",   "KEYPATH=JSON", "a setting, such as Weather.Global.Units.Pressure=2; repeatable",
+     [](CallOptions& options, std::string_view, std::string_view value) { addSetting(options.settings, value); }},
+    {"--json",  "",             "print a string result as JSON too",
+     [](CallOptions& options, std::string_view, std::string_view) { options.json = true; }                      },
+};
+
+int printHelp() {
+  std::cout << kHelp << flagsHelp<CallOptions>(kFlags);
+  return std::cout.flush() ? 0 : 1;
 }
 
 int callOnce(Words words, bool asJson) {
@@ -110,21 +96,16 @@ int callBatch() {
 }  // namespace
 
 int callVerb(Words words) {
-  const CallOptions options = takeOptions(words);
-  if (options.help) {
-    std::cout << kHelp;
-    return 0;
-  }
+  CallOptions options;
+  if (takeLeadingFlags<CallOptions>("call", words, kFlags, options)) return printHelp();
+  if (!options.settings.empty()) KZMSettingsUseObjects(std::move(options.settings));
   if (!options.batch) return callOnce(words, options.json);
   if (!words.empty()) throw InputError("call: --batch takes no name");
   return callBatch();
 }
 
 int listVerb(Words words) {
-  if (!words.empty() && words.front() == "--help") {
-    std::cout << kHelp;
-    return 0;
-  }
+  if (!words.empty() && words.front() == "--help") return printHelp();
   if (!words.empty()) throw InputError("list takes no arguments");
   for (const Callable& callable : callables()) std::cout << described(callable) << '\n';
   return std::cout.flush() ? 0 : 1;

@@ -2,18 +2,10 @@
 
 #include <limits>
 
+#include "cli/numbers.h"
+
 namespace kzm::cli {
 namespace {
-
-struct NamedDouble {
-  std::string_view name;
-  double number;
-};
-constexpr NamedDouble kNamedDoubles[] = {
-    {"NaN",       std::numeric_limits<double>::quiet_NaN()},
-    {"Infinity",  std::numeric_limits<double>::infinity() },
-    {"-Infinity", -std::numeric_limits<double>::infinity()},
-};
 
 [[noreturn]] void refuse(std::string_view wanted, const Json& json) {
   throw InputError("expected " + std::string(wanted) + ", not " + std::string(json.type_name()));
@@ -24,9 +16,7 @@ constexpr NamedDouble kNamedDoubles[] = {
 double Argument<double>::read(const Json& json) {
   if (json.is_number()) return json.get<double>();
   if (json.is_string()) {
-    for (const NamedDouble& named : kNamedDoubles) {
-      if (json.get_ref<const std::string&>() == named.name) return named.number;
-    }
+    if (const std::optional<double> named = namedDouble(json.get_ref<const std::string&>())) return *named;
   }
   refuse("a number, \"NaN\", \"Infinity\" or \"-Infinity\"", json);
 }

@@ -1,0 +1,30 @@
+#include "cli/flags.h"
+
+#include <algorithm>
+
+namespace kzm::cli {
+
+std::optional<std::string_view> takeFlagNamed(Words& words, std::string_view name, bool takesValue) {
+  if (words.empty() || !words.front().starts_with(name)) return std::nullopt;
+  const std::string_view rest = words.front().substr(name.size());
+  if (!rest.empty() && rest.front() != '=') return std::nullopt;
+  if (!takesValue && !rest.empty()) throw InputError(std::string(name) + " takes no value");
+  if (takesValue && rest.empty()) return takeValue(words);
+  words = words.subspan(1);
+  return rest.empty() ? rest : rest.substr(1);
+}
+
+std::string flagLine(std::string_view name, std::string_view value, std::string_view help) {
+  constexpr std::size_t kWidth = 26;
+  std::string line = "  " + std::string(name);
+  if (!value.empty()) line.append(" ").append(value);
+  line.append(std::max<std::size_t>(kWidth, line.size() + 2) - line.size(), ' ');
+  return line.append(help).append("\n");
+}
+
+void refuseFlag(std::string_view verb, std::string_view word) {
+  throw InputError(std::string(verb) + ": no option " + quoted(word) + "; `kzmutil " + std::string(verb) +
+                   " --help` lists them");
+}
+
+}  // namespace kzm::cli

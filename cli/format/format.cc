@@ -1,0 +1,116 @@
+// The verb `format`: numbers to text, for scripts and status bars.
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/format/families.h"
+#include "cli/numbers.h"
+#include "cli/verbs.h"
+
+namespace kzm::cli {
+namespace {
+
+constexpr std::string_view kUsage =
+    R"(usage: kzmutil format FAMILY [FLAG...] [VALUE...]
+
+Writes each value as a line of text. Without a value it reads values from standard input, one per line, and answers
+each line at once. A value is a decimal number such as 1500000, -3.5 or 1e9, or NaN, Infinity or -Infinity.
+)";
+
+// The families whose name is the word or begins with it: "sensor" is all kinds of sensors.
+std::string familiesHelp(std::string_view word) {
+  std::string text;
+  for (const Family& family : families()) {
+    const bool isAsked = word.empty() || family.name.starts_with(std::string(word) + " ");
+    if (isAsked) text += flagLine(family.name, "", family.value);
+  }
+  return text;
+}
+
+int print(const std::string& text) {
+  std::cout << text;
+  return std::cout.flush() ? 0 : 1;
+}
+
+// Takes the family's one or two words off the front.
+const Family* takeFamily(Words& words) {
+  for (std::size_t count = 1; count <= 2 && count <= words.size(); ++count) {
+    std::string name(words[0]);
+    if (count == 2) name.append(" ").append(words[1]);
+    for (const Family& family : families()) {
+      if (family.name != name) continue;
+      words = words.subspan(count);
+      return &family;
+    }
+  }
+  return nullptr;
+}
+
+std::string_view trimmed(std::string_view line) {
+  constexpr std::string_view kBlanks = " \t\r";
+  const std::size_t first = line.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return line.substr(first, line.find_last_not_of(kBlanks) - first + 1);
+}
+
+int formatInput(const Family& family, const Dictionary& options) {
+  std::string line;
+  for (std::size_t number = 1; std::cout && std::getline(std::cin, line); ++number) {
+    try {
+      std::cout << family.text(options, numberIn(trimmed(line))) + "\n" << std::flush;
+    } catch (const InputError& error) {
+      throw InputError("format: line " + std::to_string(number) + ": " + error.what());
+    }
+  }
+  return std::cout ? 0 : 1;
+}
+
+// All values are read before the first is shown.
+int formatWords(const Family& family, const Dictionary& options, const std::vector<std::string_view>& words) {
+  std::string lines;
+  for (const std::string_view word : words) {
+    try {
+      lines += family.text(options, numberIn(word)) + "\n";
+    } catch (const InputError& error) {
+      throw InputError(std::string("format: ") + error.what());
+    }
+  }
+  return print(lines);
+}
+
+int formatFamily(const Family& family, Words words) {
+  const std::vector<OptionFlag> flags = flagsOf(family);
+  Dictionary options;
+  const Operands operands = takeFlags<Dictionary>("format " + std::string(family.name), words, flags, options);
+  if (operands.help) {
+    return print("usage: kzmutil format " + std::string(family.name) + " [FLAG...] [VALUE...]\n\nA value is " +
+                 std::string(family.value) + ".\n\n" + flagsHelp<Dictionary>(flags));
+  }
+  return operands.words.empty() ? formatInput(family, options) : formatWords(family, options, operands.words);
+}
+
+// The words name no family: they ask for the kinds of one, or are refused.
+int answerUnknown(Words words) {
+  const std::string kinds = familiesHelp(words[0]);
+  if (kinds.empty()) throw InputError("format: no family " + quoted(words[0]) + "; `kzmutil format --help` lists them");
+  const std::string family(words[0]);
+  if (words.size() == 1)
+    throw InputError("format: its kind is missing; `kzmutil format " + family + " --help` lists them");
+  if (words[1] == "--help") return print(std::string(kUsage) + "\n" + kinds);
+  throw InputError("format: no kind " + quoted(words[1]) + "; `kzmutil format " + family + " --help` lists them");
+}
+
+}  // namespace
+
+int formatVerb(Words words) {
+  struct None {
+  } none;
+  if (takeLeadingFlags<None>("format", words, {}, none)) {
+    return print(std::string(kUsage) + "\n" + familiesHelp("") + "\n`kzmutil format FAMILY --help` lists its flags.\n");
+  }
+  if (words.empty()) throw InputError("format: a family is missing; `kzmutil format --help` lists them");
+  const Family* family = takeFamily(words);
+  return family != nullptr ? formatFamily(*family, words) : answerUnknown(words);
+}
+
+}  // namespace kzm::cli

@@ -1,0 +1,52 @@
+#include "cli/numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <system_error>
+
+#include "cli/errors.h"
+
+namespace kzm::cli {
+namespace {
+
+struct NamedDouble {
+  std::string_view name;
+  double number;
+};
+constexpr NamedDouble kNamedDoubles[] = {
+    {"NaN",       std::numeric_limits<double>::quiet_NaN()},
+    {"Infinity",  std::numeric_limits<double>::infinity() },
+    {"-Infinity", -std::numeric_limits<double>::infinity()},
+};
+
+}  // namespace
+
+std::optional<double> namedDouble(std::string_view text) {
+  for (const NamedDouble& named : kNamedDoubles) {
+    if (named.name == text) return named.number;
+  }
+  return std::nullopt;
+}
+
+double numberIn(std::string_view text) {
+  if (const std::optional<double> named = namedDouble(text)) return *named;
+  double number = 0.0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool isWhole = end == text.data() + text.size();
+  if (error == std::errc::result_out_of_range && isWhole) throw InputError(quoted(text) + " is out of range");
+  // The infinities and NaN have the names above alone.
+  if (error != std::errc() || !isWhole || !std::isfinite(number)) throw InputError(quoted(text) + " is not a number");
+  return number;
+}
+
+std::int64_t integerIn(std::string_view text, std::int64_t least, std::int64_t most) {
+  std::int64_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error == std::errc() && end == text.data() + text.size() && number >= least && number <= most) return number;
+  throw InputError(quoted(text) + " is not a whole number from " + std::to_string(least) + " to " +
+                   std::to_string(most));
+}
+
+}  // namespace kzm::cli

@@ -1,0 +1,102 @@
+// The verb `settings`: the user's units, by key path.
+#include <iostream>
+#include <stdexcept>
+#include <string>
+
+#include <KZMSettings/KZMSettings.h>
+
+#include "cli/flags.h"
+#include "cli/settings/unit_settings.h"
+#include "cli/verbs.h"
+
+namespace kzm::cli {
+namespace {
+
+constexpr std::string_view kHelp =
+    R"(usage: kzmutil settings list             every setting, its codes and what they mean; * marks the one in force
+       kzmutil settings get KEY          the code in force, and what it means
+       kzmutil settings set KEY CODE     chooses by code or by meaning: 2 or fahrenheit
+       kzmutil settings unset KEY        leaves the choice to the region again
+
+)";
+
+struct None {};
+
+std::string described(const UnitSetting& setting) {
+  const std::int64_t inForce = codeInForce(setting);
+  std::string text = std::string(setting.keyPath) + "  (" + std::string(setting.what) + ")\n";
+  for (std::size_t code = 0; code <= setting.meanings.size(); ++code) {
+    const auto number = static_cast<std::int64_t>(code);
+    text.append(number == inForce ? "  * " : "    ").append(std::to_string(number)).append("  ");
+    text.append(meaningOf(setting, number));
+    if (number == kRegionsChoice) {
+      text.append("'s choice");
+      if (inForce == kRegionsChoice)
+        text.append(": ").append(measurementUnitName((KZMUtilitiesDefaultUnits::shared().*setting.unit)()));
+    }
+    text.append("\n");
+  }
+  return text;
+}
+
+void store(const UnitSetting& setting, const Value& value) {
+  if (KZMSettingsSetObjectForKeyPath(value, setting.keyPath)) return;
+  throw std::runtime_error("settings: the settings file could not be written");
+}
+
+std::string list(Words /*words*/) {
+  std::string text;
+  for (const UnitSetting& setting : unitSettings()) text.append(text.empty() ? "" : "\n").append(described(setting));
+  return text;
+}
+
+std::string get(Words words) {
+  const UnitSetting& setting = settingAt(words[0]);
+  const std::int64_t code = codeInForce(setting);
+  return std::to_string(code) + " " + std::string(meaningOf(setting, code)) + "\n";
+}
+
+std::string set(Words words) {
+  const UnitSetting& setting = settingAt(words[0]);
+  store(setting, codeIn(setting, words[1]));
+  return {};
+}
+
+std::string unset(Words words) {
+  store(settingAt(words[0]), nullptr);
+  return {};
+}
+
+struct Subverb {
+  std::string_view name;
+  std::size_t words;
+  std::string_view takes;
+  std::string (*run)(Words words);
+};
+constexpr Subverb kSubverbs[] = {
+    {"list",  0, "no arguments", list },
+    {"get",   1, "KEY",          get  },
+    {"set",   2, "KEY and CODE", set  },
+    {"unset", 1, "KEY",          unset},
+};
+
+std::string answerTo(Words words) {
+  if (words.empty()) throw InputError("settings: list, get, set or unset is missing");
+  for (const Subverb& subverb : kSubverbs) {
+    if (subverb.name != words[0]) continue;
+    if (words.size() - 1 == subverb.words) return subverb.run(words.subspan(1));
+    throw InputError("settings " + std::string(subverb.name) + " takes " + std::string(subverb.takes));
+  }
+  throw InputError("settings: nothing is named " + quoted(words[0]) + "; there are list, get, set and unset");
+}
+
+}  // namespace
+
+int settingsVerb(Words words) {
+  None none;
+  const Operands operands = takeFlags<None>("settings", words, {}, none);
+  std::cout << (operands.help ? std::string(kHelp) + flagsHelp<None>({}) : answerTo(operands.words));
+  return std::cout.flush() ? 0 : 1;
+}
+
+}  // namespace kzm::cli

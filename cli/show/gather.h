@@ -1,0 +1,48 @@
+// All readings of one moment.
+#ifndef KZM_CLI_SHOW_GATHER_H
+#define KZM_CLI_SHOW_GATHER_H
+
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "cli/machine/memory.h"
+#include "cli/machine/processor.h"
+#include "cli/machine/rates.h"
+#include "cli/machine/sensors.h"
+#include "cli/machine/volumes.h"
+
+namespace kzm::cli {
+
+/// What only means something beside a second reading.
+struct Counters {
+  machine::Sample network;
+  machine::Sample disks;
+  std::vector<machine::ProcessorTime> processor;
+};
+[[nodiscard]] Counters readCounters(const machine::Root& root);
+
+/// The activity of an interface or a disk.
+struct Activity {
+  machine::Rate rate;
+  bool wasUsed = false;  // it carried something since the machine started
+};
+
+/// What a screenful is made of. Topics that are not asked for stay empty.
+struct Snapshot {
+  std::vector<Activity> network;
+  std::vector<Activity> disks;
+  std::vector<machine::ProcessorLoad> processor;
+  std::optional<std::array<double, 3>> loadAverages;
+  machine::Memory memory;
+  std::vector<machine::Volume> volumes;
+  std::vector<machine::Reading> sensors;
+  std::vector<machine::Battery> batteries;
+};
+
+/// The rates between two readings, and nothing else yet.
+[[nodiscard]] Snapshot ratesOf(const Counters& earlier, const Counters& later);
+
+}  // namespace kzm::cli
+
+#endif

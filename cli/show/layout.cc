@@ -1,0 +1,135 @@
+#include "cli/show/layout.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "cli/show/display_width.h"
+
+namespace kzm::cli {
+namespace {
+
+constexpr std::size_t kIndent = 2;
+constexpr std::size_t kGap = 2;
+// The grid does not jump when a number grows by a digit.
+constexpr std::size_t kLeastName = 22;
+constexpr std::size_t kMostName = 40;
+constexpr std::size_t kLeastCell = 12;
+
+std::size_t widthOf(const Cell& cell) {
+  std::size_t width = 0;
+  for (const Piece& piece : cell) width += displayWidth(piece.text);
+  return width;
+}
+
+// The width of the names, and of each column of cells; one in which nothing stands takes no room.
+struct Grid {
+  std::size_t name = kLeastName;
+  std::vector<std::size_t> cells;
+
+  void fit(std::size_t column, std::size_t width) {
+    if (cells.size() <= column) cells.resize(column + 1);
+    if (width > 0) cells[column] = std::max({kLeastCell, cells[column], width});
+  }
+};
+
+Grid gridOf(const std::vector<Section>& sections) {
+  Grid grid;
+  for (const Section& section : sections) {
+    for (std::size_t i = 0; i < section.columns.size(); ++i) grid.fit(i, displayWidth(section.columns[i]));
+    for (const Row& row : section.rows) {
+      grid.name = std::max(grid.name, std::min(kMostName, kIndent + displayWidth(row.name)));
+      for (std::size_t i = 0; i < row.cells.size(); ++i) grid.fit(i, widthOf(row.cells[i]));
+    }
+  }
+  return grid;
+}
+
+// One line in the making, cut at the last column of the look.
+class Line {
+ public:
+  explicit Line(const Look& look) : look_(look) {}
+
+  void add(const Piece& piece) {
+    if (cut_ || piece.text.empty()) return;
+    const std::size_t room = look_.columns - width_;
+    const std::size_t width = displayWidth(piece.text);
+    cut_ = width > room;
+    write(cut_ ? std::string(fitting(piece.text, room > 0 ? room - 1 : 0)) + (room > 0 ? "…" : "") : piece.text,
+          piece.style);
+    width_ += std::min(width, room);
+  }
+  void fill(std::size_t until) {
+    if (until > width_) add({std::string(until - width_, ' ')});
+  }
+  void fillAndAdd(std::size_t until, const Cell& cell) {
+    const std::size_t width = widthOf(cell);
+    if (width == 0) return;
+    if (until > width) fill(until - width);
+    for (const Piece& piece : cell) add(piece);
+  }
+  [[nodiscard]] std::string take() { return std::move(text_); }
+
+ private:
+  void write(std::string_view text, Style style) {
+    const bool styled = look_.styles && style != Style::plain;
+    if (styled) text_ += style == Style::strong ? "\x1b[1m" : "\x1b[2m";
+    text_ += text;
+    if (styled) text_ += "\x1b[0m";
+  }
+
+  const Look& look_;
+  std::string text_;
+  std::size_t width_ = 0;
+  bool cut_ = false;
+};
+
+std::string lineOf(const Piece& name, std::size_t indent, const std::vector<Cell>& cells, const Grid& grid,
+                   const Look& look) {
+  Line line(look);
+  line.fill(indent);
+  const bool isLong = indent + displayWidth(name.text) > grid.name;
+  line.add(isLong ? Piece{std::string(fitting(name.text, grid.name - indent - 1)) + "…", name.style} : name);
+  std::size_t until = grid.name;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    if (grid.cells[i] > 0) until += kGap + grid.cells[i];
+    line.fillAndAdd(until, cells[i]);
+  }
+  return line.take();
+}
+
+std::vector<Cell> headings(const Section& section) {
+  std::vector<Cell> cells;
+  for (const std::string& column : section.columns)
+    cells.push_back({
+        Piece{column, Style::faint}
+    });
+  return cells;
+}
+
+}  // namespace
+
+Cell bar(double part) {
+  const double filled = std::isnan(part) ? 0 : std::round(std::clamp(part, 0.0, 1.0) * kBarColumns);
+  const auto count = static_cast<std::size_t>(filled);
+  std::string full;
+  std::string empty;
+  for (std::size_t i = 0; i < kBarColumns; ++i) (i < count ? full : empty) += i < count ? "█" : "░";
+  return {
+      {full,  Style::plain},
+      {empty, Style::faint}
+  };
+}
+
+std::vector<std::string> laidOut(const std::vector<Section>& sections, const Look& look) {
+  const Grid grid = gridOf(sections);
+  std::vector<std::string> lines;
+  for (const Section& section : sections) {
+    if (section.rows.empty()) continue;
+    if (!lines.empty()) lines.emplace_back();
+    lines.push_back(lineOf({section.title, Style::strong}, 0, headings(section), grid, look));
+    for (const Row& row : section.rows) lines.push_back(lineOf({row.name}, kIndent, row.cells, grid, look));
+  }
+  return lines;
+}
+
+}  // namespace kzm::cli

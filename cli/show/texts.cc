@@ -1,0 +1,110 @@
+#include "cli/show/texts.h"
+
+#include <cstdint>
+#include <string>
+#include <utility>
+
+#include <KZMUtilities/bytes.h>
+#include <KZMUtilities/formatters.h>
+#include <KZMUtilities/percentage.h>
+#include <KZMUtilities/sensors.h>
+
+namespace kzm::cli {
+namespace {
+
+// The number's attributes; the unit has none.
+const Value kStrong = true;
+
+Dictionary rule(int below, int decimals) {
+  return {
+      {"value",    below   },
+      {"decimals", decimals}
+  };
+}
+
+// Three digits that count: 1.25, 12.5, 125.
+const Value& threeDigits() {
+  static const Value& rules = *new Value(Array{rule(10, 2), rule(100, 1)});
+  return rules;
+}
+
+Dictionary sizeOptions() {
+  return {
+      {"space",           true         },
+      {"decimals-mb",     threeDigits()},
+      {"decimals-gb",     threeDigits()},
+      {"decimals-tb",     threeDigits()},
+      {"decimals-pb",     threeDigits()},
+      {"attributes-main", kStrong      }
+  };
+}
+
+Cell cellOf(const AttributedString& text) {
+  Cell cell;
+  for (const AttributedString::Run& run : text.runs()) {
+    cell.push_back({run.text, run.attributes == kStrong ? Style::strong : Style::plain});
+  }
+  return cell;
+}
+
+Cell dash() {
+  return {
+      {"–", Style::faint}
+  };
+}
+
+}  // namespace
+
+Cell networkCell(const Dictionary& options, std::optional<double> bytesPerSecond) {
+  if (!bytesPerSecond.has_value()) return dash();
+  Dictionary all = sizeOptions();
+  for (const Dictionary::Entry& entry : options) all.set(entry.key, entry.value);
+  return cellOf(KZMUtilitiesFormatBandwidthWithAttributes(all, *bytesPerSecond));
+}
+
+Cell diskCell(std::optional<double> bytesPerSecond) {
+  static const Dictionary& options = *new Dictionary([] {
+    Dictionary all = sizeOptions();
+    all.set("hide-bytes", true);
+    return all;
+  }());
+  return bytesPerSecond.has_value() ? cellOf(KZMUtilitiesFormatDiskActivityWithAttributes(options, *bytesPerSecond))
+                                    : dash();
+}
+
+Cell spaceCell(double bytes) {
+  static const Dictionary& options = *new Dictionary(sizeOptions());
+  return cellOf(KZMUtilitiesFormatSpaceWithAttributes(options, bytes));
+}
+
+Cell memoryCell(std::optional<double> bytes) {
+  static const Dictionary& options = *new Dictionary(sizeOptions());
+  return bytes.has_value() ? cellOf(KZMUtilitiesFormatMemoryWithAttributes(options, *bytes)) : dash();
+}
+
+Cell partCell(std::optional<double> part) {
+  static const Dictionary& options = *new Dictionary{
+      {"attributes-main", kStrong}
+  };
+  constexpr double kPercent = 100.0;
+  return part.has_value() ? cellOf(KZMUtilitiesFormatPercentageWithAttributes(options, *part * kPercent)) : dash();
+}
+
+Cell loadCell(double programs) {
+  return {
+      {KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(programs), Style::strong}
+  };
+}
+
+Cell sensorCell(machine::Kind kind, double value) {
+  static const Dictionary& options = *new Dictionary{
+      {"units", true},
+      {"space", true},
+      {"off",   true}
+  };
+  return {
+      {KZMUtilitiesFormatSensor(static_cast<std::int64_t>(kind), options, value), Style::strong}
+  };
+}
+
+}  // namespace kzm::cli

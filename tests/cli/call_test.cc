@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "tests/cli/program.h"
+
+namespace kzm::tests {
+namespace {
+
+struct Case {
+  std::vector<std::string> words;
+  const char* output;
+};
+
+TEST(Call, PrintsTheResult) {
+  // clang-format off
+  const Case cases[] = {
+      {{"--locale", "en_US", "KZMUtilitiesFormatBandwidth",
+        R"({"bandwidthformat":2,"space":true,"unitsize":3,)"
+        R"("decimals-mb":[{"value":10,"decimals":2},{"value":100,"decimals":1}]})", "1500000"}, "11.4 Mb/s\n"},
+      {{"KZMUtilitiesFormatMemory", "{}", "1024"},                       "1KB\n"},
+      {{"KZMUtilitiesFormatMemory", "null", "1024.0"},                   "1KB\n"},
+      {{"--json", "KZMUtilitiesFormatMemory", "{}", "1024"},             "\"1KB\"\n"},
+      {{"--json", "KZMUtilitiesFormatMemory", "{}", "\"Infinity\""},     "\"∞PB\"\n"},
+      {{"KZMUtilitiesMemoryData", "{}", "1048576"},                      "{\"format\": \"%@KB\", \"decimals\": 0, \"value\": 1024.0}\n"},
+      {{"KZMUtilitiesMemoryData", "{}", "-0.0"},                         "{\"format\": \"%@KB\", \"decimals\": 0, \"value\": -0.0}\n"},
+      {{"KZMUtilitiesMemoryData", "{}", "\"NaN\""},                      "{\"format\": \"%@PB\", \"decimals\": 0, \"value\": \"NaN\"}\n"},
+      {{"KZMUtilitiesMemoryData", "{}", "\"-Infinity\""},                "{\"format\": \"%@KB\", \"decimals\": 0, \"value\": \"-Infinity\"}\n"},
+      {{"KZMUtilitiesMemoryData", "{}", "11258999068426240000000000000000000000"}, "{\"format\": \"%@PB\", \"decimals\": 0, \"value\": 1e+22}\n"},
+      {{"KZMUtilitiesFormatMemoryWithAttributes", R"({"space": true, "attributes-main": {"b": [1, null]}, "attributes-units": 7})", "1024"},
+       "{\"text\": \"1 KB\", \"runs\": [{\"text\": \"1\", \"attributes\": {\"b\":[1,null]}}, {\"text\": \" KB\", \"attributes\": 7}]}\n"},
+      {{"KZMUtilitiesFormatMemoryWithAttributes", R"({"attributes-main": null})", "1024"},
+       "{\"text\": \"1KB\", \"runs\": [{\"text\": \"1KB\", \"attributes\": null}]}\n"},
+      {{"KZMUtilitiesDecimalFormatterWithFractions", "-1", "500"},       "{\"minimumFractionDigits\": -1, \"maximumFractionDigits\": 500}\n"},
+      {{"KZMUtilitiesPosixLocale", "\"de_CH\""},                         "de_CH_POSIX\n"},
+      {{"KZMLocalizedStringFromTableInBundle", "\"Units.Memory.%@ GB\"", "\"KZMUtilities\"", "\"\""}, "%@ GB\n"},
+      {{"--locale", "de_DE", "KZMUtilitiesFormatNumber", R"({"decimals": 2})", "1234.5"}, "1.234,5\n"},
+      {{"mpsToKph", "10"},                                               "36.0\n"},
+      {{"--set", "Weather.Global.Units.Pressure=2", "KZMUtilitiesFormatWeatherPressure", R"({"units": true})", "1013"}, "1,013mb\n"},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    std::vector<std::string> words{"call"};
+    words.insert(words.end(), c.words.begin(), c.words.end());
+    const Outcome outcome = run(words);
+    EXPECT_EQ(outcome.output, c.output) << outcome.errors;
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.status, 0);
+  }
+}
+
+TEST(Call, RefusesInOneLine) {
+  // clang-format off
+  const Case cases[] = {
+      {{"formatMemory", "{}", "1"},                       "no function is named \"formatMemory\""},
+      {{"KZMUtilitiesFormatMemory", "{}"},                "wrong number of arguments (1) for KZMUtilitiesFormatMemory options:dictionary bytes:double"},
+      {{"KZMUtilitiesFormatMemory", "{}", "1", "2"},      "wrong number of arguments (3) for KZMUtilitiesFormatMemory options:dictionary bytes:double"},
+      {{"KZMUtilitiesFormatMemory", "{", "1"},            "malformed JSON at byte 2"},
+      {{"KZMUtilitiesFormatMemory", "{}", "1 2"},         "malformed JSON at byte 3"},
+      {{"KZMUtilitiesFormatMemory", "{}", ""},            "malformed JSON at byte 1"},
+      {{"KZMUtilitiesFormatMemory", "{}", "nan"},         "malformed JSON at byte 2"},
+      {{"KZMUtilitiesFormatMemory", "{}", "\"nan\""},     "expected a number, \"NaN\", \"Infinity\" or \"-Infinity\", not string"},
+      {{"KZMUtilitiesFormatMemory", "{}", "true"},        "expected a number, \"NaN\", \"Infinity\" or \"-Infinity\", not boolean"},
+      {{"KZMUtilitiesFormatMemory", "[]", "1"},           "expected an object or null, not array"},
+      {{"KZMUtilitiesDecimalFormatterWithMaximum", "1.0"}, "expected an integer, not number"},
+      {{"KZMUtilitiesFormatMemory", "{}", "1e999"},       "a number in the JSON is out of range"},
+      {{"KZMUtilitiesDecimalFormatterWithMaximum", "9223372036854775808"}, "the integer is out of range"},
+      {{"KZMUtilitiesPosixLocale", "5"},                  "expected a locale identifier, not number"},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    std::vector<std::string> words{"call"};
+    words.insert(words.end(), c.words.begin(), c.words.end());
+    const Outcome outcome = run(words);
+    EXPECT_EQ(outcome.errors, "kzmutil: " + std::string(c.output) + "\n");
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.status, 2);
+  }
+}
+
+TEST(Call, EveryNameIsListedWithItsParameters) {
+  const Outcome list = run({"list"});
+  EXPECT_EQ(list.status, 0);
+  for (const char* line : {"KZMUtilitiesFormatMemory options:dictionary bytes:double\n", "mpsToKph ",
+                           "KZMLocalizedStringFromTableInBundle key:string table:string comment:string\n"}) {
+    EXPECT_NE(list.output.find(line), std::string::npos) << line;
+  }
+}
+
+}  // namespace
+}  // namespace kzm::tests

@@ -1,0 +1,107 @@
+#include "cli/flags.h"
+
+#include <gtest/gtest.h>
+
+namespace kzm::cli {
+namespace {
+
+struct Target {
+  bool loud = false;
+  std::string name;
+  std::string option;
+};
+
+constexpr Flag<Target> kFlags[] = {
+    {"--loud", "",     "makes noise",       [](Target& target, std::string_view,        std::string_view) { target.loud = true; }},
+    {"--name", "NAME", "what it is called",
+     [](Target& target,                                        std::string_view option, std::string_view value) {
+       if (value.empty()) throw InputError("is empty");
+       target.name = value;
+       target.option = option;
+     }                                    },
+};
+
+using List = std::vector<std::string_view>;
+
+Operands taken(const List& words, Target& target) { return takeFlags<Target>("verb", words, kFlags, target); }
+
+TEST(Flags, StandAnywhereAndEndAtTwoDashes) {
+  struct Case {
+    List words;
+    List operands;
+    bool loud;
+    const char* name;
+    bool help;
+  };
+  // clang-format off
+  const Case cases[] = {
+      {{},                                        {},                       false, "",    false},
+      {{"a", "b"},                                {"a", "b"},               false, "",    false},
+      {{"--loud", "a"},                           {"a"},                    true,  "",    false},
+      {{"a", "--name", "x", "b", "--loud"},       {"a", "b"},               true,  "x",   false},
+      {{"--name=x"},                              {},                       false, "x",   false},
+      {{"--name=a=b"},                            {},                       false, "a=b", false},
+      {{"--name", "--loud"},                      {},                       false, "--loud", false},
+      {{"--name", "x", "--name", "y"},            {},                       false, "y",   false},
+      {{"-5", "-x", "-"},                         {"-5", "-x", "-"},        false, "",    false},
+      {{"--", "--loud", "--"},                    {"--loud", "--"},         false, "",    false},
+      {{"a", "--", "--name"},                     {"a", "--name"},          false, "",    false},
+      {{"--help"},                                {},                       false, "",    true},
+      {{"a", "--loud", "--help", "b"},            {"a", "b"},               true,  "",    true},
+      {{"--", "--help"},                          {"--help"},               false, "",    false},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    Target target;
+    const Operands operands = taken(c.words, target);
+    EXPECT_EQ(operands.words, c.operands);
+    EXPECT_EQ(operands.help, c.help);
+    EXPECT_EQ(target.loud, c.loud);
+    EXPECT_EQ(target.name, c.name);
+    EXPECT_EQ(target.option, c.name[0] != '\0' ? "name" : "");
+  }
+}
+
+TEST(Flags, AreRefusedByName) {
+  struct Case {
+    List words;
+    const char* error;
+  };
+  // clang-format off
+  const Case cases[] = {
+      {{"--quiet"},       "verb: no option \"--quiet\"; `kzmutil verb --help` lists them"},
+      {{"--loudest"},     "verb: no option \"--loudest\"; `kzmutil verb --help` lists them"},
+      {{"--loud=yes"},    "--loud takes no value"},
+      {{"--loud="},       "--loud takes no value"},
+      {{"a", "--name"},   "--name: its value is missing"},
+      {{"--name="},       "--name: is empty"},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    Target target;
+    try {
+      taken(c.words, target);
+      FAIL() << c.error;
+    } catch (const InputError& error) {
+      EXPECT_STREQ(error.what(), c.error);
+    }
+  }
+}
+
+TEST(Flags, LeadingOnesEndAtTheFirstOtherWord) {
+  const List list{"--loud", "a", "--name", "x"};
+  Words words = list;
+  Target target;
+  EXPECT_FALSE(takeLeadingFlags<Target>("verb", words, kFlags, target));
+  EXPECT_TRUE(target.loud);
+  EXPECT_EQ(List(words.begin(), words.end()), (List{"a", "--name", "x"}));
+}
+
+TEST(Flags, TheHelpLinesUp) {
+  EXPECT_TRUE(
+      flagsHelp<Target>(kFlags).starts_with("  --loud                  makes noise\n"
+                                            "  --name NAME             what it is called\n"));
+}
+
+}  // namespace
+}  // namespace kzm::cli

@@ -1,0 +1,89 @@
+// What holds for every verb.
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "tests/cli/program.h"
+
+namespace kzm::tests {
+namespace {
+
+constexpr const char* kVerbs[] = {"show", "monitor", "format", "settings", "call", "list"};
+
+TEST(Usage, EveryVerbHasHelp) {
+  for (const char* verb : kVerbs) {
+    const Outcome outcome = run({verb, "--help"});
+    EXPECT_TRUE(outcome.output.starts_with("usage: kzmutil ")) << verb;
+    EXPECT_NE(outcome.output.find(verb), std::string::npos) << verb;
+    EXPECT_EQ(outcome.errors, "") << verb;
+    EXPECT_EQ(outcome.status, 0) << verb;
+  }
+}
+
+TEST(Usage, TheProgramsHelpNamesEveryVerb) {
+  const Outcome help = run({"--help"});
+  EXPECT_EQ(help.status, 0);
+  for (const char* verb : kVerbs)
+    EXPECT_NE(help.output.find("\n  " + std::string(verb) + " "), std::string::npos) << verb;
+  const Outcome nothing = run({});
+  EXPECT_EQ(nothing.status, 2);
+  EXPECT_EQ(nothing.output, "");
+  EXPECT_EQ(nothing.errors, help.output);
+}
+
+TEST(Usage, UnknownWordsAreOneLine) {
+  struct Case {
+    std::vector<std::string> words;
+    const char* errors;
+  };
+  // clang-format off
+  const Case cases[] = {
+      {{"frobnicate"},               "kzmutil: no verb is named \"frobnicate\"; `kzmutil --help` lists them\n"},
+      {{"list", "x"},                "kzmutil: list takes no arguments\n"},
+      {{"call", "--frob"},           "kzmutil: call: no option \"--frob\"; `kzmutil call --help` lists them\n"},
+      {{"call"},                     "kzmutil: call: a name is missing; `kzmutil list` shows them\n"},
+      {{"call", "--locale"},         "kzmutil: --locale: its value is missing\n"},
+      {{"call", "--batch", "x"},     "kzmutil: call: --batch takes no name\n"},
+      {{"call", "--set", "x"},       "kzmutil: --set: takes KEYPATH=JSON\n"},
+      {{"monitor", "a", "b"},        "kzmutil: monitor takes one topic\n"},
+      {{"monitor", "--count", "0"},  "kzmutil: --count: \"0\" is not a whole number from 1 to 9223372036854775807\n"},
+      {{"show", "--count", "1"},     "kzmutil: show: no option \"--count\"; `kzmutil show --help` lists them\n"},
+      {{"show", "--interval", "0"},  "kzmutil: --interval: \"0\" is not from 0.1 to 3600\n"},
+      {{"show", "--interval", "NaN"}, "kzmutil: --interval: \"NaN\" is not from 0.1 to 3600\n"},
+      {{"show", "--interval", "3601"}, "kzmutil: --interval: \"3601\" is not from 0.1 to 3600\n"},
+      {{"show", "--unit-size", "x"}, "kzmutil: --unit-size: \"x\" is not a whole number from 1 to 3\n"},
+      {{"show", "sound"},            "kzmutil: show: no topic \"sound\"; there are network, disks, volumes, memory, load, "
+                                     "temperatures, fans, voltages, currents, power, frequencies, light, battery\n"},
+  };
+  // clang-format on
+  for (const Case& c : cases) {
+    const Outcome outcome = run(c.words);
+    EXPECT_EQ(outcome.errors, c.errors);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_EQ(outcome.status, 2) << c.errors;
+  }
+}
+
+TEST(Usage, OutputThatCannotBeWrittenIsStatusOne) {
+  const std::vector<std::string> commands[] = {
+      {"--help"                   },
+      {         "format",                   "memory", "1"},
+      {      "format",                    "--help"},
+      {"settings",                  "list"},
+      {        "list"                     },
+      { "call", "KZMUtilitiesFormatMemory", "{}", "1"},
+      {     "show",                           "memory"},
+      {                         "monitor",                           "memory"},
+  };
+  for (const std::vector<std::string>& words : commands) {
+    const int full = ::open("/dev/full", O_WRONLY | O_CLOEXEC);
+    const int quiet = ::open("/dev/null", O_RDWR | O_CLOEXEC);
+    ASSERT_GE(full, 0);
+    EXPECT_EQ(statusOf(started(words, quiet, full, quiet)), 1) << testing::PrintToString(words);
+    ::close(full);
+    ::close(quiet);
+  }
+}
+
+}  // namespace
+}  // namespace kzm::tests
