@@ -22,7 +22,7 @@ class SystemZone : public testing::Test {
   ~SystemZone() override { fs::remove_all(folder_); }
 
   [[nodiscard]] fs::path linkTo(const fs::path& target) const {
-    const fs::path link = folder_ / "localtime";
+    fs::path link = folder_ / "localtime";
     fs::remove(link);
     fs::create_symlink(target, link);
     return link;
@@ -61,7 +61,7 @@ TEST(SystemZoneDeathTest, ComesFromTheVariable) {
       {"/nowhere/at/all",                  "/nowhere/at/all",        0,      0     },
   };
   for (const Case& c : cases) {
-    EXPECT_EXIT(std::exit(isReadAs(c.text, c.identifier, c.winter, c.summer) ? 0 : 1), testing::ExitedWithCode(0), "")
+    EXPECT_EXIT(_exit(isReadAs(c.text, c.identifier, c.winter, c.summer) ? 0 : 1), testing::ExitedWithCode(0), "")
         << c.text;
   }
 }
@@ -91,7 +91,7 @@ bool ruleAgreesWithFile() {
 
 TEST(SystemZoneDeathTest, ARuleResolvesLocalTimesAsAZoneFileDoes) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_EXIT(std::exit(ruleAgreesWithFile() ? 0 : 1), testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(_exit(ruleAgreesWithFile() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 TEST(NamedZone, InstantsOfSkippedAndRepeatedLocalTimes) {
