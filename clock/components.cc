@@ -111,7 +111,7 @@ class Selection {
     }
     if (has(kCalendarUnitWeekOfMonth)) return dayOfWeek(dayOfMonth(1), weekOfMonth(r_));
     if (!has(kCalendarUnitWeekdayOrdinal | kCalendarUnitWeekday)) return dayOfMonth(1);
-    const int weeksBefore = has(kCalendarUnitWeekdayOrdinal) ? (r_.date.day - 1) / 7 : 0;
+    const std::int64_t weeksBefore = has(kCalendarUnitWeekdayOrdinal) ? (r_.date.day - 1) / 7 : 0;
     return clock::dayInWeek(dayOfMonth(1), weekday()) + 7 * weeksBefore;
   }
 

@@ -28,14 +28,14 @@ class Deadline {
   }
 
  private:
-  [[nodiscard]] UBool holds() const { return std::chrono::steady_clock::now() < end_; }
+  [[nodiscard]] bool holds() const { return std::chrono::steady_clock::now() < end_; }
 
   static UBool U_CALLCONV afterSteps(const void* context, std::int32_t /*steps*/) {
-    return static_cast<const Deadline*>(context)->holds();
+    return static_cast<const Deadline*>(context)->holds() ? 1 : 0;
   }
   // Called for every place where a match is tried; the clock is looked at every sixteenth time.
   static UBool U_CALLCONV atPosition(const void* context, std::int64_t position) {
-    return (position & 0xF) != 0 || static_cast<const Deadline*>(context)->holds();
+    return (position & 0xF) != 0 || static_cast<const Deadline*>(context)->holds() ? 1 : 0;
   }
 
   std::chrono::steady_clock::time_point end_ = std::chrono::steady_clock::now() + kLongestSearch;

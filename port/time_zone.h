@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -51,9 +52,9 @@ class Zone {
 /// The machine's zone, found on the first call.
 [[nodiscard]] const Zone& systemZone();
 
-/// Finds the machine's zone anew: by the TZ variable's text (null when unset), else by the link. The C library's own
-/// reading of TZ serves what is neither a name nor a link to a named zone; it outlives the call and is leaked.
-[[nodiscard]] const Zone& findSystemZone(const char* variable, const std::filesystem::path& link);
+/// Finds the machine's zone anew: by the TZ variable's text (null when unset), else by the link. What is neither a name
+/// nor a link to a named zone is left to the C library's own reading of TZ and /etc/localtime.
+[[nodiscard]] std::shared_ptr<const Zone> findSystemZone(const char* variable, const std::filesystem::path& link);
 
 }  // namespace kzm::port
 

@@ -1,6 +1,7 @@
 // The machine's time zone: the TZ variable, else the link /etc/localtime.
 #include <cstdlib>
 #include <ctime>
+#include <memory>
 #include <system_error>
 
 #include "port/time_zone.h"
@@ -54,35 +55,41 @@ std::string_view nameInPath(std::string_view path) {
   return position != std::string_view::npos ? path.substr(position + kFolder.size()) : std::string_view();
 }
 
-const Zone& localZone(std::string identifier) {
+using ZonePointer = std::shared_ptr<const Zone>;
+
+ZonePointer localZone(std::string identifier) {
   tzset();  // NOLINT(concurrency-mt-unsafe): localtime_r need not do it; glibc does it under its own lock
-  return *new LocalZone(std::move(identifier));
+  return std::make_shared<const LocalZone>(std::move(identifier));
 }
 
-const Zone& zoneOfVariable(std::string_view text) {
+// Named zones are there for ever.
+ZonePointer unowned(const Zone& zone) { return {ZonePointer(), &zone}; }
+
+ZonePointer zoneOfVariable(std::string_view text) {
   if (text.starts_with(':')) text.remove_prefix(1);
-  if (text.empty()) return utcZone();
+  if (text.empty()) return unowned(utcZone());
   const Zone* named = namedZone(text.starts_with('/') ? nameInPath(text) : text);
-  return named != nullptr ? *named : localZone(std::string(text));
+  return named != nullptr ? unowned(*named) : localZone(std::string(text));
 }
 
-const Zone& zoneOfLink(const std::filesystem::path& link) {
+ZonePointer zoneOfLink(const std::filesystem::path& link) {
   std::error_code error;
   const std::string target = std::filesystem::read_symlink(link, error).string();
-  if (const Zone* named = namedZone(nameInPath(target))) return *named;
-  return std::filesystem::exists(link, error) ? localZone("localtime") : utcZone();
+  if (const Zone* named = namedZone(nameInPath(target))) return unowned(*named);
+  return std::filesystem::exists(link, error) ? localZone("localtime") : unowned(utcZone());
 }
 
 }  // namespace
 
-const Zone& findSystemZone(const char* variable, const std::filesystem::path& link) {
+ZonePointer findSystemZone(const char* variable, const std::filesystem::path& link) {
   return variable != nullptr ? zoneOfVariable(variable) : zoneOfLink(link);
 }
 
 const Zone& systemZone() {
+  // Never destroyed, as zones are handed out.
   // NOLINTNEXTLINE(concurrency-mt-unsafe): read once, and never written here
-  static const Zone& zone = findSystemZone(std::getenv("TZ"), "/etc/localtime");
-  return zone;
+  static const ZonePointer& zone = *new ZonePointer(findSystemZone(std::getenv("TZ"), "/etc/localtime"));
+  return *zone;
 }
 
 }  // namespace kzm::port
