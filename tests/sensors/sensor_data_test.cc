@@ -43,6 +43,8 @@ const Dictionary kSpace = with("space", true);
 const Dictionary kShort = with("short", true);
 const Dictionary kOff = with("off", false);
 const Dictionary kReverse = with("reverse-type", false);
+const Dictionary kReverseNull = with("reverse-type", nullptr);
+const Dictionary kDecimals = with("decimals", 2);
 
 struct Case {
   const char* why;
@@ -109,19 +111,19 @@ TEST_F(SensorData, KeysStandInTheirOrder) {
 TEST_F(SensorData, TemperatureInTheUsersUnit) {
   tests::useOnlySetting(kDegrees, 1);
   const Case celsius[] = {
-      {"as it comes", SensorType::temperature, kNone,                   50.5, 50.5,               0, "%@°"},
-      {"no blank",    SensorType::temperature, kSpace,                  50.5, 50.5,               0, "%@°"},
-      {"reversed",    SensorType::temperature, kReverse,                50.0, 121.99999570846578, 0, "%@°"},
-      {"no decimals", SensorType::temperature, with("decimals", 2),     50.5, 50.5,               0, "%@°"},
+      {"as it comes", SensorType::temperature, kNone,     50.5, 50.5,               0, "%@°"},
+      {"no blank",    SensorType::temperature, kSpace,    50.5, 50.5,               0, "%@°"},
+      {"reversed",    SensorType::temperature, kReverse,  50.0, 121.99999570846578, 0, "%@°"},
+      {"no decimals", SensorType::temperature, kDecimals, 50.5, 50.5,               0, "%@°"},
   };
   check(celsius);
   tests::useOnlySetting(kDegrees, 2);
   const Case fahrenheit[] = {
-      {"converted",        SensorType::temperature, kNone,                         50.0,      121.99999570846578, 0, "%@°"},
-      {"zero",             SensorType::temperature, kSpace,                        0.0,       32.0,               0, "%@°"},
-      {"reversed",         SensorType::temperature, kReverse,                      50.0,      50.0,               0, "%@°"},
-      {"reversed by null", SensorType::temperature, with("reverse-type", nullptr), 50.0,      50.0,               0, "%@°"},
-      {"infinite",         SensorType::temperature, kNone,                         kInfinity, kInfinity,          0, "%@°"},
+      {"converted",        SensorType::temperature, kNone,        50.0,      121.99999570846578, 0, "%@°"},
+      {"zero",             SensorType::temperature, kSpace,       0.0,       32.0,               0, "%@°"},
+      {"reversed",         SensorType::temperature, kReverse,     50.0,      50.0,               0, "%@°"},
+      {"reversed by null", SensorType::temperature, kReverseNull, 50.0,      50.0,               0, "%@°"},
+      {"infinite",         SensorType::temperature, kNone,        kInfinity, kInfinity,          0, "%@°"},
   };
   check(fahrenheit);
   tests::useOnlySetting(kDegrees, 3);
@@ -149,35 +151,35 @@ TEST_F(SensorData, ATemperatureUnitOfAnotherKindIsCelsiusAndNotReversed) {
 
 TEST_F(SensorData, PercentageIsCappedAboveOnly) {
   const Case cases[] = {
-      {"a fraction",             SensorType::percentage, kNone,  0.423,       42.3,        0, "%@%%"},
-      {"no blank",               SensorType::percentage, kSpace, 0.5,         50.0,        0, "%@%%"},
-      {"full",                   SensorType::percentage, kNone,  1.0,         100.0,       0, "%@%%"},
-      {"just below full",        SensorType::percentage, kNone,  below(1.0),  99.99999999999999, 0, "%@%%"},
-      {"just above full",        SensorType::percentage, kNone,  above(1.0),  100.0,       0, "%@%%"},
-      {"more than full",         SensorType::percentage, kNone,  1.5,         100.0,       0, "%@%%"},
-      {"unknown",                SensorType::percentage, kNone,  -1.0,        0.0,         0, "%@%%"},
-      {"beside unknown",         SensorType::percentage, kNone,  below(-1.0), -100.00000000000003, 0, "%@%%"},
-      {"beside unknown",         SensorType::percentage, kNone,  above(-1.0), -99.99999999999999, 0, "%@%%"},
-      {"not capped below",       SensorType::percentage, kNone,  -0.5,        -50.0,       0, "%@%%"},
-      {"not a number is full",   SensorType::percentage, kNone,  kNan,        100.0,       0, "%@%%"},
-      {"infinite is full",       SensorType::percentage, kNone,  kInfinity,   100.0,       0, "%@%%"},
-      {"infinitely empty",       SensorType::percentage, kNone,  -kInfinity,  -kInfinity,  0, "%@%%"},
+      {"a fraction",           SensorType::percentage, kNone,  0.423,       42.3,                0, "%@%%"},
+      {"no blank",             SensorType::percentage, kSpace, 0.5,         50.0,                0, "%@%%"},
+      {"full",                 SensorType::percentage, kNone,  1.0,         100.0,               0, "%@%%"},
+      {"just below full",      SensorType::percentage, kNone,  below(1.0),  99.99999999999999,   0, "%@%%"},
+      {"just above full",      SensorType::percentage, kNone,  above(1.0),  100.0,               0, "%@%%"},
+      {"more than full",       SensorType::percentage, kNone,  1.5,         100.0,               0, "%@%%"},
+      {"unknown",              SensorType::percentage, kNone,  -1.0,        0.0,                 0, "%@%%"},
+      {"beside unknown",       SensorType::percentage, kNone,  below(-1.0), -100.00000000000003, 0, "%@%%"},
+      {"beside unknown",       SensorType::percentage, kNone,  above(-1.0), -99.99999999999999,  0, "%@%%"},
+      {"not capped below",     SensorType::percentage, kNone,  -0.5,        -50.0,               0, "%@%%"},
+      {"not a number is full", SensorType::percentage, kNone,  kNan,        100.0,               0, "%@%%"},
+      {"infinite is full",     SensorType::percentage, kNone,  kInfinity,   100.0,               0, "%@%%"},
+      {"infinitely empty",     SensorType::percentage, kNone,  -kInfinity,  -kInfinity,          0, "%@%%"},
   };
   check(cases);
 }
 
 TEST_F(SensorData, FanIsOffAtExactlyZero) {
   const Case cases[] = {
-      {"turning",              SensorType::fan, kNone,                1200.0,  1200.0,  0, "%@rpm" },
-      {"spaced",               SensorType::fan, kSpace,               1200.0,  1200.0,  0, "%@ rpm"},
-      {"off, though false",    SensorType::fan, kOff,                 0.0,     0.0,     0, "Off"   },
-      {"off, though null",     SensorType::fan, with("off", nullptr), 0.0,     0.0,     0, "Off"   },
-      {"off at minus zero",    SensorType::fan, kOff,                 -0.0,    -0.0,    0, "Off"   },
-      {"nobody asked",         SensorType::fan, kNone,                0.0,     0.0,     0, "%@rpm" },
-      {"nobody asked, spaced", SensorType::fan, kSpace,               0.0,     0.0,     0, "%@ rpm"},
-      {"hardly turning",       SensorType::fan, kOff,                 0.0001,  0.0001,  0, "%@rpm" },
-      {"the least above",      SensorType::fan, kOff,                 5e-324,  5e-324,  0, "%@rpm" },
-      {"the least below",      SensorType::fan, kOff,                 -5e-324, -5e-324, 0, "%@rpm" },
+      {"turning",           SensorType::fan, kNone,                 1200.0,             1200.0,     0,         "%@rpm" },
+      {"spaced",            SensorType::fan, kSpace,                1200.0,             1200.0,     0,         "%@ rpm"},
+      {"off, though false", SensorType::fan, kOff,                  0.0,                0.0,        0,         "Off"   },
+      {"off, though null",  SensorType::fan, with("off",            nullptr),           0.0,        0.0,       0,        "Off"},
+      {"off at minus zero",                   SensorType::fan,                kOff,    -0.0,   -0.0,      0,         "Off"          },
+      {"nobody asked",                   SensorType::fan,                     kNone,         0.0,  0.0, 0,      "%@rpm"  },
+      {"nobody asked, spaced",                   SensorType::fan,             kSpace, 0.0, 0.0,        0,              "%@ rpm"           },
+      {"hardly turning",                   SensorType::fan,                   kOff,       0.0001,   0.0001, 0,  "%@rpm"},
+      {"the least above",                   SensorType::fan,                  kOff,      5e-324,   5e-324,  0,   "%@rpm"           },
+      {"the least below",                   SensorType::fan,                  kOff,      -5e-324,   -5e-324, 0, "%@rpm"},
   };
   check(cases);
 }
@@ -197,20 +199,20 @@ TEST_F(SensorData, SmallCurrentsPowersAndVoltagesAreInThousandths) {
   };
   for (const Family& f : families) {
     const Case cases[] = {
-        {"half",               f.type, kSpace, 0.5,         500.0,             0, f.milliSpaced},
-        {"half, tight",        f.type, kNone,  0.5,         500.0,             0, f.milli      },
-        {"one stays",          f.type, kSpace, 1.0,         1.0,               1, f.baseSpaced },
-        {"minus one stays",    f.type, kNone,  -1.0,        -1.0,              1, f.base       },
-        {"just below one",     f.type, kNone,  below(1.0),  999.9999999999999, 0, f.milli      },
-        {"just above one",     f.type, kNone,  above(1.0),  1.0000000000000002, 1, f.base      },
-        {"just inside",        f.type, kNone,  above(-1.0), -999.9999999999999, 0, f.milli     },
-        {"just outside",       f.type, kNone,  below(-1.0), -1.0000000000000002, 1, f.base     },
-        {"negative",           f.type, kNone,  -0.25,       -250.0,            0, f.milli      },
-        {"zero",               f.type, kSpace, 0.0,         0.0,               0, f.baseSpaced },
-        {"minus zero",         f.type, kNone,  -0.0,        -0.0,              0, f.base       },
-        {"the least",          f.type, kNone,  5e-324,      4.94e-321,         0, f.milli      },
-        {"large",              f.type, kNone,  500.0,       500.0,             1, f.base       },
-        {"infinite",           f.type, kNone,  -kInfinity,  -kInfinity,        1, f.base       },
+        {"half",            f.type, kSpace, 0.5,         500.0,               0, f.milliSpaced},
+        {"half, tight",     f.type, kNone,  0.5,         500.0,               0, f.milli      },
+        {"one stays",       f.type, kSpace, 1.0,         1.0,                 1, f.baseSpaced },
+        {"minus one stays", f.type, kNone,  -1.0,        -1.0,                1, f.base       },
+        {"just below one",  f.type, kNone,  below(1.0),  999.9999999999999,   0, f.milli      },
+        {"just above one",  f.type, kNone,  above(1.0),  1.0000000000000002,  1, f.base       },
+        {"just inside",     f.type, kNone,  above(-1.0), -999.9999999999999,  0, f.milli      },
+        {"just outside",    f.type, kNone,  below(-1.0), -1.0000000000000002, 1, f.base       },
+        {"negative",        f.type, kNone,  -0.25,       -250.0,              0, f.milli      },
+        {"zero",            f.type, kSpace, 0.0,         0.0,                 0, f.baseSpaced },
+        {"minus zero",      f.type, kNone,  -0.0,        -0.0,                0, f.base       },
+        {"the least",       f.type, kNone,  5e-324,      4.94e-321,           0, f.milli      },
+        {"large",           f.type, kNone,  500.0,       500.0,               1, f.base       },
+        {"infinite",        f.type, kNone,  -kInfinity,  -kInfinity,          1, f.base       },
     };
     check(cases);
     const std::optional<Dictionary> nan = KZMUtilitiesSensorData(f.type, kNone, kNan);
@@ -224,22 +226,22 @@ TEST_F(SensorData, SmallCurrentsPowersAndVoltagesAreInThousandths) {
 TEST_F(SensorData, EachFamilyReadsItsOwnDecimalsRules) {
   const Value rules = Array{rule(10.0, 2), rule(100.0, 1)};
   const Case cases[] = {
-      {"below the first",     SensorType::voltage, with("decimals-voltage", rules),  5.0,         5.0,   2, "%@V" },
-      {"on the first",        SensorType::voltage, with("decimals-voltage", rules),  10.0,        10.0,  1, "%@V" },
-      {"just below it",       SensorType::voltage, with("decimals-voltage", rules),  below(10.0), 9.999999999999998, 2, "%@V"},
-      {"below the second",    SensorType::voltage, with("decimals-voltage", rules),  50.0,        50.0,  1, "%@V" },
-      {"above both",          SensorType::voltage, with("decimals-voltage", rules),  500.0,       500.0, 1, "%@V" },
-      {"the scaled value",    SensorType::voltage, with("decimals-voltage", rules),  0.05,        50.0,  1, "%@mV"},
-      {"scaled above both",   SensorType::voltage, with("decimals-voltage", rules),  0.5,         500.0, 0, "%@mV"},
-      {"zero matches",        SensorType::voltage, with("decimals-voltage", rules),  0.0,         0.0,   2, "%@V" },
-      {"of current",          SensorType::current, with("decimals-amperage", rules), 5.0,         5.0,   2, "%@A" },
-      {"of power",            SensorType::power,   with("decimals-power", rules),    5.0,         5.0,   2, "%@W" },
-      {"not of another",      SensorType::current, with("decimals-voltage", rules),  5.0,         5.0,   1, "%@A" },
-      {"not of current",      SensorType::current, with("decimals-current", rules),  5.0,         5.0,   1, "%@A" },
-      {"mistyped",            SensorType::power,   with("decimals-power", 3),        5.0,         5.0,   1, "%@W" },
-      {"of frequency, scaled", SensorType::frequency, with("decimals-frequency", rules), 2400.0,  2.4,   2, "%@GHz"},
-      {"frequency above both", SensorType::frequency, with("decimals-frequency", rules), 500000.0, 500.0, 2, "%@GHz"},
-      {"frequency between",   SensorType::frequency, with("decimals-frequency", rules), 50000.0,  50.0,  1, "%@GHz"},
+      {"below the first",      SensorType::voltage,   with("decimals-voltage",   rules), 5.0,         5.0,               2, "%@V"  },
+      {"on the first",         SensorType::voltage,   with("decimals-voltage",   rules), 10.0,        10.0,              1, "%@V"  },
+      {"just below it",        SensorType::voltage,   with("decimals-voltage",   rules), below(10.0), 9.999999999999998, 2, "%@V"  },
+      {"below the second",     SensorType::voltage,   with("decimals-voltage",   rules), 50.0,        50.0,              1, "%@V"  },
+      {"above both",           SensorType::voltage,   with("decimals-voltage",   rules), 500.0,       500.0,             1, "%@V"  },
+      {"the scaled value",     SensorType::voltage,   with("decimals-voltage",   rules), 0.05,        50.0,              1, "%@mV" },
+      {"scaled above both",    SensorType::voltage,   with("decimals-voltage",   rules), 0.5,         500.0,             0, "%@mV" },
+      {"zero matches",         SensorType::voltage,   with("decimals-voltage",   rules), 0.0,         0.0,               2, "%@V"  },
+      {"of current",           SensorType::current,   with("decimals-amperage",  rules), 5.0,         5.0,               2, "%@A"  },
+      {"of power",             SensorType::power,     with("decimals-power",     rules), 5.0,         5.0,               2, "%@W"  },
+      {"not of another",       SensorType::current,   with("decimals-voltage",   rules), 5.0,         5.0,               1, "%@A"  },
+      {"not of current",       SensorType::current,   with("decimals-current",   rules), 5.0,         5.0,               1, "%@A"  },
+      {"mistyped",             SensorType::power,     with("decimals-power",     3),     5.0,         5.0,               1, "%@W"  },
+      {"of frequency, scaled", SensorType::frequency, with("decimals-frequency", rules), 2400.0,      2.4,               2, "%@GHz"},
+      {"frequency above both", SensorType::frequency, with("decimals-frequency", rules), 500000.0,    500.0,             2, "%@GHz"},
+      {"frequency between",    SensorType::frequency, with("decimals-frequency", rules), 50000.0,     50.0,              1, "%@GHz"},
   };
   check(cases);
   const Value exact = Array{rule(5.0, 4)};
@@ -270,9 +272,9 @@ TEST_F(SensorData, TheOtherKinds) {
 }
 
 TEST_F(SensorData, TheTableHasItsRowsInOrder) {
-  constexpr std::string_view rows[] = {"%@°",   "%@ K",   "%@K",   "Off",   "%@ rpm", "%@rpm", "%@ V",  "%@V",
-                                       "%@ mV", "%@mV",   "%@ A",  "%@A",   "%@ mA",  "%@mA",  "%@ W",  "%@W",
-                                       "%@ mW", "%@mW",   "%@ G",  "%@G",   "%@ GHz", "%@GHz", "%@ Lx", "%@Lx",
+  constexpr std::string_view rows[] = {"%@°",    "%@ K",  "%@K",    "Off",   "%@ rpm", "%@rpm", "%@ V",  "%@V",
+                                       "%@ mV",  "%@mV",  "%@ A",   "%@A",   "%@ mA",  "%@mA",  "%@ W",  "%@W",
+                                       "%@ mW",  "%@mW",  "%@ G",   "%@G",   "%@ GHz", "%@GHz", "%@ Lx", "%@Lx",
                                        "%@ Lux", "%@Lux", "%@ mAh", "%@mAh", "%@x"};
   static_assert(std::size(rows) == 29);
   EXPECT_TRUE(KZMUtilities::shared().cache()->find("Localizations-Units-Sensors").isNull());
