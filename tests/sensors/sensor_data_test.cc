@@ -42,6 +42,7 @@ const Dictionary kNone;
 const Dictionary kSpace = with("space", true);
 const Dictionary kShort = with("short", true);
 const Dictionary kOff = with("off", false);
+const Dictionary kOffNull = with("off", nullptr);
 const Dictionary kReverse = with("reverse-type", false);
 const Dictionary kReverseNull = with("reverse-type", nullptr);
 const Dictionary kDecimals = with("decimals", 2);
@@ -170,16 +171,16 @@ TEST_F(SensorData, PercentageIsCappedAboveOnly) {
 
 TEST_F(SensorData, FanIsOffAtExactlyZero) {
   const Case cases[] = {
-      {"turning",           SensorType::fan, kNone,                 1200.0,             1200.0,     0,         "%@rpm" },
-      {"spaced",            SensorType::fan, kSpace,                1200.0,             1200.0,     0,         "%@ rpm"},
-      {"off, though false", SensorType::fan, kOff,                  0.0,                0.0,        0,         "Off"   },
-      {"off, though null",  SensorType::fan, with("off",            nullptr),           0.0,        0.0,       0,        "Off"},
-      {"off at minus zero",                   SensorType::fan,                kOff,    -0.0,   -0.0,      0,         "Off"          },
-      {"nobody asked",                   SensorType::fan,                     kNone,         0.0,  0.0, 0,      "%@rpm"  },
-      {"nobody asked, spaced",                   SensorType::fan,             kSpace, 0.0, 0.0,        0,              "%@ rpm"           },
-      {"hardly turning",                   SensorType::fan,                   kOff,       0.0001,   0.0001, 0,  "%@rpm"},
-      {"the least above",                   SensorType::fan,                  kOff,      5e-324,   5e-324,  0,   "%@rpm"           },
-      {"the least below",                   SensorType::fan,                  kOff,      -5e-324,   -5e-324, 0, "%@rpm"},
+      {"turning",              SensorType::fan, kNone,    1200.0,  1200.0,  0, "%@rpm" },
+      {"spaced",               SensorType::fan, kSpace,   1200.0,  1200.0,  0, "%@ rpm"},
+      {"off, though false",    SensorType::fan, kOff,     0.0,     0.0,     0, "Off"   },
+      {"off, though null",     SensorType::fan, kOffNull, 0.0,     0.0,     0, "Off"   },
+      {"off at minus zero",    SensorType::fan, kOff,     -0.0,    -0.0,    0, "Off"   },
+      {"nobody asked",         SensorType::fan, kNone,    0.0,     0.0,     0, "%@rpm" },
+      {"nobody asked, spaced", SensorType::fan, kSpace,   0.0,     0.0,     0, "%@ rpm"},
+      {"hardly turning",       SensorType::fan, kOff,     0.0001,  0.0001,  0, "%@rpm" },
+      {"the least above",      SensorType::fan, kOff,     5e-324,  5e-324,  0, "%@rpm" },
+      {"the least below",      SensorType::fan, kOff,     -5e-324, -5e-324, 0, "%@rpm" },
   };
   check(cases);
 }
@@ -225,30 +226,33 @@ TEST_F(SensorData, SmallCurrentsPowersAndVoltagesAreInThousandths) {
 
 TEST_F(SensorData, EachFamilyReadsItsOwnDecimalsRules) {
   const Value rules = Array{rule(10.0, 2), rule(100.0, 1)};
+  const Dictionary voltage = with("decimals-voltage", rules);
+  const Dictionary amperage = with("decimals-amperage", rules);
+  const Dictionary power = with("decimals-power", rules);
+  const Dictionary frequency = with("decimals-frequency", rules);
+  const Dictionary noKey = with("decimals-current", rules);
+  const Dictionary mistyped = with("decimals-power", 3);
+  const Dictionary onItself = with("decimals-voltage", Array{rule(5.0, 4)});
   const Case cases[] = {
-      {"below the first",      SensorType::voltage,   with("decimals-voltage",   rules), 5.0,         5.0,               2, "%@V"  },
-      {"on the first",         SensorType::voltage,   with("decimals-voltage",   rules), 10.0,        10.0,              1, "%@V"  },
-      {"just below it",        SensorType::voltage,   with("decimals-voltage",   rules), below(10.0), 9.999999999999998, 2, "%@V"  },
-      {"below the second",     SensorType::voltage,   with("decimals-voltage",   rules), 50.0,        50.0,              1, "%@V"  },
-      {"above both",           SensorType::voltage,   with("decimals-voltage",   rules), 500.0,       500.0,             1, "%@V"  },
-      {"the scaled value",     SensorType::voltage,   with("decimals-voltage",   rules), 0.05,        50.0,              1, "%@mV" },
-      {"scaled above both",    SensorType::voltage,   with("decimals-voltage",   rules), 0.5,         500.0,             0, "%@mV" },
-      {"zero matches",         SensorType::voltage,   with("decimals-voltage",   rules), 0.0,         0.0,               2, "%@V"  },
-      {"of current",           SensorType::current,   with("decimals-amperage",  rules), 5.0,         5.0,               2, "%@A"  },
-      {"of power",             SensorType::power,     with("decimals-power",     rules), 5.0,         5.0,               2, "%@W"  },
-      {"not of another",       SensorType::current,   with("decimals-voltage",   rules), 5.0,         5.0,               1, "%@A"  },
-      {"not of current",       SensorType::current,   with("decimals-current",   rules), 5.0,         5.0,               1, "%@A"  },
-      {"mistyped",             SensorType::power,     with("decimals-power",     3),     5.0,         5.0,               1, "%@W"  },
-      {"of frequency, scaled", SensorType::frequency, with("decimals-frequency", rules), 2400.0,      2.4,               2, "%@GHz"},
-      {"frequency above both", SensorType::frequency, with("decimals-frequency", rules), 500000.0,    500.0,             2, "%@GHz"},
-      {"frequency between",    SensorType::frequency, with("decimals-frequency", rules), 50000.0,     50.0,              1, "%@GHz"},
+      {"below the first",               SensorType::voltage,   voltage,   5.0,         5.0,               2, "%@V"  },
+      {"on the first",                  SensorType::voltage,   voltage,   10.0,        10.0,              1, "%@V"  },
+      {"just below it",                 SensorType::voltage,   voltage,   below(10.0), 9.999999999999998, 2, "%@V"  },
+      {"below the second",              SensorType::voltage,   voltage,   50.0,        50.0,              1, "%@V"  },
+      {"above both",                    SensorType::voltage,   voltage,   500.0,       500.0,             1, "%@V"  },
+      {"the scaled value",              SensorType::voltage,   voltage,   0.05,        50.0,              1, "%@mV" },
+      {"scaled above both",             SensorType::voltage,   voltage,   0.5,         500.0,             0, "%@mV" },
+      {"zero matches",                  SensorType::voltage,   voltage,   0.0,         0.0,               2, "%@V"  },
+      {"of current",                    SensorType::current,   amperage,  5.0,         5.0,               2, "%@A"  },
+      {"of power",                      SensorType::power,     power,     5.0,         5.0,               2, "%@W"  },
+      {"not of another",                SensorType::current,   voltage,   5.0,         5.0,               1, "%@A"  },
+      {"not of current",                SensorType::current,   noKey,     5.0,         5.0,               1, "%@A"  },
+      {"mistyped",                      SensorType::power,     mistyped,  5.0,         5.0,               1, "%@W"  },
+      {"of frequency, scaled",          SensorType::frequency, frequency, 2400.0,      2.4,               2, "%@GHz"},
+      {"frequency above both",          SensorType::frequency, frequency, 500000.0,    500.0,             2, "%@GHz"},
+      {"frequency between",             SensorType::frequency, frequency, 50000.0,     50.0,              1, "%@GHz"},
+      {"a bound does not match itself", SensorType::voltage,   onItself,  5.0,         5.0,               1, "%@V"  },
   };
   check(cases);
-  const Value exact = Array{rule(5.0, 4)};
-  const Case equal[] = {
-      {"a bound does not match itself", SensorType::voltage, with("decimals-voltage", exact), 5.0, 5.0, 1, "%@V"},
-  };
-  check(equal);
 }
 
 TEST_F(SensorData, TheOtherKinds) {

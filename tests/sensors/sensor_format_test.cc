@@ -32,6 +32,9 @@ const Dictionary kNone;
 const Dictionary kUnits = with("units");
 const Dictionary kSpaced = with("units", "space");
 const Dictionary kStripped = with("units", "space", "strip");
+const Dictionary kOff = with("off");
+const Dictionary kUnitsOff = with("units", "off");
+const Dictionary kUnitsShort = with("units", "short");
 
 class SensorFormat : public testing::Test {
  protected:
@@ -55,33 +58,33 @@ TEST_F(SensorFormat, NumberAndUnit) {
     const char* text;
   };
   const Case cases[] = {
-      {"no such kind",         42,                      kSpaced,           1.0,                               ""                                                 },
-      {"no such kind, alone",  0,                       kNone,             1.0,                               ""                                                 },
-      {"a temperature",        SensorType::temperature, kUnits,            50.5,                              "50°"                                             },
-      {"a temperature, alone", SensorType::temperature, kNone,             51.5,                              "52"                                               },
-      {"the minus stays",      SensorType::temperature, kUnits,            -0.3,                              "-0°"                                             },
-      {"a percentage",         SensorType::percentage,  kUnits,            0.5,                               "50%"                                              },
-      {"a percentage, alone",  SensorType::percentage,  kNone,             0.5,                               "50"                                               },
-      {"no blank in it",       SensorType::percentage,  kSpaced,           0.423,                             "42%"                                              },
-      {"a fan",                SensorType::fan,         kSpaced,           1200.0,                            "1,200 rpm"                                        },
-      {"a fan, tight",         SensorType::fan,         kUnits,            1200.0,                            "1,200rpm"                                         },
-      {"a fan, stripped",      SensorType::fan,         kStripped,         1200.0,                            "1200rpm"                                          },
-      {"a fan at rest",        SensorType::fan,         with("units",      "off"),                            0.0,                                                 "Off"},
-      {"a fan at rest, alone",                      SensorType::fan,                        with("off"),     0.0,    "0"                                               },
-      {"milliamperes",                      SensorType::current,                                kSpaced,         0.5,    "500 mA"},
-      {"amperes",                      SensorType::current,                                     kSpaced,              1.25,    "1.2 A"                                         },
-      {"zeros are dropped",                      SensorType::power,                           kUnits,      5.0,       "5W"        },
-      {"volts",                      SensorType::voltage,                                       kSpaced,                12.345,    "12.3 V"                         },
-      {"the point stays",                      SensorType::voltage,                             kStripped,      12.345,  "12.3V"                },
-      {"the comma stays, too",                      SensorType::voltage,                        kStripped, 1234.56,  "1,234.6V"                             },
-      {"light",                      SensorType::light,                                       with("units",                  "short"), 300.0,"300Lx"},
-      {"a frequency",               SensorType::frequency,                                      kSpaced,                                           2400.0,                                         "2.4 GHz"                                                  },
-      {"a frequency, rounded",             SensorType::frequency,                                    kUnits,                                3456.0,"3.46GHz"},
-      {"a multiplier",             SensorType::multiplier,                                    kUnits,                                        24.0,                                                "24x"                                                                                                          },
-      {"a capacity",                 SensorType::capacity,                                        kSpaced,                                              5100.0,"5,100 mAh"},
-      {"not a number",           SensorType::voltage,                                  kUnits,                                      kNan,                                               "NaNV"                                                                                                                                                                    },
-      {"infinite",                SensorType::fan,                                       kSpaced,                                               kInfinity,    "∞ rpm"},
-      {"infinite",             SensorType::power,                                    kUnits,                                            -kInfinity,                                             "-∞W"                                                                                                                                                                                                                 },
+      {"no such kind",         42,                      kSpaced,     1.0,        ""         },
+      {"no such kind, alone",  0,                       kNone,       1.0,        ""         },
+      {"a temperature",        SensorType::temperature, kUnits,      50.5,       "50°"     },
+      {"a temperature, alone", SensorType::temperature, kNone,       51.5,       "52"       },
+      {"the minus stays",      SensorType::temperature, kUnits,      -0.3,       "-0°"     },
+      {"a percentage",         SensorType::percentage,  kUnits,      0.5,        "50%"      },
+      {"a percentage, alone",  SensorType::percentage,  kNone,       0.5,        "50"       },
+      {"no blank in it",       SensorType::percentage,  kSpaced,     0.423,      "42%"      },
+      {"a fan",                SensorType::fan,         kSpaced,     1200.0,     "1,200 rpm"},
+      {"a fan, tight",         SensorType::fan,         kUnits,      1200.0,     "1,200rpm" },
+      {"a fan, stripped",      SensorType::fan,         kStripped,   1200.0,     "1200rpm"  },
+      {"a fan at rest",        SensorType::fan,         kUnitsOff,   0.0,        "Off"      },
+      {"a fan at rest, alone", SensorType::fan,         kOff,        0.0,        "0"        },
+      {"milliamperes",         SensorType::current,     kSpaced,     0.5,        "500 mA"   },
+      {"amperes",              SensorType::current,     kSpaced,     1.25,       "1.2 A"    },
+      {"zeros are dropped",    SensorType::power,       kUnits,      5.0,        "5W"       },
+      {"volts",                SensorType::voltage,     kSpaced,     12.345,     "12.3 V"   },
+      {"the point stays",      SensorType::voltage,     kStripped,   12.345,     "12.3V"    },
+      {"the comma stays, too", SensorType::voltage,     kStripped,   1234.56,    "1,234.6V" },
+      {"light",                SensorType::light,       kUnitsShort, 300.0,      "300Lx"    },
+      {"a frequency",          SensorType::frequency,   kSpaced,     2400.0,     "2.4 GHz"  },
+      {"a frequency, rounded", SensorType::frequency,   kUnits,      3456.0,     "3.46GHz"  },
+      {"a multiplier",         SensorType::multiplier,  kUnits,      24.0,       "24x"      },
+      {"a capacity",           SensorType::capacity,    kSpaced,     5100.0,     "5,100 mAh"},
+      {"not a number",         SensorType::voltage,     kUnits,      kNan,       "NaNV"     },
+      {"infinite",             SensorType::fan,         kSpaced,     kInfinity,  "∞ rpm"  },
+      {"infinite",             SensorType::power,       kUnits,      -kInfinity, "-∞W"    },
   };
   for (const Case& c : cases) EXPECT_EQ(KZMUtilitiesFormatSensor(c.type, c.options, c.value), c.text) << c.why;
 }
