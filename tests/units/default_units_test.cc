@@ -11,6 +11,8 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
 
+#include "tests/support/settings.h"
+
 namespace kzm {
 namespace {
 
@@ -19,8 +21,8 @@ using Accessor = Unit (KZMUtilitiesDefaultUnits::*)() const;
 
 class DefaultUnits : public testing::Test {
  protected:
-  DefaultUnits() { KZMSettingsUseObjects({}); }
-  ~DefaultUnits() override { KZMSettingsUseObjects({}); }
+  DefaultUnits() { tests::useNoSettings(); }
+  ~DefaultUnits() override { tests::useNoSettings(); }
 };
 
 constexpr auto kWind = "Weather.Global.Units.WindSpeed";
@@ -59,12 +61,6 @@ const Row kRows[] = {
     {"snowUnit",               &Units::snowUnit,               kPrecipitation, kSnows,        "snow",        Unit::knots },
 };
 
-void set(const char* keyPath, Value value) {
-  Dictionary settings;
-  settings.set(keyPath, std::move(value));
-  KZMSettingsUseObjects(settings);
-}
-
 PreferredUnits preferred(Unit wind, Unit pressure, Unit temperature, Unit distance, Unit rain, Unit snow) {
   PreferredUnits units;
   units["windspeed"] = wind;
@@ -86,7 +82,7 @@ TEST_F(DefaultUnits, EveryCodeOfEverySettingGivesItsUnit) {
   const KZMUtilitiesDefaultUnits units;
   for (const Row& row : kRows) {
     for (std::size_t i = 0; i < row.codes.size(); ++i) {
-      set(row.keyPath, static_cast<std::int64_t>(i + 1));
+      tests::useOnlySetting(row.keyPath, static_cast<std::int64_t>(i + 1));
       EXPECT_EQ((units.*row.ask)(), row.codes[i]) << row.name << " " << i + 1;
     }
   }
@@ -100,10 +96,10 @@ TEST_F(DefaultUnits, AnyOtherCodeGivesThePreferredUnit) {
     units.setUnits(only(row.key, row.mark));
     const auto beyond = static_cast<std::int64_t>(row.codes.size()) + 1;
     for (const std::int64_t code : {std::int64_t{0}, std::int64_t{-1}, beyond, kMost, kLeast}) {
-      set(row.keyPath, code);
+      tests::useOnlySetting(row.keyPath, code);
       EXPECT_EQ((units.*row.ask)(), row.mark) << row.name << " " << code;
     }
-    KZMSettingsUseObjects({});
+    tests::useNoSettings();
     EXPECT_EQ((units.*row.ask)(), row.mark) << row.name << " without a setting";
   }
 }
@@ -141,14 +137,14 @@ TEST_F(DefaultUnits, SettingsAreReadAsIntegers) {
   KZMUtilitiesDefaultUnits units;
   units.setUnits(only("pressure", Unit::miles));
   for (const Case& c : cases) {
-    set(kPressure, c.setting);
+    tests::useOnlySetting(kPressure, c.setting);
     EXPECT_EQ(units.pressureUnit(), c.expected) << c.why;
   }
 }
 
 TEST_F(DefaultUnits, RainAndSnowShareOneSetting) {
   const KZMUtilitiesDefaultUnits units;
-  set(kPrecipitation, 1);
+  tests::useOnlySetting(kPrecipitation, 1);
   EXPECT_EQ(units.rainUnit(), Unit::millimeters);
   EXPECT_EQ(units.snowUnit(), Unit::centimeters);
 }
@@ -165,9 +161,9 @@ TEST_F(DefaultUnits, TheTwoTemperaturesDifferInTheirSettingOnly) {
 
 TEST_F(DefaultUnits, AChangeOfTheSettingsIsSeenByTheNextCall) {
   const KZMUtilitiesDefaultUnits units;
-  set(kSensors, 1);
+  tests::useOnlySetting(kSensors, 1);
   EXPECT_EQ(units.sensorsTemperatureUnit(), Unit::celsius);
-  set(kSensors, 3);
+  tests::useOnlySetting(kSensors, 3);
   EXPECT_EQ(units.sensorsTemperatureUnit(), Unit::kelvin);
 }
 
@@ -259,7 +255,7 @@ TEST_F(DefaultUnits, ManyThreadsAskWhileOthersChange) {
         if (i == 0) {
           shared.setUnits(only("windspeed", round % 2 == 0 ? Unit::knots : Unit::milesPerHour));
         } else if (i == 1) {
-          set(kPressure, round % 4);
+          tests::useOnlySetting(kPressure, round % 4);
         }
         EXPECT_LE(shared.units().size(), 6U);
         EXPECT_NE(measurementUnitName(shared.windSpeedUnit()), "");

@@ -17,37 +17,51 @@ constexpr Preferences kUnitedStates = {Unit::milesPerHour, Unit::inchesOfMercury
 TEST(UnitsFromTexts, FollowTheSymbols) {
   struct Case {
     const char* why;
-    Samples samples;
-    Preferences expected;
+    Quantity quantity;
+    const char* sample;
+    Unit expected;
   };
   const Case cases[] = {
-      {"a metric locale",
-       {"0 km/h", "0 hPa", "0°C", "0 km", "30 mm", "3 cm"},
-       {Unit::kilometersPerHour, Unit::hectopascals, Unit::celsius, Unit::kilometers, Unit::millimeters,
-        Unit::centimeters}                                                                                                              },
-      {"the United States",                       {"0 mph", "0 inHg", "32°F", "0 mi", "1.181 in", "1.181 in"},            kUnitedStates},
-      {"no symbol at all",                        {},                                                                      kMetric      },
-      {"metres per second and millibars",
-       {"0 m/s", "0 mbar", "0°C", "0 km", "30 mm", "3 cm"},
-       {Unit::metersPerSecond, Unit::millibars, Unit::celsius, Unit::kilometers, Unit::millimeters, Unit::centimeters}                  },
-      {"knots go first",
-       {"0 m/s 0 mph 0 kn", "", "", "", "", ""},
-       {Unit::knots, Unit::hectopascals, Unit::celsius, Unit::kilometers, Unit::millimeters, Unit::centimeters}                         },
-      {"miles per hour before metres per second",
-       {"0 m/s 0 mph", "", "", "", "", ""},
-       {Unit::milesPerHour, Unit::hectopascals, Unit::celsius, Unit::kilometers, Unit::millimeters, Unit::centimeters}                  },
-      {"millibars before inches",
-       {"", "0 inHg 0 mbar", "", "", "", ""},
-       {Unit::kilometersPerHour, Unit::millibars, Unit::celsius, Unit::kilometers, Unit::millimeters,
-        Unit::centimeters}                                                                                                              },
-      {"kelvin is never a default",               {"0 km/h", "0 hPa", "273.15 K", "0 km", "30 mm", "3 cm"},                kMetric      },
-      {"a symbol counts anywhere",
-       {"knots", "0 millimbars", "°F 32", "0 smil", "", ""},
-       {Unit::knots, Unit::millibars, Unit::fahrenheit, Unit::miles, Unit::millimeters, Unit::centimeters}                              },
-      {"case counts",                             {"0 MPH 0 KN 0 M/S", "0 MBAR", "32°f", "0 MI", "1.181 IN", "1.181 IN"}, kMetric      },
-      {"hostile texts",                           {"%@%n%s", std::string(3, '\0'), "\xC2", "\xFF\xFE", "%", "°"},         kMetric      },
+      {"knots",                    Quantity::windSpeed,   "0 kn",             Unit::knots            },
+      {"knots go first",           Quantity::windSpeed,   "0 m/s 0 mph 0 kn", Unit::knots            },
+      {"miles per hour",           Quantity::windSpeed,   "0 mph",            Unit::milesPerHour     },
+      {"they go before meters",    Quantity::windSpeed,   "0 m/s 0 mph",      Unit::milesPerHour     },
+      {"meters",                   Quantity::windSpeed,   "0 m/s",            Unit::metersPerSecond  },
+      {"kilometers",               Quantity::windSpeed,   "0 km/h",           Unit::kilometersPerHour},
+      {"a symbol counts anywhere", Quantity::windSpeed,   "0 km/sa",          Unit::kilometersPerHour},
+      {"a symbol counts anywhere", Quantity::windSpeed,   "unknown",          Unit::knots            },
+      {"case counts",              Quantity::windSpeed,   "0 MPH 0 KN 0 M/S", Unit::kilometersPerHour},
+      {"millibars",                Quantity::pressure,    "0 mbar",           Unit::millibars        },
+      {"they go before inches",    Quantity::pressure,    "0 inHg 0 mbar",    Unit::millibars        },
+      {"inches",                   Quantity::pressure,    "0 inHg",           Unit::inchesOfMercury  },
+      {"hectopascals",             Quantity::pressure,    "0 hPa",            Unit::hectopascals     },
+      {"another unit",             Quantity::pressure,    "0 mmHg",           Unit::hectopascals     },
+      {"Fahrenheit",               Quantity::temperature, "32°F",            Unit::fahrenheit       },
+      {"Celsius",                  Quantity::temperature, "0°C",             Unit::celsius          },
+      {"kelvin is never chosen",   Quantity::temperature, "273.15 K",         Unit::celsius          },
+      {"case counts",              Quantity::temperature, "32°f",            Unit::celsius          },
+      {"miles",                    Quantity::distance,    "0 mi",             Unit::miles            },
+      {"a symbol counts anywhere", Quantity::distance,    "0 smil",           Unit::miles            },
+      {"kilometers",               Quantity::distance,    "0 km",             Unit::kilometers       },
+      {"inches of rain",           Quantity::rain,        "1.181 in",         Unit::inches           },
+      {"millimeters of rain",      Quantity::rain,        "30 mm",            Unit::millimeters      },
+      {"centimeters of snow",      Quantity::snow,        "3 cm",             Unit::centimeters      },
+      {"no place is a symbol",     Quantity::windSpeed,   "%@%n%s",           Unit::kilometersPerHour},
+      {"half a letter",            Quantity::temperature, "\xC2",             Unit::celsius          },
   };
-  for (const Case& c : cases) EXPECT_EQ(preferencesFrom(c.samples), c.expected) << c.why;
+  for (const Case& c : cases) {
+    Samples samples;
+    samples[static_cast<std::size_t>(c.quantity)] = c.sample;
+    EXPECT_EQ(preferencesFrom(samples)[static_cast<std::size_t>(c.quantity)], c.expected) << c.why;
+  }
+}
+
+TEST(UnitsFromTexts, OfSixTexts) {
+  EXPECT_EQ(preferencesFrom({"0 km/h", "0 hPa", "0°C", "0 km", "30 mm", "3 cm"}), kMetric);
+  EXPECT_EQ(preferencesFrom({"0 mph", "0 inHg", "32°F", "0 mi", "1.181 in", "1.181 in"}), kUnitedStates);
+  EXPECT_EQ(preferencesFrom({}), kMetric) << "no symbol at all";
+  EXPECT_EQ(kMetric, (Preferences{Unit::kilometersPerHour, Unit::hectopascals, Unit::celsius, Unit::kilometers,
+                                  Unit::millimeters, Unit::centimeters}));
 }
 
 TEST(UnitsFromTexts, TheSecondRuleOfSnowLooksAtTheSampleOfRain) {
