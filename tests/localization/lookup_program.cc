@@ -8,14 +8,13 @@
 #include <vector>
 
 #include <KZMLocalization/KZMLocalization.h>
-
 #include <KZMUtilities/resources.h>
 
 namespace {
 
 std::string textFor(const std::string& key) {
-  return KZMLocalizedStringFromTableInBundle(
-      key, "KZMUtilities", kzm::bundleWithIdentifier(kzm::kBundleIdentifier), nullptr);
+  return KZMLocalizedStringFromTableInBundle(key, "KZMUtilities", kzm::bundleWithIdentifier(kzm::kBundleIdentifier),
+                                             nullptr);
 }
 
 /// Asks once more when everything made later is gone already.

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include <KZMLocalization/KZMLocalization.h>
-
 #include <KZMUtilities/resources.h>
 
 namespace kzm {
