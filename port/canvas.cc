@@ -10,6 +10,8 @@ namespace {
 
 // Where a quarter of an ellipse has the control points of its curve, as a part of its radius.
 constexpr double kQuarterCurve = 0.5522847498;
+// How far, in pixels, a curve may stray: a narrow bar's corners are no more than a pixel themselves.
+constexpr double kTolerance = 0.01;
 // A context that shows a point smaller or larger than this, in pixels, shows nothing that anybody could see; beyond it
 // cairo's arithmetic fails.
 constexpr double kSmallestScale = 1e-6;
@@ -35,6 +37,7 @@ class Saved {
     cairo_save(cairo_);
     cairo_new_path(cairo_);
     cairo_set_operator(cairo_, CAIRO_OPERATOR_OVER);
+    cairo_set_tolerance(cairo_, kTolerance);
   }
   ~Saved() {
     cairo_restore(cairo_);
@@ -176,9 +179,15 @@ void paintSurface(cairo_t* cairo, cairo_surface_t* surface, const cairo_matrix_t
   cairo_fill(cairo);
 }
 
+// Cairo tells of a finished surface, whose pixels are gone, only by refusing to make another one like it.
+bool isFinished(cairo_surface_t* surface) {
+  const Surface similar(cairo_surface_create_similar_image(surface, CAIRO_FORMAT_A8, 1, 1));
+  return cairo_surface_status(similar.get()) != CAIRO_STATUS_SUCCESS;
+}
+
 bool isImage(cairo_surface_t* surface) {
   return surface && cairo_surface_status(surface) == CAIRO_STATUS_SUCCESS &&
-         cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE;
+         cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE && !isFinished(surface);
 }
 
 Surface makePixels(int width, int height, double scaleX, double scaleY) {
@@ -224,7 +233,7 @@ void strokeRoundedRect(cairo_t* cairo, const Rect& rect, double radius, double l
 
 void drawSurface(cairo_t* cairo, cairo_surface_t* surface, const Size& size, const Rect& rect, bool mirrored) {
   const std::optional<Rect> part = drawablePart(cairo, rect);
-  if (!part || !isImage(surface)) return;
+  if (!part) return;
   // An image that is drawn into itself is drawn as it was before.
   const Surface copy = cairo_get_target(cairo) == surface ? copySurface(surface) : nullptr;
   paintSurface(cairo, copy ? copy.get() : surface, imageMatrix(cairo, size, rect, *part, mirrored), *part);

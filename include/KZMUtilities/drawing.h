@@ -125,7 +125,7 @@ class KZM_EXPORT Image {
   Image() noexcept;
   /// Transparent, with `scale` pixels to the point. Empty if a side is not above 0 or has more than 32767 pixels.
   explicit Image(Size size, double scale = 1.0);
-  /// A copy of an image surface's pixels and device scale; empty if it is none, or is in an error state.
+  /// A copy of an image surface's pixels and device scale; empty if it is none, finished or in an error state.
   [[nodiscard]] static Image fromSurface(cairo_surface_t* surface);
   /// Empty if the file cannot be read.
   [[nodiscard]] static Image fromPNG(const std::string& path);

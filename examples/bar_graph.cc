@@ -1,0 +1,37 @@
+// Draws a small bar graph, with a tinted icon beside it, into the file that is named: bar_graph [FILE.png]
+#include <cstdio>
+
+#include <KZMUtilities/drawing.h>
+
+int main(int count, char** arguments) {
+  const char* file = count > 1 ? arguments[1] : "bar_graph.png";
+  const kzm::Color blue = kzm::Color::fromHSBA(0.58, 0.8, 0.9, 1.0);
+  const kzm::Image icon(kzm::Size{16, 16}, 2.0);
+  {
+    const kzm::Image::Focus focus(icon);
+    kzm::barGraphWithRectFill(
+        {
+            {2,  2 },
+            {12, 12}
+    },
+        kzm::Color());
+  }
+  const kzm::Image picture(kzm::Size{120, 48}, 2.0);
+  {
+    const kzm::Image::Focus focus(picture);
+    double x = 8.0;
+    for (const double load : {0.2, 0.45, 0.9, 0.7, 0.35, 0.6}) {
+      const kzm::Rect bar{
+          .origin = {x, 40.0 - 32.0 * load},
+            .size = {8, 32.0 * load       }
+      };
+      kzm::barGraphWithRectFill(bar, blue);
+      kzm::barGraphWithRectBorder(bar, blue.multiplyBrightness(0.6F));
+      x += 12.0;
+    }
+    icon.tint(blue).drawAtPoint({x + 8.0, 8.0});
+  }
+  const bool written = picture.writePNG(file);
+  std::printf("%s %s\n", written ? "wrote" : "could not write", file);
+  return written ? 0 : 1;
+}

@@ -1,0 +1,255 @@
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+#include <KZMUtilities/drawing.h>
+
+#include "tests/support/pixels.h"
+
+namespace kzm::tests {
+namespace {
+
+constexpr double kInf = std::numeric_limits<double>::infinity();
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr double kMax = std::numeric_limits<double>::max();
+
+const Color kRed = Color::fromRGBA(1, 0, 0, 1);
+
+void fill(const Canvas& canvas, const Rect& rect) {
+  const auto current = GraphicsContext(canvas.cairo()).makeCurrent();
+  barGraphWithRectFill(rect, kRed);
+}
+
+void outline(const Canvas& canvas, const Rect& rect) {
+  const auto current = GraphicsContext(canvas.cairo()).makeCurrent();
+  barGraphWithRectBorder(rect, kRed);
+}
+
+TEST(BarGraphFill, FillsExactlyTheRectangleWithRoundedCorners) {
+  const Canvas canvas(24, 24);
+  fill(canvas, {
+                   {4,  6 },
+                   {16, 10}
+  });
+  EXPECT_EQ(canvas.pixel(12, 11), kRedPixel) << "inside";
+  EXPECT_EQ(canvas.pixel(12, 6), kRedPixel) << "the edges are full";
+  EXPECT_EQ(canvas.pixel(12, 15), kRedPixel);
+  EXPECT_EQ(canvas.pixel(4, 11), kRedPixel);
+  EXPECT_EQ(canvas.pixel(19, 11), kRedPixel);
+  EXPECT_EQ(canvas.pixel(12, 5), 0U) << "nothing beyond them";
+  EXPECT_EQ(canvas.pixel(12, 16), 0U);
+  EXPECT_EQ(canvas.pixel(3, 11), 0U);
+  EXPECT_EQ(canvas.pixel(20, 11), 0U);
+  for (const auto& [x, y] : {
+           std::pair{4,  6 },
+           {19, 6 },
+           {4,  15},
+           {19, 15}
+  }) {
+    EXPECT_NEAR(canvas.alpha(x, y), 80, 8) << "the disc of radius 2 covers 0.315 of a corner pixel";
+  }
+}
+
+// A rounded rectangle lacks (4 - pi) times the two radii at its four corners.
+TEST(BarGraphFill, NarrowBarsHaveEllipticalCornersAndStayInside) {
+  struct Case {
+    const char* why;
+    Size size;
+    double area;
+  };
+  constexpr Case cases[] = {
+      {"ordinary: 160 less 0.8584 x 2 x 2", {16, 10}, 156.566},
+      {"exactly twice the radius: a disc",  {4, 4},   12.566 },
+      {"narrow: 1.5 by 2",                  {3, 10},  27.425 },
+      {"low: 2 by 0.5",                     {10, 1},  9.142  },
+      {"small: a disc of radius 1",         {2, 2},   3.142  },
+      {"one pixel: a disc of radius 0.5",   {1, 1},   0.785  },
+      {"a hair",                            {0.5, 8}, 3.571  },
+  };
+  for (const Case& c : cases) {
+    const Canvas canvas(24, 16);
+    fill(canvas, {
+                     {4, 4},
+                     c.size
+    });
+    EXPECT_NEAR(canvas.area(), c.area, 0.02 * c.area + 0.03) << c.why;
+    const int right = 4 + static_cast<int>(c.size.width + 0.99);
+    const int bottom = 4 + static_cast<int>(c.size.height + 0.99);
+    for (int y = 0; y < 16; ++y) {
+      for (int x = 0; x < 24; ++x) {
+        const bool inside = x >= 4 && y >= 4 && x < right && y < bottom;
+        EXPECT_TRUE(inside || canvas.pixel(x, y) == 0) << c.why << " at " << x << ", " << y;
+      }
+    }
+  }
+}
+
+TEST(BarGraph, WhatIsNoRectangleDrawsNothing) {
+  constexpr Rect kCases[] = {
+      {{4, 4},     {0, 8}     },
+      {{4, 4},     {8, 0}     },
+      {{4, 4},     {-8, 8}    },
+      {{4, 4},     {8, -8}    },
+      {{kNan, 4},  {8, 8}     },
+      {{4, kNan},  {8, 8}     },
+      {{4, 4},     {kNan, 8}  },
+      {{4, 4},     {8, kNan}  },
+      {{-kInf, 4}, {8, 8}     },
+      {{4, 4},     {kInf, 8}  },
+      {{4, 4},     {8, kInf}  },
+      {{kMax, 4},  {kMax, 8}  },
+      {{1e9, 4},   {8, 8}     },
+      {{4, 4},     {1e-300, 8}},
+  };
+  for (const Rect& rect : kCases) {
+    const Canvas canvas(16, 16);
+    fill(canvas, rect);
+    outline(canvas, rect);
+    EXPECT_EQ(canvas.area(), 0.0) << rect.origin.x << " " << rect.origin.y << " " << rect.size.width;
+    EXPECT_TRUE(canvas.isSound());
+  }
+}
+
+TEST(BarGraph, HugeOnesShowWhatLiesOnTheSurface) {
+  const Canvas canvas(16, 16);
+  fill(canvas, {
+                   {8,    -1e9},
+                   {1e12, 2e9 }
+  });
+  EXPECT_EQ(canvas.pixel(7, 8), 0U);
+  EXPECT_EQ(canvas.pixel(8, 8), kRedPixel);
+  EXPECT_EQ(canvas.pixel(15, 0), kRedPixel);
+  const Canvas corner(16, 16);
+  fill(corner, {
+                   {-kMax / 2, 4    },
+                   {kMax,      1e300}
+  });
+  EXPECT_EQ(corner.pixel(0, 3), 0U);
+  EXPECT_EQ(corner.pixel(0, 4), kRedPixel);
+  EXPECT_TRUE(corner.isSound());
+}
+
+TEST(BarGraphBorder, LiesOnTheEdgeHalfOutside) {
+  const Canvas canvas(24, 24);
+  outline(canvas, {
+                      {4,  6 },
+                      {16, 10}
+  });
+  for (const auto& [x, y] : {
+           std::pair{12, 5 },
+           {12, 6 },
+           {12, 15},
+           {12, 16},
+           {3,  11},
+           {4,  11},
+           {19, 11},
+           {20, 11}
+  }) {
+    EXPECT_GE(canvas.alpha(x, y), 60) << "a quarter on each side, at " << x << ", " << y;
+    EXPECT_LE(canvas.alpha(x, y), 72) << "a quarter on each side, at " << x << ", " << y;
+  }
+  EXPECT_EQ(canvas.pixel(12, 4), 0U);
+  EXPECT_EQ(canvas.pixel(12, 11), 0U) << "not filled";
+  EXPECT_EQ(canvas.pixel(12, 7), 0U);
+}
+
+TEST(BarGraph, LeavesTheCairoContextAsItWas) {
+  const Canvas canvas(24, 24);
+  cairo_t* cairo = canvas.cairo();
+  cairo_set_line_width(cairo, 7.0);
+  const double dashes[] = {3.0, 1.0};
+  cairo_set_dash(cairo, dashes, 2, 0.5);
+  cairo_set_operator(cairo, CAIRO_OPERATOR_CLEAR);
+  cairo_set_source_rgba(cairo, 0.0, 1.0, 0.0, 1.0);
+  cairo_translate(cairo, 2.0, 3.0);
+  cairo_rectangle(cairo, 0.0, 0.0, 10.0, 20.0);
+  cairo_clip(cairo);
+  cairo_move_to(cairo, 5.0, 6.0);
+  fill(canvas, {
+                   {1, 1},
+                   {8, 8}
+  });
+  outline(canvas, {
+                      {1, 1},
+                      {8, 8}
+  });
+  EXPECT_EQ(canvas.pixel(7, 8), kRedPixel) << "drawn over, whatever the host's operator";
+  EXPECT_EQ(cairo_get_line_width(cairo), 7.0);
+  EXPECT_EQ(cairo_get_dash_count(cairo), 2);
+  EXPECT_EQ(cairo_get_operator(cairo), CAIRO_OPERATOR_CLEAR);
+  double red = 1.0, green = 0.0, blue = 1.0, alpha = 0.0;
+  cairo_pattern_get_rgba(cairo_get_source(cairo), &red, &green, &blue, &alpha);
+  EXPECT_EQ(green, 1.0);
+  EXPECT_EQ(red, 0.0);
+  double x = 0.0, y = 0.0;
+  cairo_get_current_point(cairo, &x, &y);
+  EXPECT_EQ(x, 5.0);
+  EXPECT_EQ(y, 6.0);
+  double left = -1.0, top = -1.0, right = -1.0, bottom = -1.0;
+  cairo_clip_extents(cairo, &left, &top, &right, &bottom);
+  EXPECT_EQ(right - left, 10.0);
+  EXPECT_EQ(bottom - top, 20.0);
+  EXPECT_TRUE(canvas.isSound());
+}
+
+TEST(BarGraph, HonoursTheHostsClip) {
+  const Canvas canvas(24, 24);
+  cairo_rectangle(canvas.cairo(), 0.0, 0.0, 10.0, 24.0);
+  cairo_clip(canvas.cairo());
+  fill(canvas, {
+                   {4,  6 },
+                   {16, 10}
+  });
+  EXPECT_EQ(canvas.pixel(9, 11), kRedPixel);
+  EXPECT_EQ(canvas.pixel(10, 11), 0U);
+}
+
+TEST(BarGraph, AContextInAnErrorStateIsLeftAlone) {
+  const Canvas canvas(8, 8);
+  cairo_restore(canvas.cairo());  // without a save before: an error for good
+  ASSERT_FALSE(canvas.isSound());
+  fill(canvas, {
+                   {0, 0},
+                   {8, 8}
+  });
+  outline(canvas, {
+                      {0, 0},
+                      {8, 8}
+  });
+  Image(Size{
+            2, 2
+  })
+      .drawInRect({{0, 0}, {8, 8}});
+  EXPECT_EQ(canvas.area(), 0.0);
+}
+
+// Every magnitude, sign and kind of number, in contexts that are scaled, turned and moved in every way.
+TEST(BarGraph, NothingPutsTheContextIntoAnErrorState) {
+  std::mt19937 random(20);
+  constexpr double kNumbers[] = {0.0, 1.0, 3.0,  -2.0,  0.1,  1e-3, 1e-9, 1e-160, 1e-310, 7.5,    1e3,  1e5,  3e6,
+                                 1e7, 1e9, 1e15, 1e160, kMax, -1e3, -1e9, kInf,   kNan,   -1e160, 16.0, -0.5, 2.0};
+  const auto pick = [&] { return kNumbers[random() % std::size(kNumbers)]; };
+  const Image image(Size{3, 5});
+  for (int turn = 0; turn < 20'000; ++turn) {
+    const Canvas canvas(8, 8);
+    cairo_matrix_t matrix;
+    cairo_matrix_init(&matrix, pick(), pick(), pick(), pick(), pick(), pick());
+    if (turn % 2 == 0) cairo_transform(canvas.cairo(), &matrix);
+    if (!canvas.isSound()) continue;  // a transformation that cairo itself refuses
+    const GraphicsContext context(canvas.cairo(), turn % 3 == 0);
+    const auto current = context.makeCurrent();
+    const Rect rect{
+        {pick(), pick()},
+        {pick(), pick()}
+    };
+    barGraphWithRectFill(rect, kRed);
+    barGraphWithRectBorder(rect, kRed);
+    image.drawInRect(rect);
+    image.drawAtPoint(rect.origin);
+    ASSERT_TRUE(canvas.isSound()) << turn << ": " << rect.origin.x << " " << rect.origin.y << " " << rect.size.width
+                                  << " " << rect.size.height;
+  }
+}
+
+}  // namespace
+}  // namespace kzm::tests
