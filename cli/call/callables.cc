@@ -4,20 +4,36 @@
 
 #include <KZMUtilities/bytes.h>
 #include <KZMUtilities/conversions.h>
+#include <KZMUtilities/dates.h>
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
+#include <KZMUtilities/guards.h>
 #include <KZMUtilities/percentage.h>
 #include <KZMUtilities/resources.h>
 #include <KZMUtilities/sensors.h>
+#include <KZMUtilities/text.h>
+#include <KZMUtilities/time_items.h>
 #include <KZMUtilities/weather.h>
 
 namespace kzm::cli {
 namespace {
 
 // The bundle is always the library's own.
-std::string localizedString(std::string_view key, std::string_view table, std::string_view comment) {
+std::string localizedString(std::string_view key, std::string_view table, const std::optional<std::string>& comment) {
   return KZMLocalizedStringFromTableInBundle(key, table, bundleWithIdentifier(kBundleIdentifier),
-                                             std::string(comment).c_str());
+                                             comment.has_value() ? comment->c_str() : nullptr);
+}
+
+// Operations that change their receiver answer with the changed receiver.
+AttributedString replacedByText(AttributedString receiver, std::string_view target, std::string_view replacement,
+                                const Value& attributes) {
+  replaceStringWithStringAttributes(receiver, target, replacement, attributes);
+  return receiver;
+}
+AttributedString replacedByAttributed(AttributedString receiver, std::string_view target,
+                                      const AttributedString& replacement) {
+  replaceStringWithAttributedString(receiver, target, replacement);
+  return receiver;
 }
 
 // An operation of the shared default units.
@@ -94,6 +110,30 @@ const Callable kCallables[] = {
     row<KZMUtilitiesFormatWeatherIllumination>("KZMUtilitiesFormatWeatherIllumination", "percent"),
     row<KZMUtilitiesSensorData>("KZMUtilitiesSensorData", "type options value"),
     row<KZMUtilitiesFormatSensor>("KZMUtilitiesFormatSensor", "type options value"),
+    row<KZMUtilitiesTimeItems>("KZMUtilitiesTimeItems", ""),
+    row<dayStart>("dayStart", "t"),
+    row<dayStartWithTimezone>("dayStartWithTimezone:", "t zone"),
+    row<addDaysTimezone>("addDays:timezone:", "t days zone"),
+    row<addDays>("addDays:", "t days"),
+    row<addHours>("addHours:", "t hours"),
+    row<addMonths>("addMonths:", "t months"),
+    row<components>("components:", "t units"),
+    row<corrected>("corrected", "t"),
+    row<utcStart>("utcStart", "t"),
+    row<converFromTimezoneToUTC>("converFromTimezoneToUTC:", "t zone"),
+    row<converToTimezone>("converToTimezone:", "t zone"),
+    row<converFromTimezone>("converFromTimezone:", "t zone"),
+    row<ordinalSuffix>("ordinalSuffix", "t"),
+    row<dateFromComponents>("dateFromComponents:", "units"),
+    row<timeIntervalFromComponents>("timeIntervalFromComponents:", "units"),
+    row<utcStartForToday>("utcStartForToday", ""),
+    row<ordinalSuffixFromDay>("ordinalSuffixFromDay:", "day"),
+    row<replacedByText>("replaceString:withString:attributes:", "receiver target replacement attributes"),
+    row<replacedByAttributed>("replaceString:withAttributedString:", "receiver target replacement"),
+    row<doesStringMatchExpression>("doesStringMatchExpression:", "text pattern"),
+    row<matchForExpression>("matchForExpression:", "text pattern"),
+    row<KZMMAXDouble>("KZMMAXDouble", "a b"),
+    row<KZMMINDouble>("KZMMINDouble", "a b"),
 };
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include <utility>
 
 #include <KZMUtilities/attributed_string.h>
+#include <KZMUtilities/dates.h>
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
 
@@ -63,10 +64,51 @@ struct Argument<std::shared_ptr<const Locale>> {
   static std::shared_ptr<const Locale> read(const Json& json);
 };
 
+template <>
+struct Argument<std::optional<std::string>> {
+  static constexpr std::string_view name = "string|null";
+  static std::optional<std::string> read(const Json& json);
+};
+
+template <>
+struct Argument<TimePoint> {
+  static constexpr std::string_view name = "time|null";
+  static TimePoint read(const Json& json);
+};
+
+template <>
+struct Argument<TimeZone> {
+  static constexpr std::string_view name = "timezone";
+  static TimeZone read(const Json& json);
+};
+
+template <>
+struct Argument<CalendarUnits> {
+  static constexpr std::string_view name = "units";
+  static CalendarUnits read(const Json& json);
+};
+
+/// A set of text attributes, carried through unread.
+template <>
+struct Argument<Value> {
+  static constexpr std::string_view name = "attributes";
+  static Value read(const Json& json);
+};
+
+template <>
+struct Argument<AttributedString> {
+  static constexpr std::string_view name = "attributedstring";
+  static AttributedString read(const Json& json);
+};
+
 [[nodiscard]] Result resultOf(double number);
 [[nodiscard]] Result resultOf(bool boolean);
 [[nodiscard]] Result resultOf(std::int64_t integer);
 [[nodiscard]] Result resultOf(const std::string& text);
+[[nodiscard]] Result resultOf(const std::optional<std::string>& text);
+[[nodiscard]] Result resultOf(const Array& array);
+[[nodiscard]] Result resultOf(const TimePoint& t);
+[[nodiscard]] Result resultOf(const std::optional<DateComponents>& components);
 [[nodiscard]] Result resultOf(const Dictionary& dictionary);
 [[nodiscard]] Result resultOf(const std::optional<Dictionary>& dictionary);
 [[nodiscard]] Result resultOf(MeasurementUnit unit);
