@@ -4,6 +4,7 @@
 #include <string>
 
 #include <KZMLocalization/KZMLocalization.h>
+#include <KZMUtilities/dates.h>
 #include <KZMUtilities/formatters.h>
 
 #include "cli/errors.h"
@@ -18,6 +19,12 @@ void useLocale(std::string_view identifier) {
   KZMLocalizationSetLanguages(usable);
 }
 
+void useTimeZone(std::string_view identifier) {
+  const std::optional<TimeZone> zone = TimeZone::named(identifier);
+  if (!zone.has_value()) throw InputError("no time zone " + quoted(identifier) + "; names are such as Europe/Paris");
+  TimeZone::setDefaultZone(*zone);
+}
+
 struct ProcessOption {
   std::string_view name;
   std::string_view value;
@@ -25,7 +32,8 @@ struct ProcessOption {
   void (*use)(std::string_view value);
 };
 constexpr ProcessOption kProcessOptions[] = {
-    {"--locale", "ID", "locale of numbers, texts and default units, such as de_CH", useLocale},
+    {"--locale",    "ID", "locale of numbers, texts and default units, such as de_CH", useLocale  },
+    {"--time-zone", "ID", "default time zone, such as Europe/Paris",                   useTimeZone},
 };
 
 }  // namespace
