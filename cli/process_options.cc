@@ -21,7 +21,7 @@ void useLocale(std::string_view identifier) {
 
 void useTimeZone(std::string_view identifier) {
   const std::optional<TimeZone> zone = TimeZone::named(identifier);
-  if (!zone.has_value()) throw InputError("--time-zone: no time zone is named \"" + std::string(identifier) + "\"");
+  if (!zone.has_value()) throw InputError("no time zone " + quoted(identifier) + "; names are such as Europe/Paris");
   TimeZone::setDefaultZone(*zone);
 }
 

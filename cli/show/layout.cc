@@ -99,10 +99,7 @@ std::string lineOf(const Piece& name, std::size_t indent, const std::vector<Cell
 
 std::vector<Cell> headings(const Section& section) {
   std::vector<Cell> cells;
-  for (const std::string& column : section.columns)
-    cells.push_back({
-        Piece{column, Style::faint}
-    });
+  for (const std::string& column : section.columns) cells.emplace_back(1, Piece{column, Style::faint});
   return cells;
 }
 

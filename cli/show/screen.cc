@@ -54,7 +54,7 @@ bool writeAll(std::string_view text) {
 }
 
 bool hasValue(const char* variable) {
-  const char* value = std::getenv(variable);
+  const char* value = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe)
   return value != nullptr && *value != '\0';
 }
 
@@ -76,7 +76,7 @@ void cutToHeight(std::vector<std::string>& lines) {
 }  // namespace
 
 bool writesToTerminal() {
-  const char* kind = std::getenv("TERM");
+  const char* kind = std::getenv("TERM");  // NOLINT(concurrency-mt-unsafe)
   const bool isDumb = kind != nullptr && std::string_view(kind) == "dumb";
   return ::isatty(STDOUT_FILENO) == 1 && !isDumb;
 }
@@ -91,7 +91,7 @@ Look lookOfOutput(bool plain) {
 
 Screen::Screen() : terminal_(writesToTerminal()), signals_(-1) {
   const sigset_t set = signalSet();
-  if (::sigprocmask(SIG_BLOCK, &set, nullptr) != 0) fail("signals");
+  ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
   signals_ = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
   if (signals_ < 0) fail("signals");
   if (terminal_) terminal_ = writeAll(kHideCursor);

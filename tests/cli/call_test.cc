@@ -35,6 +35,7 @@ TEST(Call, PrintsTheResult) {
       {{"KZMUtilitiesPosixLocale", "\"de_CH\""},                         "de_CH_POSIX\n"},
       {{"KZMLocalizedStringFromTableInBundle", "\"Units.Memory.%@ GB\"", "\"KZMUtilities\"", "\"\""}, "%@ GB\n"},
       {{"--locale", "de_DE", "KZMUtilitiesFormatNumber", R"({"decimals": 2})", "1234.5"}, "1.234,5\n"},
+      {{"--time-zone", "Europe/Paris", "mpsToKph", "10"},                "36.0\n"},
       {{"mpsToKph", "10"},                                               "36.0\n"},
       {{"--set", "Weather.Global.Units.Pressure=2", "KZMUtilitiesFormatWeatherPressure", R"({"units": true})", "1013"}, "1,013mb\n"},
   };

@@ -43,6 +43,8 @@ TEST(Usage, UnknownWordsAreOneLine) {
       {{"call", "--frob"},           "kzmutil: call: no option \"--frob\"; `kzmutil call --help` lists them\n"},
       {{"call"},                     "kzmutil: call: a name is missing; `kzmutil list` shows them\n"},
       {{"call", "--locale"},         "kzmutil: --locale: its value is missing\n"},
+      {{"call", "--time-zone", "Mars/Base", "mpsToKph", "1"},
+                                     "kzmutil: no time zone \"Mars/Base\"; names are such as Europe/Paris\n"},
       {{"call", "--batch", "x"},     "kzmutil: call: --batch takes no name\n"},
       {{"call", "--set", "x"},       "kzmutil: --set: takes KEYPATH=JSON\n"},
       {{"monitor", "a", "b"},        "kzmutil: monitor takes one topic\n"},
