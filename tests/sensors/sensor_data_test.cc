@@ -63,6 +63,7 @@ void check(const Case (&cases)[N]) {
     const std::optional<Dictionary> data = KZMUtilitiesSensorData(c.type, c.options, c.input);
     ASSERT_TRUE(data.has_value()) << c.why;
     EXPECT_EQ(*data->find("value")->real(), c.value) << c.why;
+    EXPECT_EQ(std::signbit(*data->find("value")->real()), std::signbit(c.value)) << c.why;
     EXPECT_EQ(*data->find("decimals")->integer(), c.decimals) << c.why;
     EXPECT_EQ(*data->find("format")->string(), c.format) << c.why;
   }

@@ -28,7 +28,7 @@ TEST(UnitsFromTexts, FollowTheSymbols) {
       {"they go before meters",    Quantity::windSpeed,   "0 m/s 0 mph",      Unit::milesPerHour     },
       {"meters",                   Quantity::windSpeed,   "0 m/s",            Unit::metersPerSecond  },
       {"kilometers",               Quantity::windSpeed,   "0 km/h",           Unit::kilometersPerHour},
-      {"a symbol counts anywhere", Quantity::windSpeed,   "0 km/sa",          Unit::kilometersPerHour},
+      {"a symbol counts anywhere", Quantity::windSpeed,   "0 km/sa",          Unit::metersPerSecond  },
       {"a symbol counts anywhere", Quantity::windSpeed,   "unknown",          Unit::knots            },
       {"case counts",              Quantity::windSpeed,   "0 MPH 0 KN 0 M/S", Unit::kilometersPerHour},
       {"millibars",                Quantity::pressure,    "0 mbar",           Unit::millibars        },
