@@ -81,6 +81,7 @@ std::string pathForChild(const Launch& launch) {
 // The arrays of pointers that the system wants; it does not change the texts.
 std::vector<char*> pointers(const std::vector<std::string>& texts) {
   std::vector<char*> result;
+  result.reserve(texts.size() + 1);
   for (const std::string& text : texts) result.push_back(const_cast<char*>(text.c_str()));
   result.push_back(nullptr);
   return result;
