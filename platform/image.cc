@@ -23,7 +23,7 @@ namespace {
 GraphicsContext contextOn(cairo_surface_t* surface) {
   if (!surface) return GraphicsContext(nullptr);
   cairo_t* cairo = cairo_create(surface);
-  const GraphicsContext context(cairo);
+  GraphicsContext context(cairo);
   cairo_destroy(cairo);
   return context;
 }

@@ -14,8 +14,9 @@
 
 #include <KZMUtilities/export.h>
 
-typedef struct _cairo cairo_t;
-typedef struct _cairo_surface cairo_surface_t;
+// The two cairo types that a host hands in, under the names that cairo gives them.
+typedef struct _cairo cairo_t;                  // NOLINT(bugprone-reserved-identifier)
+typedef struct _cairo_surface cairo_surface_t;  // NOLINT(bugprone-reserved-identifier)
 
 namespace kzm {
 

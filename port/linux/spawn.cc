@@ -78,9 +78,10 @@ std::string pathForChild(const Launch& launch) {
   return std::filesystem::absolute(launch.executable, error).string();
 }
 
-// The arrays of pointers that the system wants; it does not change the texts.
+// The array of pointers that the system wants, as long as the texts live; it does not change them.
 std::vector<char*> pointers(const std::vector<std::string>& texts) {
   std::vector<char*> result;
+  result.reserve(texts.size() + 1);
   for (const std::string& text : texts) result.push_back(const_cast<char*>(text.c_str()));
   result.push_back(nullptr);
   return result;
@@ -94,7 +95,7 @@ std::optional<pid_t> spawn(const Launch& launch) {
   std::vector<std::string> argumentTexts{launch.executable};
   argumentTexts.insert(argumentTexts.end(), launch.arguments.begin(), launch.arguments.end());
   const std::vector<char*> arguments = pointers(argumentTexts);
-  const std::vector<char*> variables = pointers(launch.environment.value_or(std::vector<std::string>{}));
+  const std::vector<char*> variables = launch.environment ? pointers(*launch.environment) : std::vector<char*>{};
   char* const* environment = launch.environment ? variables.data() : environ;
   pid_t process = 0;
   const int error = posix_spawn(&process, pathForChild(launch).c_str(), steps.get(), Attributes().get(),

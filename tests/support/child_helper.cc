@@ -53,7 +53,7 @@ void writeSignals() {
   for (int number = 1; number < SIGRTMIN; ++number) {
     struct sigaction action {};
     if (::sigaction(number, nullptr, &action) != 0) continue;
-    if (action.sa_handler != SIG_DFL || sigismember(&blocked, number) == 1) append(text, number);
+    if (action.sa_handler == SIG_IGN || sigismember(&blocked, number) == 1) append(text, number);
   }
   say(text);
 }
