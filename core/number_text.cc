@@ -25,8 +25,9 @@ NumberText::NumberText(const NumberSymbols& symbols, int least, int most, double
   isNegative_ = std::signbit(value);
   if (std::isfinite(value)) [[likely]] {
     layOut(least, most, std::abs(value));
+    separators_ = countSeparators();
     size_ = static_cast<std::size_t>(integerDigits_ + fractionDigits_) * symbols_.digitBytes +
-            static_cast<std::size_t>(separators()) * symbols_.groupSeparator.size() +
+            static_cast<std::size_t>(separators_) * symbols_.groupSeparator.size() +
             (fractionDigits_ > 0 ? symbols_.decimalSeparator.size() : 0);
   } else {
     word_ = std::isnan(value) ? &symbols_.notANumber : &symbols_.infinity;
@@ -101,57 +102,66 @@ void NumberText::roundExactly(int most, double magnitude) noexcept {
   }
 }
 
-int NumberText::separators() const noexcept {
+int NumberText::countSeparators() const noexcept {
   const int beyondFirst = integerDigits_ - symbols_.primaryGroup;
   if (symbols_.primaryGroup == 0 || beyondFirst < symbols_.minimumGroupDigits) return 0;
   return (beyondFirst - 1) / symbols_.secondaryGroup + 1;
 }
 
-// Writes so many digits, the last ones that are left, in front of `end`.
-char* NumberText::writeDigits(char* end, int count, std::uint64_t& rest, const char*& last) const noexcept {
-  if (digits_ == nullptr && symbols_.digitsAreAscii) [[likely]] {
-    for (; count > 0; --count, rest /= 10) *--end = static_cast<char>('0' + rest % 10);
-    return end;
+// Writes fraction and integer part in front of `p`, from the last digit to the first; `putDigit` puts the next one.
+template <class PutDigit>
+void NumberText::writeBackward(char* p, PutDigit putDigit) const noexcept {
+  for (int left = fractionDigits_; left > 0; --left) putDigit(p);
+  if (fractionDigits_ > 0) {
+    p -= symbols_.decimalSeparator.size();
+    putText(p, symbols_.decimalSeparator);
   }
-  for (; count > 0; --count) {
-    const std::uint64_t digit = digits_ != nullptr ? static_cast<std::uint64_t>(*--last - '0') : rest % 10;
-    rest /= 10;
-    end -= symbols_.digitBytes;
-    std::memcpy(end, symbols_.digits[digit].data(), symbols_.digitBytes);
-  }
-  return end;
-}
-
-char* NumberText::writeInteger(char* end, std::uint64_t rest, const char* last) const noexcept {
   int left = integerDigits_;
   int group = symbols_.primaryGroup;
-  for (int separator = separators(); separator > 0; --separator, group = symbols_.secondaryGroup) {
-    end = writeDigits(end, group, rest, last);
+  for (int separators = separators_; separators > 0; --separators, group = symbols_.secondaryGroup) {
+    for (int i = group; i > 0; --i) putDigit(p);
     left -= group;
-    end -= symbols_.groupSeparator.size();
-    putText(end, symbols_.groupSeparator);
+    p -= symbols_.groupSeparator.size();
+    putText(p, symbols_.groupSeparator);
   }
-  return writeDigits(end, left, rest, last);
+  for (; left > 0; --left) putDigit(p);
+}
+
+void NumberText::writeDigits(char* end) const noexcept {
+  const auto putSymbol = [this](char*& p, std::uint64_t digit) {
+    p -= symbols_.digitBytes;
+    std::memcpy(p, symbols_.digits[digit].data(), symbols_.digitBytes);
+  };
+  if (digits_ != nullptr) {
+    const char* next = digits_ + integerDigits_ + fractionDigits_;
+    writeBackward(end, [&](char*& p) { putSymbol(p, static_cast<std::uint64_t>(*--next - '0')); });
+  } else if (symbols_.digitsAreAscii) {
+    writeBackward(end, [rest = whole_](char*& p) mutable {
+      *--p = static_cast<char>('0' + rest % 10);
+      rest /= 10;
+    });
+  } else {
+    writeBackward(end, [&, rest = whole_](char*& p) mutable {
+      putSymbol(p, rest % 10);
+      rest /= 10;
+    });
+  }
 }
 
 char* NumberText::writeTo(char* to) const noexcept {
-  if (isNegative_) to = putText(to, symbols_.negativePrefix);
-  if (word_ != nullptr) {
-    to = putText(to, *word_);
-  } else {
-    char* const behind =
-        to + size_ - (isNegative_ ? symbols_.negativePrefix.size() + symbols_.negativeSuffix.size() : 0);
-    std::uint64_t rest = whole_;
-    const char* last = digits_ + integerDigits_ + fractionDigits_;
-    char* end = writeDigits(behind, fractionDigits_, rest, last);
-    if (fractionDigits_ > 0) {
-      end -= symbols_.decimalSeparator.size();
-      putText(end, symbols_.decimalSeparator);
-    }
-    writeInteger(end, rest, last);
-    to = behind;
+  char* const behind = to + size_;
+  char* end = behind;
+  if (isNegative_) {
+    to = putText(to, symbols_.negativePrefix);
+    end -= symbols_.negativeSuffix.size();
+    putText(end, symbols_.negativeSuffix);
   }
-  return isNegative_ ? putText(to, symbols_.negativeSuffix) : to;
+  if (word_ != nullptr) {
+    putText(to, *word_);
+  } else {
+    writeDigits(end);
+  }
+  return behind;
 }
 
 std::string NumberText::string() const {

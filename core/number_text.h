@@ -37,9 +37,10 @@ class NumberText {
   void layOut(int least, int most, double magnitude) noexcept;
   bool roundQuickly(int most, double magnitude) noexcept;
   void roundExactly(int most, double magnitude) noexcept;
-  [[nodiscard]] int separators() const noexcept;
-  char* writeDigits(char* end, int count, std::uint64_t& rest, const char*& last) const noexcept;
-  char* writeInteger(char* end, std::uint64_t rest, const char* last) const noexcept;
+  [[nodiscard]] int countSeparators() const noexcept;
+  void writeDigits(char* end) const noexcept;
+  template <class PutDigit>
+  void writeBackward(char* p, PutDigit putDigit) const noexcept;
 
   static constexpr int kMostIntegerDigits = 309;
 
@@ -48,6 +49,7 @@ class NumberText {
   const std::string* word_ = nullptr;  // what stands for the digits of a number that has none
   int integerDigits_ = 0;
   int fractionDigits_ = 0;
+  int separators_ = 0;
   std::size_t size_ = 0;
 
   // The digits, integer part and fraction together: a whole number when they were found quickly, else ASCII digits.
