@@ -43,7 +43,7 @@ void turningTheQueue(ChildProcess& child) {
 template <typename AwaitEnd>
 void expectNothingLeft(const char* how, AwaitEnd awaitEndOf) {
   constexpr int kLaunches = 5'000;
-  EXPECT_EQ(launchMany(1, awaitEndOf), 1) << "what is opened once and kept is open now";
+  g_main_context_default();  // opens a descriptor when it is first needed, and keeps it
   const std::ptrdiff_t before = openDescriptors();
   const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(launchMany(kLaunches, awaitEndOf), kLaunches);

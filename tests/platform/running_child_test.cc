@@ -29,10 +29,15 @@ TEST_F(RunningChildTest, IsRunningIsTrueToTheMomentWithoutATurnOfTheQueue) {
 }
 
 TEST_F(RunningChildTest, TheQueueNoticesTheEndByItself) {
-  const SharedChild child = helper({"exit", "5"});
+  const Pipe input;
+  const SharedChild child = make({
+      .executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "5"},
+           .standardInput = input
+  });
   std::vector<ExitStatus> endings;
   child->setTerminationHandler([&](const ExitStatus& status) { endings.push_back(status); });
   ASSERT_TRUE(child->launch());
+  input.writingEnd().close();  // it ends now, and not before the start has returned
   ASSERT_TRUE(awaitEnd(child->processIdentifier()));
   EXPECT_EQ(processState(child->processIdentifier()), "Z");
   queue_.turn();
@@ -163,8 +168,13 @@ TEST_F(RunningChildTest, AHostThatIgnoresSigchldLosesTheStatusButNotTheEnd) {
 }
 
 TEST_F(RunningChildTest, AHostThatTakesTheStatusItselfDoesNotHideTheEnd) {
-  const SharedChild child = helper({"exit", "6"});
+  const Pipe input;
+  const SharedChild child = make({
+      .executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "6"},
+           .standardInput = input
+  });
   ASSERT_TRUE(child->launch());
+  input.writingEnd().close();
   ASSERT_EQ(::waitpid(child->processIdentifier(), nullptr, 0), child->processIdentifier());
   EXPECT_FALSE(child->isRunning());
   EXPECT_EQ(child->exitStatus(), (ExitStatus{Reason::unknown, 0}));
