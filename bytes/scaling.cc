@@ -36,9 +36,8 @@ Reading scaled(const ByteFamily& family, Ladder ladder, Style style, const Dicti
   const Rung& rung = rungFor(ladder, base);
   const double value = rung.shown(base);
   const auto level = static_cast<std::size_t>(rung.level);
-  const auto row = static_cast<std::size_t>(family.index[static_cast<std::size_t>(style)][level]);
-  return {core::warmUnit(family.table, row), core::readDecimals(options.find(kDecimalsKeys[level]), value), value,
-          family.digits};
+  const auto unit = static_cast<std::size_t>(family.index[static_cast<std::size_t>(style)][level]);
+  return {&family, unit, core::readDecimals(options.find(kDecimalsKeys[level]), value), value};
 }
 
 Style wholeUnitStyle(const Dictionary& options) noexcept {

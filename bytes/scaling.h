@@ -2,6 +2,7 @@
 #ifndef KZM_BYTES_SCALING_H
 #define KZM_BYTES_SCALING_H
 
+#include <cstddef>
 #include <cstdint>
 
 #include <KZMUtilities/dictionary.h>
@@ -12,10 +13,10 @@ namespace kzm::bytes {
 
 /// What a family makes of a quantity: what its result Dictionary holds, without the Dictionary.
 struct Reading {
-  const core::Template* unit;  // null when a host's own table in the cache lacks the unit
+  const ByteFamily* family;
+  std::size_t unit;  // row of the family's table
   std::int64_t decimals;
   double value;
-  core::DigitRule digits;  // how `decimals` are meant
 };
 
 /// Walks the ladder, then the decimals rules under the key of the level reached, and takes the unit by level and style.

@@ -47,9 +47,19 @@ const NumberFormatter& warmFormatter(DigitRule rule, std::int64_t digits) {
 }
 
 const Template* warmUnit(const UnitTable& table, std::size_t row) {
-  auto& slot = warm().tables[static_cast<std::size_t>(table.family)];
-  if (slot == nullptr) slot = std::make_unique<const UnitTexts>(unitTexts(table));
-  const std::optional<Template>& text = (*slot)[row];
+  const auto family = static_cast<std::size_t>(table.family);
+  const UnitTexts* texts = warm().tables[family].get();
+  if (texts == nullptr) [[unlikely]] {
+    // Looking texts up may lead through a host's own library and back here, and the cache may change meanwhile: what
+    // was made is kept under the count that it was made for.
+    const std::uint64_t epoch = cacheEpoch();
+    auto made = std::make_unique<const UnitTexts>(unitTexts(table));
+    texts = made.get();
+    Warm& held = port::perThread<Warm>();
+    held.epoch = epoch;
+    held.tables[family] = std::move(made);
+  }
+  const std::optional<Template>& text = (*texts)[row];
   return text.has_value() ? &*text : nullptr;
 }
 

@@ -47,28 +47,18 @@ class Value {
   Value(std::string_view text) : data_(std::string(text)) {}
   Value(std::string text) noexcept : data_(std::move(text)) {}
   Value(Array elements) : data_(std::make_shared<const Array>(std::move(elements))) {}
-  Value(std::shared_ptr<const Array> elements) noexcept { adopt(std::move(elements)); }
+  Value(std::shared_ptr<const Array> elements) noexcept : data_(held(std::move(elements))) {}
   Value(const Dictionary& members);
   Value(Dictionary&& members);
-  Value(std::shared_ptr<const Dictionary> members) noexcept { adopt(std::move(members)); }
+  Value(std::shared_ptr<const Dictionary> members) noexcept : data_(held(std::move(members))) {}
 
   /// Any other shared pointer is an opaque object; a null pointer of any kind is the null Value.
   template <std::derived_from<Object> T>
-  Value(std::shared_ptr<T> object) noexcept {
-    adopt(std::shared_ptr<const Object>(std::move(object)));
-  }
+  Value(std::shared_ptr<T> object) noexcept : data_(held(std::shared_ptr<const Object>(std::move(object)))) {}
 
   /// A boolean or an integer. Unsigned integers above the signed 64-bit range are held as doubles.
   template <std::integral T>
-  Value(T number) noexcept {
-    if constexpr (std::same_as<T, bool>) {
-      data_ = number;
-    } else if (std::in_range<std::int64_t>(number)) {
-      data_ = static_cast<std::int64_t>(number);
-    } else {
-      data_ = static_cast<double>(number);
-    }
-  }
+  Value(T number) noexcept : data_(held(number)) {}
 
   [[nodiscard]] bool isNull() const noexcept { return std::holds_alternative<std::monostate>(data_); }
 
@@ -89,9 +79,21 @@ class Value {
   friend bool operator==(const Value& a, const Value& b);
 
  private:
+  using Data = std::variant<std::monostate, bool, std::int64_t, double, std::string, std::shared_ptr<const Array>,
+                            std::shared_ptr<const Dictionary>, std::shared_ptr<const Object>>;
+
+  template <std::integral T>
+  [[nodiscard]] static Data held(T number) noexcept {
+    if constexpr (std::same_as<T, bool>) {
+      return number;
+    } else {
+      return std::in_range<std::int64_t>(number) ? Data(static_cast<std::int64_t>(number))
+                                                 : Data(static_cast<double>(number));
+    }
+  }
   template <class T>
-  void adopt(std::shared_ptr<const T> pointer) noexcept {
-    if (pointer != nullptr) data_ = std::move(pointer);
+  [[nodiscard]] static Data held(std::shared_ptr<const T> pointer) noexcept {
+    return pointer != nullptr ? Data(std::move(pointer)) : Data();
   }
   template <class T>
   [[nodiscard]] const T* shared() const noexcept {
@@ -104,9 +106,7 @@ class Value {
     return pointer != nullptr ? *pointer : nullptr;
   }
 
-  std::variant<std::monostate, bool, std::int64_t, double, std::string, std::shared_ptr<const Array>,
-               std::shared_ptr<const Dictionary>, std::shared_ptr<const Object>>
-      data_;
+  Data data_;
 };
 
 }  // namespace kzm
