@@ -1,0 +1,27 @@
+// Network and disk activity as rows of the panel.
+#ifndef KZM_EXAMPLES_PANEL_ACTIVITY_H
+#define KZM_EXAMPLES_PANEL_ACTIVITY_H
+
+#include <vector>
+
+#include "cli/machine/files.h"
+#include "cli/machine/rates.h"
+#include "row.h"
+
+namespace kzm::panel {
+
+/// What only means something beside a second reading.
+struct ActivitySamples {
+  machine::Sample network;  // without what the machine tells itself
+  machine::Sample disks;
+};
+
+[[nodiscard]] ActivitySamples readActivity(const machine::Root& root);
+
+/// The rates between two readings, all interfaces and all disks together, as meters; beside each what it came to since
+/// the machine started.
+[[nodiscard]] std::vector<Row> activityRows(const ActivitySamples& earlier, const ActivitySamples& later);
+
+}  // namespace kzm::panel
+
+#endif

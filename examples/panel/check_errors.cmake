@@ -1,0 +1,15 @@
+# What the panel cannot do, it says in one line, and its exit code tells why: PANEL says what is run.
+function(expect code line)
+  execute_process(COMMAND ${PANEL} ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE error)
+  if(NOT result EQUAL ${code} OR NOT output STREQUAL "" OR NOT error MATCHES "^panel: ${line}[^\n]*\n$")
+    message(FATAL_ERROR "${ARGN}: exit code ${result}, output: ${output}, error: ${error}")
+  endif()
+endfunction()
+
+expect(2 "\"--colour\"" --colour blue)
+expect(2 "\"--locale\"" --locale)
+expect(2 "\"--output\"" --output "")
+foreach(scale two 2x 0 0.4 8.1 nan inf -1 "")
+  expect(2 "\"--scale\"" --scale "${scale}")
+endforeach()
+expect(1 "cannot write \"/no/such/folder/panel.png\"" --output /no/such/folder/panel.png)

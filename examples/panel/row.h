@@ -1,0 +1,45 @@
+// What the panel shows, as data.
+#ifndef KZM_EXAMPLES_PANEL_ROW_H
+#define KZM_EXAMPLES_PANEL_ROW_H
+
+#include <utility>
+#include <vector>
+
+#include <KZMUtilities/attributed_string.h>
+#include <KZMUtilities/drawing.h>
+
+#include "icons.h"
+
+namespace kzm::panel {
+
+/// One reading: an icon, a text, one more at the far end, and bars side by side, each filled from 0 to 1.
+struct Row {
+  Icon icon = Icon::load;
+  Color color;
+  AttributedString value;
+  AttributedString detail;
+  std::vector<double> levels;
+};
+
+/// A row without detail and bars. All rows share saturation and brightness, so that none stands out.
+[[nodiscard]] inline Row rowOf(Icon icon, double hue, AttributedString value) {
+  return {icon, Color::fromHSBA(hue, 0.52, 0.90, 1.0), std::move(value), {}, {}};
+}
+
+/// The clock, the day, and the hours of it that have passed, as bars.
+struct Heading {
+  AttributedString clock;
+  AttributedString day;
+  std::vector<double> hours;
+};
+
+/// So many bars that show one part of a whole, 0 to 1: full ones, then one in part, then empty ones.
+[[nodiscard]] inline std::vector<double> segments(double part, int count) {
+  std::vector<double> levels;
+  for (int i = 0; i < count; ++i) levels.push_back(part * count - i);
+  return levels;
+}
+
+}  // namespace kzm::panel
+
+#endif
