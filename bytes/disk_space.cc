@@ -2,30 +2,10 @@
 
 #include "bytes/rendering.h"
 #include "bytes/scaling.h"
+#include "bytes/size_units.h"
 
 namespace kzm::bytes {
 namespace {
-
-//   level        style          template  translator's hint
-constexpr ByteUnit kUnits[] = {
-    {Level::peta, Style::brief,  "%@P",   "petabyte"},
-    {Level::tera, Style::brief,  "%@T",   "terabyte"},
-    {Level::giga, Style::brief,  "%@G",   "gigabyte"},
-    {Level::mega, Style::brief,  "%@M",   "megabyte"},
-    {Level::kilo, Style::brief,  "%@K",   "kilobyte"},
-    {Level::peta, Style::spaced, "%@ PB", nullptr   },
-    {Level::tera, Style::spaced, "%@ TB", nullptr   },
-    {Level::giga, Style::spaced, "%@ GB", nullptr   },
-    {Level::mega, Style::spaced, "%@ MB", nullptr   },
-    {Level::kilo, Style::spaced, "%@ KB", nullptr   },
-    {Level::peta, Style::tight,  "%@PB",  nullptr   },
-    {Level::tera, Style::tight,  "%@TB",  nullptr   },
-    {Level::giga, Style::tight,  "%@GB",  nullptr   },
-    {Level::mega, Style::tight,  "%@MB",  nullptr   },
-    {Level::kilo, Style::tight,  "%@KB",  nullptr   },
-};
-constexpr auto kRows = core::unitRows(kUnits);
-static_assert(core::wellFormed(kRows));
 
 // Deliberate: the first three tests reach their threshold, the tera test does not: 10^12 bytes stay 1000 giga, 10^15
 // bytes move up to peta. The peta divisor is 10^12 as single precision holds it, so petabytes come out 4 in 10^9 large.
@@ -41,8 +21,8 @@ constexpr Rung kLadder[] = {
 static_assert(wellFormed(kLadder));
 
 constexpr ByteFamily kDiskSpace{
-    .table = {core::UnitFamily::diskSpace, kRows},
-    .index = unitIndex(kUnits),
+    .table = {core::UnitFamily::diskSpace, kSizeRows},
+    .index = kSizeIndex,
     .toBase = over(1000.0),
     .digits = core::DigitRule::atMost
 };

@@ -2,30 +2,10 @@
 
 #include "bytes/rendering.h"
 #include "bytes/scaling.h"
+#include "bytes/size_units.h"
 
 namespace kzm::bytes {
 namespace {
-
-//   level        style          template  translator's hint
-constexpr ByteUnit kUnits[] = {
-    {Level::peta, Style::brief,  "%@P",   "petabyte"},
-    {Level::tera, Style::brief,  "%@T",   "terabyte"},
-    {Level::giga, Style::brief,  "%@G",   "gigabyte"},
-    {Level::mega, Style::brief,  "%@M",   "megabyte"},
-    {Level::kilo, Style::brief,  "%@K",   "kilobyte"},
-    {Level::peta, Style::spaced, "%@ PB", nullptr   },
-    {Level::tera, Style::spaced, "%@ TB", nullptr   },
-    {Level::giga, Style::spaced, "%@ GB", nullptr   },
-    {Level::mega, Style::spaced, "%@ MB", nullptr   },
-    {Level::kilo, Style::spaced, "%@ KB", nullptr   },
-    {Level::peta, Style::tight,  "%@PB",  nullptr   },
-    {Level::tera, Style::tight,  "%@TB",  nullptr   },
-    {Level::giga, Style::tight,  "%@GB",  nullptr   },
-    {Level::mega, Style::tight,  "%@MB",  nullptr   },
-    {Level::kilo, Style::tight,  "%@KB",  nullptr   },
-};
-constexpr auto kRows = core::unitRows(kUnits);
-static_assert(core::wellFormed(kRows));
 
 // Deliberate: 1024 KB stays KB (at most), but 1024 MB is already 1 GB (below). NaN ends in peta.
 //   level        taken when       kilobytes        shown as
@@ -39,8 +19,8 @@ constexpr Rung kLadder[] = {
 static_assert(wellFormed(kLadder));
 
 constexpr ByteFamily kMemory{
-    .table = {core::UnitFamily::memory, kRows},
-    .index = unitIndex(kUnits),
+    .table = {core::UnitFamily::memory, kSizeRows},
+    .index = kSizeIndex,
     .toBase = times(0x1p-10),
     .digits = core::DigitRule::exactly
 };
