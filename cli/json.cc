@@ -18,9 +18,10 @@ class JsonAttributes final : public Object {
  public:
   explicit JsonAttributes(Json json) : json_(std::move(json)) {}
   [[nodiscard]] const Json& json() const { return json_; }
+  // By their texts: 1 and 1.0 are different attributes, and so are integers that only a double would take for equal.
   [[nodiscard]] bool equals(const Object& other) const override {
     const auto* attributes = dynamic_cast<const JsonAttributes*>(&other);
-    return attributes != nullptr && attributes->json_ == json_;
+    return attributes != nullptr && jsonText(attributes->json_) == jsonText(json_);
   }
 
  private:

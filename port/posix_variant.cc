@@ -23,8 +23,9 @@ bool isWellFormed(std::string_view identifier) {
 bool takesPosixVariant(const std::string& identifier) {
   if (!isWellFormed(identifier)) return false;
   const icu::Locale locale((identifier + "_POSIX").c_str());
+  if (locale.isBogus()) return false;  // an over-long language; such a locale must not be asked for anything
   const std::string variants = std::string("_") + locale.getVariant() + "_";
-  return !locale.isBogus() && variants.find("_POSIX_") != std::string::npos;
+  return variants.find("_POSIX_") != std::string::npos;
 }
 
 }  // namespace kzm::port

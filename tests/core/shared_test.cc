@@ -194,6 +194,9 @@ TEST_F(SharedState, PosixLocalesAreMadeOnce) {
       {"ar_EG@numbers=latn",      "ar_EG@numbers=latn",      false},
       {"not a locale",            "not a locale",            false},
       {"../../etc",               "../../etc",               false},
+      {"abcdefghijk",             "abcdefghijk_POSIX",       true },
+      {"abcdefghijkl",            "abcdefghijkl",            false},
+      {"abcdefghijkl_DE",         "abcdefghijkl_DE",         false},
   };
   for (const Case& c : cases) {
     const auto locale = std::make_shared<const Locale>(c.identifier);
