@@ -1,7 +1,10 @@
 // kzmutil: the library's command-line companion.
 #include <csignal>
+#include <cstdio>
 #include <exception>
 #include <iostream>
+#include <poll.h>
+#include <unistd.h>
 #include <vector>
 
 #include "cli/errors.h"
@@ -47,6 +50,23 @@ int run(Words words) {
   throw InputError("no verb is named \"" + std::string(words.front()) + "\"; `kzmutil --help` lists them");
 }
 
+// Whether the other end of standard output has closed it, as `head` does when it has seen enough.
+bool readerHasGone() {
+  pollfd output{STDOUT_FILENO, POLLOUT, 0};
+  return poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0;
+}
+
+// Input that ended in an error and output that was lost are told, and are a failure whatever the verb thought of it.
+int withStreams(int status) {
+  if (std::ferror(stdin) != 0) {
+    std::cerr << "kzmutil: standard input could not be read\n";
+    return 1;
+  }
+  if (std::cout.flush()) return status;
+  if (!readerHasGone()) std::cerr << "kzmutil: standard output could not be written\n";
+  return 1;
+}
+
 }  // namespace
 }  // namespace kzm::cli
 
@@ -54,7 +74,7 @@ int main(int count, char** arguments) {
   std::signal(SIGPIPE, SIG_IGN);  // a reader that has gone is a failed write, not the end of the program
   const std::vector<std::string_view> words(arguments + 1, arguments + count);
   try {
-    return kzm::cli::run(words);
+    return kzm::cli::withStreams(kzm::cli::run(words));
   } catch (const kzm::cli::InputError& error) {
     std::cerr << "kzmutil: " << error.what() << '\n';
     return 2;

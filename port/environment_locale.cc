@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
+#include <set>
 #include <unicode/locid.h>
-#include <unicode/ures.h>
+#include <unicode/uenum.h>
+#include <unicode/uloc.h>
 
 namespace kzm::port {
 namespace {
@@ -71,12 +74,22 @@ std::string canonicalName(const std::string& name) {
   return locale.isBogus() || *locale.getLanguage() == '\0' ? std::string() : locale.getName();
 }
 
-bool isLanguageKnown(const std::string& identifier) {
+std::set<std::string, std::less<>> availableLanguages() {
   UErrorCode status = U_ZERO_ERROR;
-  // Opened without any fallback: with it, every name would be found, in the data of the process's own locale.
-  UResourceBundle* data = ures_openDirect(nullptr, canonical(identifier).getLanguage(), &status);
-  ures_close(data);
-  return U_SUCCESS(status);
+  UEnumeration* names = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
+  std::set<std::string, std::less<>> languages;
+  while (const char* name = uenum_next(names, nullptr, &status)) {
+    languages.emplace(name, std::strcspn(name, "_"));
+  }
+  uenum_close(names);
+  return languages;
+}
+
+// Asked of ICU's list, not by opening the language's data: with fallback every name would be found, in the data of the
+// process's own locale; without it ICU would keep a bundle that has lost its parents ("nb" that of "no") for everybody.
+bool isLanguageKnown(const std::string& identifier) {
+  static const std::set<std::string, std::less<>>& known = *new auto(availableLanguages());
+  return known.contains(canonical(identifier).getLanguage());
 }
 
 /// No locale at all, which is what gettext too takes as a wish for untranslated texts.

@@ -49,9 +49,10 @@ int printHelp() {
 
 int callOnce(Words words, bool asJson) {
   if (words.empty()) throw InputError("call: a name is missing; `kzmutil list` shows them");
+  const Callable& callable = callableNamed(words.front(), words.size() - 1);
   Json arguments = Json::array();
   for (const std::string_view word : words.subspan(1)) arguments.push_back(parseJson(word));
-  const Result result = callByName(words.front(), arguments);
+  const Result result = callable.call(arguments);
   std::cout << (result.text.has_value() && !asJson ? *result.text : result.json) << '\n';
   return std::cout.flush() ? 0 : 1;
 }
@@ -72,7 +73,7 @@ Result answerTo(const Json& line) {
   if (!name.is_string()) throw InputError("\"call\" must be a name");
   const Json& arguments = member(line, "args");
   if (!arguments.is_null() && !arguments.is_array()) throw InputError("\"args\" must be an array");
-  return callByName(name.get_ref<const std::string&>(), arguments.is_null() ? Json::array() : arguments);
+  return callableNamed(name.get_ref<const std::string&>(), arguments.size()).call(arguments);
 }
 
 std::string answerLine(std::string_view text) {

@@ -140,15 +140,14 @@ const Callable kCallables[] = {
 
 std::span<const Callable> callables() { return kCallables; }
 
-Result callByName(std::string_view name, const Json& arguments) {
+const Callable& callableNamed(std::string_view name, std::size_t arguments) {
   const auto callable = std::find_if(std::begin(kCallables), std::end(kCallables),
                                      [name](const Callable& candidate) { return candidate.name == name; });
   if (callable == std::end(kCallables)) throw InputError("no function is named \"" + std::string(name) + "\"");
-  if (arguments.size() != callable->kinds.size()) {
-    throw InputError("wrong number of arguments (" + std::to_string(arguments.size()) + ") for " +
-                     described(*callable));
+  if (arguments != callable->kinds.size()) {
+    throw InputError("wrong number of arguments (" + std::to_string(arguments) + ") for " + described(*callable));
   }
-  return callable->call(arguments);
+  return *callable;
 }
 
 std::string described(const Callable& callable) {

@@ -21,8 +21,8 @@ struct Callable {
 /// Every callable, in the order of the library's families.
 [[nodiscard]] std::span<const Callable> callables();
 
-/// Calls by name. Unknown names, wrong counts and wrong types are an InputError that says which.
-[[nodiscard]] Result callByName(std::string_view name, const Json& arguments);
+/// The callable of that name which takes so many arguments. Unknown names and wrong counts are an InputError.
+[[nodiscard]] const Callable& callableNamed(std::string_view name, std::size_t arguments);
 
 /// The callable as `list` shows it: its name, then "parameter:kind" for each parameter.
 [[nodiscard]] std::string described(const Callable& callable);

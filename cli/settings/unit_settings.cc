@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <utility>
 
 #include <KZMSettings/KZMSettings.h>
 
@@ -35,6 +36,15 @@ bool isSame(std::string_view a, std::string_view b) {
 
 std::int64_t codes(const UnitSetting& setting) { return std::ssize(setting.meanings) + 1; }
 
+// The setting's unit in a region that prefers the one given for everything.
+MeasurementUnit unitInRegionOf(const UnitSetting& setting, MeasurementUnit preferred) {
+  Units region;
+  PreferredUnits units = region.units();
+  for (auto& [key, unit] : units) unit = preferred;
+  region.setUnits(std::move(units));
+  return (region.*setting.unit)();
+}
+
 }  // namespace
 
 std::span<const UnitSetting> unitSettings() { return kSettings; }
@@ -63,12 +73,11 @@ std::string_view meaningOf(const UnitSetting& setting, std::int64_t code) {
   return code == kRegionsChoice ? "region" : measurementUnitName(setting.meanings[static_cast<std::size_t>(code - 1)]);
 }
 
-// Whatever is stored in place of a plain code, the library alone knows how it reads it: the unit in force tells.
 std::int64_t codeInForce(const UnitSetting& setting) {
-  const Value stored = KZMSettingsObjectForKeyPath(setting.keyPath);
-  if (stored.isNull()) return kRegionsChoice;
-  if (const std::int64_t* code = stored.integer()) return *code > 0 && *code < codes(setting) ? *code : kRegionsChoice;
-  const MeasurementUnit unit = (Units::shared().*setting.unit)();
+  // Whatever is stored, the library alone knows how it reads it. Where the answer depends on what the region prefers,
+  // the region decides.
+  const MeasurementUnit unit = unitInRegionOf(setting, MeasurementUnit::knots);
+  if (unit != unitInRegionOf(setting, MeasurementUnit::kelvin)) return kRegionsChoice;
   return std::find(setting.meanings.begin(), setting.meanings.end(), unit) - setting.meanings.begin() + 1;
 }
 

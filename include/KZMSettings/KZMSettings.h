@@ -5,8 +5,8 @@
 // user's configuration directory (XDG_CONFIG_HOME, else ~/.config). A missing, broken or unreadable file means that
 // there are no settings; a broken or unreadable one is told in one line of the log.
 //
-// Every function may be called from any thread at any time, also while a thread or the process ends. A read takes no lock
-// unless the settings changed since the thread's last one, and reading a number does not allocate.
+// Every function may be called from any thread at any time, also while a thread or the process ends. A read takes no
+// lock unless the settings changed since the thread's last one, and reading a number does not allocate.
 #ifndef KZMSETTINGS_H
 #define KZMSETTINGS_H
 

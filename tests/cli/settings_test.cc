@@ -67,6 +67,9 @@ TEST(Settings, WhatAnotherProgramStoredIsReadAsTheLibraryReadsIt) {
       {"0",             "0 region\n"      },
       {"4",             "0 region\n"      },
       {"-1",            "0 region\n"      },
+      {"\"x\"",         "0 region\n"      },
+      {"[1]",           "0 region\n"      },
+      {"1e300",         "0 region\n"      },
       {"1000000000000", "0 region\n"      },
   };
   for (const Case& c : cases) {

@@ -10,6 +10,8 @@
 #include <string>
 #include <unicode/numberformatter.h>
 
+#include "port/environment_locale.h"
+
 namespace kzm::core {
 namespace {
 
@@ -222,6 +224,19 @@ TEST(NumberText, EqualsTheReferenceAroundTies) {
       ASSERT_EQ(text("en_US", 0, 3, value), reference.text(value)) << value;
     }
   }
+}
+
+// Asking whether a language is known must not harm what is known of it: Norwegian has its numbers from a parent.
+TEST(NumberText, EveryLocaleLooksAsItsDataSayAfterItsNameWasRead) {
+  int32_t count = 0;
+  const icu::Locale* locales = icu::Locale::getAvailableLocales(count);
+  ASSERT_GT(count, 500);
+  for (int32_t i = 0; i < count; ++i) {
+    const std::string name = port::usableLocale(locales[i].getName());
+    ASSERT_EQ(text(name, 2, 2, -1234567.891), Reference(name.c_str(), 2, 2).text(-1234567.891)) << name;
+  }
+  EXPECT_EQ(text(port::usableLocale("nb_NO.UTF-8"), 0, 2, -1234.5), "\u22121\u00a0234,5");
+  EXPECT_EQ(text(port::usableLocale("nn_NO.UTF-8"), 0, 2, -1234.5), "\u22121\u00a0234,5");
 }
 
 }  // namespace
