@@ -66,7 +66,7 @@ class Dictionary {
   }
 
   /// The Value under the key, or null. A key is present also when its Value is null.
-  [[nodiscard]] const Value* find(const Key& key) const noexcept {
+  [[nodiscard, gnu::always_inline]] const Value* find(const Key& key) const noexcept {
     const std::size_t slot = slots_[key.hash() % kSlots];
     if (slot == kFree) return nullptr;
     if (slot < kBeyond && isAt(slot - 1, key)) [[likely]]
@@ -139,7 +139,7 @@ class Dictionary {
     return entry.hash == key.hash() && sameText(entry.key, key.text());
   }
 
-  [[nodiscard]] std::size_t positionOf(const Key& key) const noexcept {
+  [[nodiscard, gnu::noinline]] std::size_t positionOf(const Key& key) const noexcept {
     if (entries_.size() > kScanned) return positionFromIndex(key);
     std::size_t position = 0;
     while (position < entries_.size() && !isAt(position, key)) ++position;
