@@ -9,22 +9,18 @@ int main(int count, char** arguments) {
   const kzm::Image icon(kzm::Size{16, 16}, 2.0);
   {
     const kzm::Image::Focus focus(icon);
-    kzm::barGraphWithRectFill(
-        {
-            {2,  2 },
-            {12, 12}
-    },
-        kzm::Color());
+    const kzm::Point corner{2, 2};
+    const kzm::Size size{12, 12};
+    kzm::barGraphWithRectFill({corner, size}, kzm::Color());
   }
   const kzm::Image picture(kzm::Size{120, 48}, 2.0);
   {
     const kzm::Image::Focus focus(picture);
     double x = 8.0;
     for (const double load : {0.2, 0.45, 0.9, 0.7, 0.35, 0.6}) {
-      const kzm::Rect bar{
-          .origin = {x, 40.0 - 32.0 * load},
-            .size = {8, 32.0 * load       }
-      };
+      const kzm::Point corner{x, 40.0 - 32.0 * load};
+      const kzm::Size size{8.0, 32.0 * load};
+      const kzm::Rect bar{corner, size};
       kzm::barGraphWithRectFill(bar, blue);
       kzm::barGraphWithRectBorder(bar, blue.multiplyBrightness(0.6F));
       x += 12.0;

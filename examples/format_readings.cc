@@ -6,9 +6,11 @@
 
 int main() {
   kzm::setCurrentLocale("en_001");
-  const kzm::Array rules{
-      kzm::Dictionary{{"value", 100}, {"decimals", 1}}
-  };  // below a hundred: one digit
+  const kzm::Dictionary oneDigitBelowHundred{
+      {"value",    100},
+      {"decimals", 1  }
+  };
+  const kzm::Array rules{oneDigitBelowHundred};
   const kzm::Dictionary network{
       {"bandwidthformat", 2    },
       {"space",           true },
@@ -23,14 +25,12 @@ int main() {
       {"space", true}
   };
 
+  const kzm::Dictionary disk{
+      {"space", true}
+  };
   std::cout << KZMUtilitiesFormatBandwidth(network, 1500000.0) << " | "
-            << KZMUtilitiesFormatDiskActivity(
-                   {
-                       {"space", true}
-  },
-                   3145728.0)
-            << " | " << KZMUtilitiesFormatSpace(size, 250e9) << " | " << KZMUtilitiesFormatMemory(size, 8.4e9) << " | "
-            << KZMUtilitiesFormatPercentage({}, 42.0) << " | "
+            << KZMUtilitiesFormatDiskActivity(disk, 3145728.0) << " | " << KZMUtilitiesFormatSpace(size, 250e9) << " | "
+            << KZMUtilitiesFormatMemory(size, 8.4e9) << " | " << KZMUtilitiesFormatPercentage({}, 42.0) << " | "
             << KZMUtilitiesFormatSensor(kzm::SensorType::temperature, sensor, 48.25) << " | "
             << KZMUtilitiesFormatSensor(kzm::SensorType::fan, sensor, 1200.0) << '\n';
 }

@@ -211,6 +211,45 @@ TEST_F(SharedState, PosixLocalesAreMadeOnce) {
   EXPECT_EQ(KZMUtilitiesPosixLocale(std::make_shared<const Locale>(huge))->identifier(), huge);
 }
 
+TEST_F(SharedState, ALocaleChosenByTheHostIsThatOfFormattersMadeFromThenOn) {
+  EXPECT_EQ(currentLocale(), "en_US");
+  const auto before = KZMUtilitiesDecimalFormatterWithMaximum(1);
+  setCurrentLocale("de_DE.UTF-8");
+  EXPECT_EQ(currentLocale(), "de_DE");
+  EXPECT_EQ(before->string(1234.5), "1,234.5");
+  EXPECT_EQ(KZMUtilitiesFormatNumber(
+                {
+                    {"decimals", 1}
+  },
+                1234.5),
+            "1,234.5")
+      << "made in the former locale";
+  EXPECT_EQ(KZMUtilitiesFormatNumber(
+                {
+                    {"decimals", 2}
+  },
+                1234.5),
+            "1.234,5");
+  setCurrentLocale("nonsense!");
+  EXPECT_EQ(currentLocale(), "en_001");
+  setCurrentLocale("en_US");
+}
+
+TEST_F(SharedState, AnEntryIsMadeOnlyWhenNoneIsAccepted) {
+  Cache entries;
+  entries.set("key", 1);
+  const auto isInteger = [](const Value& value) { return value.integer() != nullptr; };
+  const auto isText = [](const Value& value) { return value.string() != nullptr; };
+  EXPECT_EQ(entries.findOrMake("key", isInteger, [] { return Value(2); }), Value(1));
+  EXPECT_EQ(entries.findOrMake("key", isText, [] { return Value("made"); }), Value("made"));
+  EXPECT_EQ(entries.find("key"), Value("made"));
+  EXPECT_EQ(entries.findOrMake("other", isText, [] { return Value(); }), Value());
+  EXPECT_EQ(entries.size(), 1U) << "what could not be made is not stored";
+  EXPECT_EQ(entries.entries(), (Dictionary{
+                                   {"key", "made"}
+  }));
+}
+
 TEST_F(SharedState, TheCacheNeverShrinks) {
   std::size_t size = 0;
   for (int digits = -3; digits < 40; ++digits) {
