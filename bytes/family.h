@@ -66,7 +66,7 @@ struct ByteUnit {
 };
 
 /// The position of each unit in its table, by style and level; -1 where there is none.
-using UnitIndex = std::array<std::array<std::int8_t, kLevels>, kStyles>;
+using UnitIndex = std::array<std::array<std::int16_t, kLevels>, kStyles>;
 
 consteval UnitIndex unitIndex(std::span<const ByteUnit> units) {
   UnitIndex index;
@@ -74,7 +74,7 @@ consteval UnitIndex unitIndex(std::span<const ByteUnit> units) {
   for (std::size_t i = 0; i < units.size(); ++i) {
     auto& position = index[static_cast<std::size_t>(units[i].style)][static_cast<std::size_t>(units[i].level)];
     if (position >= 0) throw "two units for one level and style";
-    position = static_cast<std::int8_t>(i);
+    position = static_cast<std::int16_t>(i);
   }
   for (const auto& levels : index) {
     for (std::size_t level = 0; level < kLevels; ++level) {

@@ -5,7 +5,7 @@
 
 kzm::Locale::~Locale() = default;
 
-std::shared_ptr<const kzm::Locale> KZMUtilitiesPosixLocale(std::shared_ptr<const kzm::Locale> locale) {
+std::shared_ptr<const kzm::Locale> KZMUtilitiesPosixLocale(const std::shared_ptr<const kzm::Locale>& locale) {
   if (locale == nullptr) return nullptr;
   const std::string& identifier = locale->identifier();
   const auto make = [&]() -> std::shared_ptr<const kzm::Locale> {

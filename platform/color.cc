@@ -28,10 +28,11 @@ double hueOf(double red, double green, double blue, double range) {
   if (range <= 0.0) return 0.0;
   const double greatest = std::max({red, green, blue});
   double sectors = 4.0 + (red - green) / range;
-  if (greatest == red)
+  if (greatest == red) {
     sectors = (green - blue) / range;
-  else if (greatest == green)
+  } else if (greatest == green) {
     sectors = 2.0 + (blue - red) / range;
+  }
   return (sectors < 0.0 ? sectors + kSectors : sectors) / kSectors;
 }
 

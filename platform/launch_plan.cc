@@ -38,7 +38,7 @@ bool isName(const std::string& name) { return !name.empty() && name.find('=') ==
 std::vector<std::string> assignments(const std::map<std::string, std::string>& variables) {
   std::vector<std::string> result;
   result.reserve(variables.size());
-  for (const auto& [name, value] : variables) result.push_back(name + '=' + value);
+  for (const auto& [name, value] : variables) result.emplace_back(name).append("=").append(value);
   return result;
 }
 

@@ -99,7 +99,7 @@ KZM_EXPORT void setCurrentLocale(std::string_view identifier);
 ///
 /// Example:  KZMUtilitiesPosixLocale(std::make_shared<kzm::Locale>("de_CH"))->identifier()  // "de_CH_POSIX"
 [[nodiscard]] KZM_EXPORT std::shared_ptr<const kzm::Locale> KZMUtilitiesPosixLocale(
-    std::shared_ptr<const kzm::Locale> locale);
+    const std::shared_ptr<const kzm::Locale>& locale);
 
 /// The number alone, as text.
 ///
