@@ -6,6 +6,7 @@
 #include <KZMLocalization/KZMLocalization.h>
 #include <KZMUtilities/resources.h>
 
+#include "core/rows.h"
 #include "core/shared.h"
 
 namespace kzm::core {
@@ -28,13 +29,7 @@ constexpr Family kFamilies[kUnitFamilies] = {
 
 constexpr const Family& familyOf(UnitFamily family) { return kFamilies[static_cast<std::size_t>(family)]; }
 
-static_assert([] {
-  std::size_t position = 0;
-  for (const Family& row : kFamilies) {
-    if (static_cast<std::size_t>(row.family) != position++) return false;
-  }
-  return true;
-}());
+static_assert(standInOrder(kFamilies, &Family::family));
 
 }  // namespace
 

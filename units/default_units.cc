@@ -8,6 +8,7 @@
 #include <KZMUtilities/default_units.h>
 
 #include "core/reading.h"
+#include "core/rows.h"
 #include "port/current_locale.h"
 #include "port/measurement_locale.h"
 #include "units/locale_units.h"
@@ -56,13 +57,7 @@ constexpr Choice kChoices[] = {
     {Question::rain,               "Weather.Global.Units.Precipitation", kRains,        Quantity::rain       },
     {Question::snow,               "Weather.Global.Units.Precipitation", kSnows,        Quantity::snow       },
 };
-static_assert([] {
-  std::size_t position = 0;
-  for (const Choice& row : kChoices) {
-    if (static_cast<std::size_t>(row.question) != position++) return false;
-  }
-  return true;
-}());
+static_assert(core::standInOrder(kChoices, &Choice::question));
 
 using Preferred = std::array<std::atomic<Unit>, kQuantities>;
 

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <iterator>
 
+#include "core/rows.h"
+
 namespace kzm {
 namespace units {
 namespace {
@@ -34,13 +36,7 @@ constexpr UnitFacts kFacts[] = {
 };
 
 // Each unit's row stands at the unit's own number.
-static_assert([] {
-  std::size_t position = 0;
-  for (const UnitFacts& row : kFacts) {
-    if (static_cast<std::size_t>(row.unit) != position++) return false;
-  }
-  return true;
-}());
+static_assert(core::standInOrder(kFacts, &UnitFacts::unit));
 
 // A number that is no unit has no facts.
 constexpr UnitFacts factsOf(MeasurementUnit unit) noexcept {

@@ -6,6 +6,7 @@
 
 #include <KZMUtilities/formatters.h>
 
+#include "core/rows.h"
 #include "core/unit_table.h"
 
 namespace kzm::weather {
@@ -52,13 +53,7 @@ constexpr TextRow kTexts[] = {
     {Text::percent,                 "%@%%",       nullptr },
 };
 
-static_assert([] {
-  std::size_t position = 0;
-  for (const TextRow& row : kTexts) {
-    if (static_cast<std::size_t>(row.text) != position++) return false;
-  }
-  return true;
-}());
+static_assert(core::standInOrder(kTexts, &TextRow::text));
 
 std::vector<core::Template> lookedUp() {
   std::vector<core::Template> texts;
