@@ -7,31 +7,15 @@
 namespace kzm::bench {
 namespace {
 
-Value rule(double bound, int decimals) {
-  return Dictionary{
-      {"value",    bound   },
-      {"decimals", decimals}
-  };
-}
+Value rule(double bound, int decimals) { return Dictionary{{"value", bound}, {"decimals", decimals}}; }
 
 // The options of an ordinary network display.
 Dictionary networkOptions() {
   const Value rules = Array{rule(10, 2), rule(100, 1)};
-  return {
-      {"bandwidthformat", 2    },
-      {"space",           true },
-      {"unitsize",        3    },
-      {"decimals-mb",     rules},
-      {"decimals-kb",     rules}
-  };
+  return {{"bandwidthformat", 2}, {"space", true}, {"unitsize", 3}, {"decimals-mb", rules}, {"decimals-kb", rules}};
 }
 
-Dictionary sizeOptions() {
-  return {
-      {"space",       true               },
-      {"decimals-gb", Array{rule(100, 1)}}
-  };
-}
+Dictionary sizeOptions() { return {{"space", true}, {"decimals-gb", Array{rule(100, 1)}}}; }
 
 void bandwidth(benchmark::State& state) {
   const Dictionary options = networkOptions();

@@ -11,10 +11,7 @@ namespace kzm::bench {
 namespace {
 
 const Dictionary& unitsAndSpace() {
-  static const Dictionary& options = *new Dictionary{
-      {"units", true},
-      {"space", true}
-  };
+  static const Dictionary& options = *new Dictionary{{"units", true}, {"space", true}};
   return options;
 }
 
@@ -39,9 +36,7 @@ void weatherWind(benchmark::State& state) {
 BENCHMARK(weatherWind)->Name("readings/weather wind");
 
 void setting(benchmark::State& state) {
-  KZMSettingsUseObjects({
-      {"Weather.Global.Units.Pressure", 2}
-  });
+  KZMSettingsUseObjects({{"Weather.Global.Units.Pressure", 2}});
   measure(state, [] { return KZMSettingsObjectForKeyPath("Weather.Global.Units.Pressure"); });
 }
 BENCHMARK(setting)->Name("neighbours/one setting");

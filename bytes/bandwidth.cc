@@ -12,6 +12,7 @@ namespace kzm::bytes {
 namespace {
 
 // Deliberate: the units without "/s" bear the per-second hints all the same.
+// clang-format off
 //   level        style                       template   translator's hint
 constexpr ByteUnit kUnits[] = {
     {Level::giga, Style::briefSpaced,         "%@ G",    "gigabyte"     },
@@ -45,16 +46,19 @@ constexpr ByteUnit kUnits[] = {
     {Level::mega, Style::tight,               "%@MB/s",  "megabytes/sec"},
     {Level::kilo, Style::tight,               "%@KB/s",  "kilobytes/sec"},
 };
+// clang-format on
 constexpr auto kRows = core::unitRows(kUnits);
 static_assert(core::wellFormed(kRows));
 
 // The styles of each unit size: "unitsize" 1, 2 and 3.
+// clang-format off
 //   bytes tight        bytes spaced        bits tight                 bits spaced
 constexpr Style kStylesOfSize[][4] = {
     {Style::brief,      Style::briefSpaced, Style::brief,              Style::briefSpaced        },
     {Style::bytesTight, Style::bytesSpaced, Style::bitsTight,          Style::bitsSpaced         },
     {Style::tight,      Style::spaced,      Style::bitsPerSecondTight, Style::bitsPerSecondSpaced},
 };
+// clang-format on
 
 // What the format codes 0 to 3 show, and the code that "reverse-type" makes of them. Any other code shows as 0.
 // Deliberate: the swap is one-way, 3 stays 3 and never turns back into 1; any other code turns into 3.
@@ -63,6 +67,7 @@ struct Format {
   Level lowest;
   std::int64_t reversed;
 };
+// clang-format off
 //   bits   lowest level reversed
 constexpr Format kFormats[] = {
     {false, Level::kilo, 2},
@@ -70,6 +75,7 @@ constexpr Format kFormats[] = {
     {true,  Level::kilo, 0},
     {true,  Level::mega, 3},
 };
+// clang-format on
 constexpr Format kOtherFormat{false, Level::kilo, 3};
 
 constexpr Scale kBytes = times(1.0);
@@ -96,10 +102,7 @@ Style styleOf(const Dictionary& options, bool bits) {
 }
 
 constexpr ByteFamily family(Scale toBase) {
-  return {
-      {core::UnitFamily::bandwidth, kRows},
-      unitIndex(kUnits), toBase, core::DigitRule::exactly
-  };
+  return {{core::UnitFamily::bandwidth, kRows}, unitIndex(kUnits), toBase, core::DigitRule::exactly};
 }
 constexpr ByteFamily kInBytes = family(kBytes);
 constexpr ByteFamily kInBits = family(kBits);

@@ -10,6 +10,7 @@ namespace kzm::bytes {
 namespace {
 
 // Deliberate: the hints are those of the five letters from peta to kilo, laid on the first five rows as they come.
+// clang-format off
 //   level        style          template   translator's hint
 constexpr ByteUnit kUnits[] = {
     {Level::giga, Style::brief,  "%@G",     "petabyte"},
@@ -22,15 +23,14 @@ constexpr ByteUnit kUnits[] = {
     {Level::mega, Style::tight,  "%@MB/s",  nullptr   },
     {Level::kilo, Style::tight,  "%@KB/s",  nullptr   },
 };
+// clang-format on
 constexpr auto kRows = core::unitRows(kUnits);
 static_assert(core::wellFormed(kRows));
 
-constexpr ByteFamily kDiskActivity{
-    .table = {core::UnitFamily::diskActivity, kRows},
-    .index = unitIndex(kUnits),
-    .toBase = times(1.0),
-    .digits = core::DigitRule::exactly
-};
+constexpr ByteFamily kDiskActivity{.table = {core::UnitFamily::diskActivity, kRows},
+                                   .index = unitIndex(kUnits),
+                                   .toBase = times(1.0),
+                                   .digits = core::DigitRule::exactly};
 
 // "hide-bytes" hides rates below one kilobyte per second. NaN is not below.
 constexpr double kHiddenBelow = 1024.0;

@@ -10,6 +10,7 @@ namespace {
 // Deliberate: the first three tests reach their threshold, the tera test does not: 10^12 bytes stay 1000 giga, 10^15
 // bytes move up to peta. The peta divisor is 10^12 as single precision holds it, so petabytes come out 4 in 10^9 large.
 // NaN ends in peta.
+// clang-format off
 //   level        taken when       kilobytes        shown as
 constexpr Rung kLadder[] = {
     {Level::kilo, Test::atMost,    1000.0,          times(1.0)          },
@@ -18,14 +19,13 @@ constexpr Rung kLadder[] = {
     {Level::tera, Test::below,     1000000000000.0, over(1000000000.0)  },
     {Level::peta, Test::otherwise, 0.0,             over(999999995904.0)},
 };
+// clang-format on
 static_assert(wellFormed(kLadder));
 
-constexpr ByteFamily kDiskSpace{
-    .table = {core::UnitFamily::diskSpace, kSizeRows},
-    .index = kSizeIndex,
-    .toBase = over(1000.0),
-    .digits = core::DigitRule::atMost
-};
+constexpr ByteFamily kDiskSpace{.table = {core::UnitFamily::diskSpace, kSizeRows},
+                                .index = kSizeIndex,
+                                .toBase = over(1000.0),
+                                .digits = core::DigitRule::atMost};
 
 Reading diskSpace(const Dictionary& options, double bytes) {
   return scaled(kDiskSpace, kLadder, wholeUnitStyle(options), options, bytes);

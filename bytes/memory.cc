@@ -8,6 +8,7 @@ namespace kzm::bytes {
 namespace {
 
 // Deliberate: 1024 KB stays KB (at most), but 1024 MB is already 1 GB (below). NaN ends in peta.
+// clang-format off
 //   level        taken when       kilobytes        shown as
 constexpr Rung kLadder[] = {
     {Level::kilo, Test::atMost,    1024.0,          times(1.0)    },
@@ -16,14 +17,13 @@ constexpr Rung kLadder[] = {
     {Level::tera, Test::below,     1099511627776.0, times(0x1p-30)},
     {Level::peta, Test::otherwise, 0.0,             times(0x1p-40)},
 };
+// clang-format on
 static_assert(wellFormed(kLadder));
 
-constexpr ByteFamily kMemory{
-    .table = {core::UnitFamily::memory, kSizeRows},
-    .index = kSizeIndex,
-    .toBase = times(0x1p-10),
-    .digits = core::DigitRule::exactly
-};
+constexpr ByteFamily kMemory{.table = {core::UnitFamily::memory, kSizeRows},
+                             .index = kSizeIndex,
+                             .toBase = times(0x1p-10),
+                             .digits = core::DigitRule::exactly};
 
 Reading memory(const Dictionary& options, double bytes) {
   return scaled(kMemory, kLadder, wholeUnitStyle(options), options, bytes);

@@ -16,11 +16,9 @@ const core::Template* unitText(const Reading& reading) { return core::warmUnit(r
 
 Dictionary dataOf(const Reading& reading) {
   const core::Template* unit = unitText(reading);
-  return {
-      {"format",   unit != nullptr ? Value(unit->text()) : Value()},
-      {"decimals", reading.decimals                               },
-      {"value",    reading.value                                  }
-  };
+  return {{"format", unit != nullptr ? Value(unit->text()) : Value()},
+          {"decimals", reading.decimals},
+          {"value", reading.value}};
 }
 
 core::NumberText localizedNumber(const Reading& reading) {

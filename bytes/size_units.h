@@ -6,6 +6,7 @@
 
 namespace kzm::bytes {
 
+// clang-format off
 //   level        style          template  translator's hint
 inline constexpr ByteUnit kSizeUnits[] = {
     {Level::peta, Style::brief,  "%@P",   "petabyte"},
@@ -24,6 +25,7 @@ inline constexpr ByteUnit kSizeUnits[] = {
     {Level::mega, Style::tight,  "%@MB",  nullptr   },
     {Level::kilo, Style::tight,  "%@KB",  nullptr   },
 };
+// clang-format on
 inline constexpr auto kSizeRows = core::unitRows(kSizeUnits);
 inline constexpr UnitIndex kSizeIndex = unitIndex(kSizeUnits);
 static_assert(core::wellFormed(kSizeRows));

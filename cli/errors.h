@@ -25,7 +25,7 @@ class InputError : public std::runtime_error {
 };
 
 /// The text between quotation marks, for an InputError; a long one is cut.
-[[nodiscard]] inline std::string quoted(std::string_view text) {
+[[nodiscard]] inline std::string inQuotes(std::string_view text) {
   constexpr std::size_t kLongest = 60;  // bytes
   if (text.size() <= kLongest) return "\"" + std::string(text) + "\"";
   return "\"" + std::string(text.substr(0, kLongest)) + "...\"";

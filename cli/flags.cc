@@ -1,7 +1,5 @@
 #include "cli/flags.h"
 
-#include <algorithm>
-
 namespace kzm::cli {
 
 std::optional<std::string_view> takeFlagNamed(Words& words, std::string_view name, bool takesValue) {
@@ -14,16 +12,8 @@ std::optional<std::string_view> takeFlagNamed(Words& words, std::string_view nam
   return rest.empty() ? rest : rest.substr(1);
 }
 
-std::string flagLine(std::string_view name, std::string_view value, std::string_view help) {
-  constexpr std::size_t kWidth = 26;
-  std::string line = "  " + std::string(name);
-  if (!value.empty()) line.append(" ").append(value);
-  line.append(std::max<std::size_t>(kWidth, line.size() + 2) - line.size(), ' ');
-  return line.append(help).append("\n");
-}
-
 void refuseFlag(std::string_view verb, std::string_view word) {
-  throw InputError(std::string(verb) + ": no option " + quoted(word) + "; `kzmutil " + std::string(verb) +
+  throw InputError(std::string(verb) + ": no option " + inQuotes(word) + "; `kzmutil " + std::string(verb) +
                    " --help` lists them");
 }
 

@@ -1,6 +1,6 @@
 // The one way in which the verbs read their command lines.
 //
-// A verb lists its flags as rows. A flag is written "--name", with its value behind it or behind a "=". Flags may stand
+// A verb lists its flags as rows. A flag is written "--name", with its value after it or after a "=". Flags may stand
 // anywhere among the other words; "--" ends them. Words that begin with one dash are numbers, not flags.
 #ifndef KZM_CLI_FLAGS_H
 #define KZM_CLI_FLAGS_H
@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/description.h"
 #include "cli/errors.h"
 #include "cli/process_options.h"
 #include "cli/verbs.h"
@@ -19,19 +20,16 @@ namespace kzm::cli {
 
 /// One flag of a verb that gathers its choices in a Target.
 template <class Target>
-struct Flag {
-  std::string_view name;   // "--unit-size"
-  std::string_view value;  // how the help calls its value; empty when it takes none
-  std::string_view help;
+struct Flag : FlagText {
   // Takes over the value; `option` is the name without its dashes. Throws InputError for a bad value.
   void (*use)(Target& target, std::string_view option, std::string_view value);
 };
 
+/// What a verb without flags gathers.
+struct None {};
+
 /// Takes the flag off the front, if it stands there, and gives its value ("" when it takes none).
 [[nodiscard]] std::optional<std::string_view> takeFlagNamed(Words& words, std::string_view name, bool takesValue);
-
-/// "  --unit-size N        help", one line for each flag.
-[[nodiscard]] std::string flagLine(std::string_view name, std::string_view value, std::string_view help);
 
 /// Refuses a word that looks like a flag and is none of the verb's.
 [[noreturn]] void refuseFlag(std::string_view verb, std::string_view word);
@@ -83,14 +81,6 @@ Operands takeFlags(std::string_view verb, Words words, std::span<const Flag<Targ
   }
   if (!words.empty()) operands.words.insert(operands.words.end(), words.begin() + 1, words.end());
   return operands;
-}
-
-/// The help of the flags, and of those that every verb takes.
-template <class Target>
-std::string flagsHelp(std::span<const Flag<Target>> flags) {
-  std::string text;
-  for (const Flag<Target>& flag : flags) text += flagLine(flag.name, flag.value, flag.help);
-  return text + processOptionsHelp();
 }
 
 }  // namespace kzm::cli

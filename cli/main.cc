@@ -8,46 +8,51 @@
 #include <vector>
 
 #include "cli/errors.h"
+#include "cli/process_options.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
 namespace {
 
-struct Verb {
-  std::string_view name;
-  std::string_view does;
-  int (*run)(Words words);
-};
-constexpr Verb kVerbs[] = {
-    {"show",     "show this machine's readings: network, disks, memory, sensors and more", showVerb    },
-    {"monitor",  "the same, again and again",                                              monitorVerb },
-    {"format",   "write numbers as text, for scripts and status bars",                     formatVerb  },
-    {"settings", "list and choose the user's units",                                       settingsVerb},
-    {"call",     "call a function of the library by name, with JSON arguments",            callVerb    },
-    {"list",     "list the functions that `call` knows",                                   listVerb    },
+constexpr FlagText kOwnFlags[] = {
+    {"--help", "", "this text; `kzmutil VERB --help` has more on each verb"},
+    {"--version", "", "the program's version"},
 };
 
 void printUsage(std::ostream& out) {
-  out << "usage: kzmutil VERB [ARGUMENT...]\n\n";
-  for (const Verb& verb : kVerbs) {
-    out << "  " << verb.name << std::string(10 - verb.name.size(), ' ') << verb.does << '\n';
+  out << "usage: kzmutil [OPTION...] VERB [ARGUMENT...]\n\n";
+  for (const Verb& verb : verbs()) out << flagLine({verb.name, "", verb.does});
+  out << '\n';
+  for (const FlagText& flag : kOwnFlags) out << flagLine(flag);
+  out << flagsHelp({});
+}
+
+int answerOwn(std::string_view word) {
+  if (word == "--version" || word == "-V") {
+    std::cout << "kzmutil " KZM_VERSION "\n";
+  } else {
+    printUsage(std::cout);
   }
-  out << "\n`kzmutil VERB --help` tells more of each.\n";
+  return std::cout.flush() ? 0 : 1;
+}
+
+bool isOwn(std::string_view word) {
+  return word == "--help" || word == "-h" || word == "help" || word == "--version" || word == "-V";
 }
 
 int run(Words words) {
+  while (!words.empty() && takeProcessOption(words)) {
+  }
   if (words.empty()) {
     printUsage(std::cerr);
     return 2;
   }
-  if (words.front() == "--help" || words.front() == "help") {
-    printUsage(std::cout);
-    return std::cout.flush() ? 0 : 1;
-  }
-  for (const Verb& verb : kVerbs) {
+  if (isOwn(words.front())) return answerOwn(words.front());
+  for (const Verb& verb : verbs()) {
     if (verb.name == words.front()) return verb.run(words.subspan(1));
   }
-  throw InputError("no verb is named \"" + std::string(words.front()) + "\"; `kzmutil --help` lists them");
+  const char* what = words.front().starts_with('-') ? "no option " : "no verb is named ";
+  throw InputError(what + inQuotes(words.front()) + "; `kzmutil --help` lists them");
 }
 
 // Whether the other end of standard output has closed it, as `head` does when it has seen enough.

@@ -16,8 +16,8 @@ struct NamedDouble {
   double number;
 };
 constexpr NamedDouble kNamedDoubles[] = {
-    {"NaN",       std::numeric_limits<double>::quiet_NaN()},
-    {"Infinity",  std::numeric_limits<double>::infinity() },
+    {"NaN", std::numeric_limits<double>::quiet_NaN()},
+    {"Infinity", std::numeric_limits<double>::infinity()},
     {"-Infinity", -std::numeric_limits<double>::infinity()},
 };
 
@@ -35,9 +35,9 @@ double numberIn(std::string_view text) {
   double number = 0.0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   const bool isWhole = end == text.data() + text.size();
-  if (error == std::errc::result_out_of_range && isWhole) throw InputError(quoted(text) + " is out of range");
+  if (error == std::errc::result_out_of_range && isWhole) throw InputError(inQuotes(text) + " is out of range");
   // The infinities and NaN have the names above alone.
-  if (error != std::errc() || !isWhole || !std::isfinite(number)) throw InputError(quoted(text) + " is not a number");
+  if (error != std::errc() || !isWhole || !std::isfinite(number)) throw InputError(inQuotes(text) + " is not a number");
   return number;
 }
 
@@ -45,7 +45,7 @@ std::int64_t integerIn(std::string_view text, std::int64_t least, std::int64_t m
   std::int64_t number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error == std::errc() && end == text.data() + text.size() && number >= least && number <= most) return number;
-  throw InputError(quoted(text) + " is not a whole number from " + std::to_string(least) + " to " +
+  throw InputError(inQuotes(text) + " is not a whole number from " + std::to_string(least) + " to " +
                    std::to_string(most));
 }
 

@@ -3,38 +3,37 @@
 #include <optional>
 #include <string>
 
-#include <KZMLocalization/KZMLocalization.h>
 #include <KZMUtilities/dates.h>
 #include <KZMUtilities/formatters.h>
 
 #include "cli/errors.h"
 #include "cli/flags.h"
+#include "cli/neighbours.h"
 
 namespace kzm::cli {
 namespace {
 
 void useLocale(std::string_view identifier) {
   setCurrentLocale(identifier);
-  const std::string usable[] = {currentLocale()};
-  KZMLocalizationSetLanguages(usable);
+  chooseLanguage(currentLocale());
 }
 
 void useTimeZone(std::string_view identifier) {
   const std::optional<TimeZone> zone = TimeZone::named(identifier);
-  if (!zone.has_value()) throw InputError("no time zone " + quoted(identifier) + "; names are such as Europe/Paris");
+  if (!zone.has_value()) throw InputError("no time zone " + inQuotes(identifier) + "; names are such as Europe/Paris");
   TimeZone::setDefaultZone(*zone);
 }
 
-struct ProcessOption {
-  std::string_view name;
-  std::string_view value;
-  std::string_view help;
+struct ProcessOption : FlagText {
   void (*use)(std::string_view value);
 };
+
+// clang-format off
 constexpr ProcessOption kProcessOptions[] = {
-    {"--locale",    "ID", "locale of numbers, texts and default units, such as de_CH", useLocale  },
-    {"--time-zone", "ID", "default time zone, such as Europe/Paris",                   useTimeZone},
+    {{"--locale",    "ID", "locale of numbers, texts and default units, such as de_CH"}, useLocale},
+    {{"--time-zone", "ID", "default time zone, such as Europe/Paris"},                   useTimeZone},
 };
+// clang-format on
 
 }  // namespace
 
@@ -55,10 +54,6 @@ bool takeProcessOption(Words& words) {
   return false;
 }
 
-std::string processOptionsHelp() {
-  std::string text;
-  for (const ProcessOption& option : kProcessOptions) text += flagLine(option.name, option.value, option.help);
-  return text;
-}
+std::vector<FlagText> processOptionTexts() { return textsOf(kProcessOptions); }
 
 }  // namespace kzm::cli

@@ -2,9 +2,10 @@
 #ifndef KZM_CLI_PROCESS_OPTIONS_H
 #define KZM_CLI_PROCESS_OPTIONS_H
 
-#include <string>
 #include <string_view>
+#include <vector>
 
+#include "cli/description.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
@@ -12,12 +13,12 @@ namespace kzm::cli {
 /// Takes the option at the front and its value; the value is returned. An option without its value is an InputError.
 std::string_view takeValue(Words& words);
 
-/// Takes "--locale ID" or "--time-zone ID" off the front and puts it into force; false when neither stands there.
+/// Takes "--locale ID" or "--time-zone ID" off the front and puts it into force; false when neither is there.
 /// An unknown time zone is an InputError.
 bool takeProcessOption(Words& words);
 
-/// Their lines in a verb's help.
-[[nodiscard]] std::string processOptionsHelp();
+/// What they are, for the help.
+[[nodiscard]] std::vector<FlagText> processOptionTexts();
 
 }  // namespace kzm::cli
 

@@ -13,7 +13,7 @@ namespace kzm {
 namespace {
 
 // A time point as the calendar in a zone sees it.
-struct Reading {
+struct CalendarFields {
   clock::WallTime wall;
   clock::CivilDate date;
   double fraction;
@@ -21,62 +21,68 @@ struct Reading {
   const port::WeekRules& rules;
 };
 
-std::optional<Reading> read(TimePoint t) {
+std::optional<CalendarFields> read(TimePoint t) {
   const std::optional<clock::Instant> instant = clock::instantOf(t);
   if (!instant.has_value()) return std::nullopt;
   const TimeZone zone = TimeZone::defaultZone();
   const clock::WallTime wall = clock::wallTime(instant->seconds, zone);
-  return Reading{wall, clock::dateOfDay(wall.day), instant->fraction, zone, port::weekRules()};
+  return CalendarFields{wall, clock::dateOfDay(wall.day), instant->fraction, zone, port::weekRules()};
 }
 
-std::int64_t yearInEra(const Reading& r) { return r.date.year > 0 ? r.date.year : 1 - r.date.year; }
+std::int64_t yearInEra(const CalendarFields& r) { return r.date.year > 0 ? r.date.year : 1 - r.date.year; }
 
-std::int64_t weekOfMonth(const Reading& r) {
+std::int64_t weekOfMonth(const CalendarFields& r) {
   return clock::weekNumber(r.wall.day, r.wall.day - r.date.day + 1, r.rules);
 }
 
-std::int64_t yearOfWeek(const Reading& r) { return clock::yearOfWeek(r.wall.day, r.rules); }
+int weekday(const CalendarFields& r) { return clock::weekdayOfDay(r.wall.day); }
 
-std::int64_t weekOfYear(const Reading& r) {
+std::int64_t yearOfWeek(const CalendarFields& r) { return clock::yearOfWeek(r.wall.day, r.rules); }
+
+std::int64_t weekOfYear(const CalendarFields& r) {
   return clock::weekNumber(r.wall.day, clock::newYearsDay(yearOfWeek(r)), r.rules);
 }
 
 // The fraction just below a whole second may round up to it.
-std::int64_t nanosecond(const Reading& r) {
+std::int64_t nanosecond(const CalendarFields& r) {
   return std::min(static_cast<std::int64_t>(r.fraction * 1e9), std::int64_t{999'999'999});
 }
+
+using Fields = const CalendarFields&;
 
 struct FieldRow {
   CalendarUnits unit;
   std::string_view name;
-  Value (*read)(const Reading& reading);
+  Value (*read)(Fields fields);
 };
 
 // In the order of the units' numbers.
+// clang-format off
 constexpr FieldRow kFields[] = {
-    {kCalendarUnitEra,               "era",               [](const Reading& r) -> Value { return r.date.year > 0 ? 1 : 0; }        },
-    {kCalendarUnitYear,              "year",              [](const Reading& r) -> Value { return yearInEra(r); }                   },
-    {kCalendarUnitMonth,             "month",             [](const Reading& r) -> Value { return r.date.month; }                   },
-    {kCalendarUnitDay,               "day",               [](const Reading& r) -> Value { return r.date.day; }                     },
-    {kCalendarUnitHour,              "hour",              [](const Reading& r) -> Value { return r.wall.second / 3600; }           },
-    {kCalendarUnitMinute,            "minute",            [](const Reading& r) -> Value { return r.wall.second / 60 % 60; }        },
-    {kCalendarUnitSecond,            "second",            [](const Reading& r) -> Value { return r.wall.second % 60; }             },
-    {kCalendarUnitWeek,              "week",              [](const Reading& r) -> Value { return weekOfYear(r); }                  },
-    {kCalendarUnitWeekday,           "weekday",           [](const Reading& r) -> Value { return clock::weekdayOfDay(r.wall.day); }},
-    {kCalendarUnitWeekdayOrdinal,    "weekdayOrdinal",    [](const Reading& r) -> Value { return (r.date.day - 1) / 7 + 1; }       },
-    {kCalendarUnitQuarter,           "quarter",           [](const Reading& r) -> Value { return (r.date.month - 1) / 3 + 1; }     },
-    {kCalendarUnitWeekOfMonth,       "weekOfMonth",       [](const Reading& r) -> Value { return weekOfMonth(r); }                 },
-    {kCalendarUnitWeekOfYear,        "weekOfYear",        [](const Reading& r) -> Value { return weekOfYear(r); }                  },
-    {kCalendarUnitYearForWeekOfYear, "yearForWeekOfYear", [](const Reading& r) -> Value { return yearOfWeek(r); }                  },
-    {kCalendarUnitNanosecond,        "nanosecond",        [](const Reading& r) -> Value { return nanosecond(r); }                  },
-    {kCalendarUnitCalendar,          "calendar",          [](const Reading&) -> Value { return "gregorian"; }                      },
-    {kCalendarUnitTimeZone,          "timeZone",          [](const Reading& r) -> Value { return r.zone.identifier(); }            },
+    {kCalendarUnitEra,               "era",               [](Fields r) -> Value { return r.date.year > 0 ? 1 : 0; }},
+    {kCalendarUnitYear,              "year",              [](Fields r) -> Value { return yearInEra(r); }},
+    {kCalendarUnitMonth,             "month",             [](Fields r) -> Value { return r.date.month; }},
+    {kCalendarUnitDay,               "day",               [](Fields r) -> Value { return r.date.day; }},
+    {kCalendarUnitHour,              "hour",              [](Fields r) -> Value { return r.wall.second / 3600; }},
+    {kCalendarUnitMinute,            "minute",            [](Fields r) -> Value { return r.wall.second / 60 % 60; }},
+    {kCalendarUnitSecond,            "second",            [](Fields r) -> Value { return r.wall.second % 60; }},
+    {kCalendarUnitWeek,              "week",              [](Fields r) -> Value { return weekOfYear(r); }},
+    {kCalendarUnitWeekday,           "weekday",           [](Fields r) -> Value { return weekday(r); }},
+    {kCalendarUnitWeekdayOrdinal,    "weekdayOrdinal",    [](Fields r) -> Value { return (r.date.day - 1) / 7 + 1; }},
+    {kCalendarUnitQuarter,           "quarter",           [](Fields r) -> Value { return (r.date.month - 1) / 3 + 1; }},
+    {kCalendarUnitWeekOfMonth,       "weekOfMonth",       [](Fields r) -> Value { return weekOfMonth(r); }},
+    {kCalendarUnitWeekOfYear,        "weekOfYear",        [](Fields r) -> Value { return weekOfYear(r); }},
+    {kCalendarUnitYearForWeekOfYear, "yearForWeekOfYear", [](Fields r) -> Value { return yearOfWeek(r); }},
+    {kCalendarUnitNanosecond,        "nanosecond",        [](Fields r) -> Value { return nanosecond(r); }},
+    {kCalendarUnitCalendar,          "calendar",          [](Fields) -> Value { return "gregorian"; }},
+    {kCalendarUnitTimeZone,          "timeZone",          [](Fields r) -> Value { return r.zone.identifier(); }},
 };
+// clang-format on
 
 // The fields of a reading that take part in building a time point; the others are as on 0001-01-01 00:00:00.
 class Selection {
  public:
-  Selection(const Reading& reading, CalendarUnits units) : r_(reading), units_(units) {}
+  Selection(const CalendarFields& reading, CalendarUnits units) : r_(reading), units_(units) {}
 
   [[nodiscard]] TimePoint timePoint() const {
     const clock::WallTime wall{day(), secondOfDay()};
@@ -121,14 +127,14 @@ class Selection {
            (has(kCalendarUnitMinute) ? second / 60 % 60 * 60 : 0) + (has(kCalendarUnitSecond) ? second % 60 : 0);
   }
 
-  const Reading& r_;
+  const CalendarFields& r_;
   CalendarUnits units_;
 };
 
 }  // namespace
 
 std::optional<DateComponents> components(TimePoint t, CalendarUnits units) {
-  const std::optional<Reading> reading = read(t);
+  const std::optional<CalendarFields> reading = read(t);
   if (!reading.has_value()) return std::nullopt;
   DateComponents result;
   for (const FieldRow& row : kFields) {
@@ -138,7 +144,7 @@ std::optional<DateComponents> components(TimePoint t, CalendarUnits units) {
 }
 
 TimePoint dateFromComponents(CalendarUnits units) {
-  const std::optional<Reading> today = read(port::now());
+  const std::optional<CalendarFields> today = read(port::now());
   return today.has_value() ? Selection(*today, units).timePoint() : std::nullopt;
 }
 

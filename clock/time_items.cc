@@ -18,6 +18,7 @@ struct TimeItemRow {
 };
 
 // Deliberate: the minute group, too, names its two sub-groups after the seconds; hosts look for these names.
+// clang-format off
 //   group         marker       token                           label                force
 constexpr TimeItemRow kRows[] = {
     {"hour",       "",          "",                             "",                   false},
@@ -85,6 +86,7 @@ constexpr TimeItemRow kRows[] = {
     {"",           "",          "icon-calendar-color-fill",     "",                   false},
     {"",           "",          "icon-calendar-color-fill-day", "",                   false},
 };
+// clang-format on
 
 // A row is exactly one of a group heading, a marker and an item; only an item has a label or is forced.
 consteval bool wellFormed() {
@@ -111,10 +113,7 @@ Array buildGroups() {
     const std::string_view name = row->group;
     Array items;
     while (++row != std::end(kRows) && row->group.empty()) items.emplace_back(entryOf(*row));
-    groups.emplace_back(Dictionary{
-        {"type",  name            },
-        {"items", std::move(items)}
-    });
+    groups.emplace_back(Dictionary{{"type", name}, {"items", std::move(items)}});
   }
   return groups;
 }

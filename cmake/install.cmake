@@ -1,30 +1,52 @@
-# Installation: the three libraries, their headers, kzmutil, and the files that find_package and pkg-config look for.
+# Installation, in three components: the libraries, what is needed to build against them, and the program.
 include(CMakePackageConfigHelpers)
 
 set(KZM_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/KZMUtilities)
 
 install(TARGETS KZMUtilities KZMSettings KZMLocalization EXPORT KZMUtilitiesTargets
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(TARGETS kzmutil RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libraries NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+install(EXPORT KZMUtilitiesTargets NAMESPACE KZMUtilities:: DESTINATION ${KZM_PACKAGE_DIR} COMPONENT development)
 
-install(EXPORT KZMUtilitiesTargets NAMESPACE KZMUtilities:: DESTINATION ${KZM_PACKAGE_DIR})
 configure_package_config_file(cmake/KZMUtilitiesConfig.cmake.in KZMUtilitiesConfig.cmake
   INSTALL_DESTINATION ${KZM_PACKAGE_DIR})
 write_basic_package_version_file(KZMUtilitiesConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES
   ${CMAKE_CURRENT_BINARY_DIR}/KZMUtilitiesConfig.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/KZMUtilitiesConfigVersion.cmake
-  DESTINATION ${KZM_PACKAGE_DIR})
+  DESTINATION ${KZM_PACKAGE_DIR} COMPONENT development)
+if(NOT BUILD_SHARED_LIBS)
+  install(FILES cmake/dependencies.cmake cmake/FindCCTZ.cmake DESTINATION ${KZM_PACKAGE_DIR} COMPONENT development)
+endif()
 
-# The prefix as seen from where the .pc files lie, so that an installed tree can be moved.
-file(RELATIVE_PATH KZM_PREFIX_FROM_PKGCONFIG /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+# An installed tree can be moved: the .pc files find their prefix from where they lie. Where a folder is an absolute
+# path, it is named as such.
+set(KZM_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(KZM_PC_LIBDIR ${CMAKE_INSTALL_FULL_LIBDIR})
+set(KZM_PC_INCLUDEDIR ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+if(NOT IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
+  cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+    BASE_DIRECTORY ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig OUTPUT_VARIABLE KZM_PREFIX_FROM_PKGCONFIG)
+  set(KZM_PC_PREFIX "\${pcfiledir}/${KZM_PREFIX_FROM_PKGCONFIG}")
+  set(KZM_PC_LIBDIR "\${prefix}/${CMAKE_INSTALL_LIBDIR}")
+endif()
+if(NOT IS_ABSOLUTE ${CMAKE_INSTALL_INCLUDEDIR})
+  set(KZM_PC_INCLUDEDIR "\${prefix}/${CMAKE_INSTALL_INCLUDEDIR}")
+endif()
 
-# kzm_pkg_config(NAME "what it is" "the libraries that its headers or its users need")
-function(kzm_pkg_config name description requires)
+# kzm_pkg_config(NAME "what it is" [REQUIRES "..."] [PRIVATE "what its code calls"] [LIBS "libraries without a .pc"])
+function(kzm_pkg_config name description)
+  cmake_parse_arguments(ARG "" "REQUIRES;PRIVATE;LIBS" "" ${ARGN})
   configure_file(cmake/library.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY)
-  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endfunction()
-kzm_pkg_config(KZMUtilities "Raw measurements as short localized text" "KZMSettings KZMLocalization")
-kzm_pkg_config(KZMSettings "The user's settings by key path" "")
-kzm_pkg_config(KZMLocalization "Texts in the user's language" "")
+kzm_pkg_config(KZMUtilities "Raw measurements as short localized text" REQUIRES "KZMSettings KZMLocalization"
+  PRIVATE "icu-i18n icu-uc glib-2.0 cairo" LIBS "-lcctz -pthread")
+kzm_pkg_config(KZMSettings "The user's settings by key path" LIBS "-pthread")
+kzm_pkg_config(KZMLocalization "Texts in the user's language" PRIVATE "icu-uc")
+
+if(KZM_BUILD_PROGRAM)
+  install(TARGETS kzmutil RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT program)
+endif()

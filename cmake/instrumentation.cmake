@@ -5,8 +5,8 @@ option(KZM_COVERAGE "Count which lines the tests reach" OFF)
 if(KZM_SANITIZE)
   add_compile_options(-fsanitize=${KZM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${KZM_SANITIZE})
-  # With a sanitizer's checks in between, this warning takes the unused members of a variant for uninitialized ones.
-  add_compile_options(-Wno-maybe-uninitialized)
+  # With a sanitizer's checks in between, g++ takes the unused members of a variant for uninitialized ones.
+  add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 if(KZM_COVERAGE)
   add_compile_options(--coverage -O0)

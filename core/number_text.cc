@@ -128,13 +128,13 @@ void NumberText::writeBackward(char* p, PutDigit putDigit) const noexcept {
 }
 
 void NumberText::writeDigits(char* end) const noexcept {
-  const auto putSymbol = [this](char*& p, std::uint64_t digit) {
+  const auto putSymbol = [this](char*& p, std::size_t digit) {
     p -= symbols_.digitBytes;
     std::memcpy(p, symbols_.digits[digit].data(), symbols_.digitBytes);
   };
   if (digits_ != nullptr) {
     const char* next = digits_ + integerDigits_ + fractionDigits_;
-    writeBackward(end, [&](char*& p) { putSymbol(p, static_cast<std::uint64_t>(*--next - '0')); });
+    writeBackward(end, [&](char*& p) { putSymbol(p, static_cast<std::size_t>(*--next - '0')); });
   } else if (symbols_.digitsAreAscii) {
     writeBackward(end, [rest = whole_](char*& p) mutable {
       *--p = static_cast<char>('0' + rest % 10);
@@ -142,7 +142,7 @@ void NumberText::writeDigits(char* end) const noexcept {
     });
   } else {
     writeBackward(end, [&, rest = whole_](char*& p) mutable {
-      putSymbol(p, rest % 10);
+      putSymbol(p, static_cast<std::size_t>(rest % 10));
       rest /= 10;
     });
   }

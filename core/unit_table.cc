@@ -19,6 +19,7 @@ struct Family {
 };
 
 // Deliberate: the keys of disk activity begin with "Units.Activity.", its cache key ends in "DiskActivity".
+// clang-format off
 constexpr Family kFamilies[kUnitFamilies] = {
     {UnitFamily::bandwidth,    "Localizations-Units-Network",      "Units.Network." },
     {UnitFamily::diskActivity, "Localizations-Units-DiskActivity", "Units.Activity."},
@@ -26,6 +27,7 @@ constexpr Family kFamilies[kUnitFamilies] = {
     {UnitFamily::memory,       "Localizations-Units-Memory",       "Units.Memory."  },
     {UnitFamily::sensors,      "Localizations-Units-Sensors",      "Units.Sensors." },
 };
+// clang-format on
 
 constexpr const Family& familyOf(UnitFamily family) { return kFamilies[static_cast<std::size_t>(family)]; }
 

@@ -8,12 +8,10 @@
 
 int main() {
   const kzm::Pipe output;
-  kzm::ChildProcess child({
-      .executable = "/bin/sh",
-      .arguments = {"-c",                                    "echo working; exec sleep 60"},
-      .standardInput = kzm::NullStream{                                       },
-      .standardOutput = output
-  });
+  kzm::ChildProcess child({.executable = "/bin/sh",
+                           .arguments = {"-c", "echo working; exec sleep 60"},
+                           .standardInput = kzm::NullStream{},
+                           .standardOutput = output});
 
   // The watchdog and the handler run on GLib's main loop, which a GTK or Qt program turns anyway.
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);

@@ -8,10 +8,7 @@
 namespace {
 
 std::string weather() {
-  const kzm::Dictionary options{
-      {"units", true},
-      {"space", true}
-  };
+  const kzm::Dictionary options{{"units", true}, {"space", true}};
   return KZMUtilitiesFormatWeatherWindSpeed(options, 7.5) + " at " +
          KZMUtilitiesFormatWeatherPressure(options, 1013.25);
 }
@@ -22,9 +19,6 @@ int main() {
   kzm::setCurrentLocale("en_001");
   KZMSettingsUseObjects({});
   std::cout << weather();
-  KZMSettingsUseObjects({
-      {"Weather.Global.Units.WindSpeed", 4},
-      {"Weather.Global.Units.Pressure",  3}
-  });
+  KZMSettingsUseObjects({{"Weather.Global.Units.WindSpeed", 4}, {"Weather.Global.Units.Pressure", 3}});
   std::cout << ", then " << weather() << '\n';
 }

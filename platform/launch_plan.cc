@@ -14,11 +14,9 @@ struct StreamRow {
   StandardConnection ChildConfiguration::*connection;
   const FileHandle& (Pipe::*childsEnd)() const noexcept;
 };
-constexpr std::array<StreamRow, 3> kStreams{
-    {{&ChildConfiguration::standardInput, &Pipe::readingEnd},
-     {&ChildConfiguration::standardOutput, &Pipe::writingEnd},
-     {&ChildConfiguration::standardError, &Pipe::writingEnd}}
-};
+constexpr std::array<StreamRow, 3> kStreams{{{&ChildConfiguration::standardInput, &Pipe::readingEnd},
+                                             {&ChildConfiguration::standardOutput, &Pipe::writingEnd},
+                                             {&ChildConfiguration::standardError, &Pipe::writingEnd}}};
 
 port::Stream streamOf(const ChildConfiguration& configuration, const StreamRow& row) {
   const StandardConnection& connection = configuration.*row.connection;

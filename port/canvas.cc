@@ -102,10 +102,7 @@ std::optional<Rect> visiblePart(cairo_t* cairo, const Rect& rect) {
   const auto y = within({rect.origin.y, rect.size.height}, top - marginY, bottom + marginY);
   if (!x || !y || x->length * scale.width < kSmallestSide || y->length * scale.height < kSmallestSide)
     return std::nullopt;
-  return Rect{
-      {x->start,  y->start },
-      {x->length, y->length}
-  };
+  return Rect{{x->start, y->start}, {x->length, y->length}};
 }
 
 std::optional<Rect> drawablePart(cairo_t* cairo, const Rect& rect) {

@@ -17,12 +17,14 @@ struct Modifier {
   std::string_view script;
   std::string_view variant;
 };
+// clang-format off
 constexpr Modifier kModifiers[] = {
     {"latin",      "Latn", ""        },
     {"cyrillic",   "Cyrl", ""        },
     {"devanagari", "Deva", ""        },
     {"valencia",   "",     "VALENCIA"},
 };
+// clang-format on
 
 constexpr std::size_t kMaximumLength = ULOC_FULLNAME_CAPACITY - 1;
 constexpr std::size_t kMaximumSubtag = 8;

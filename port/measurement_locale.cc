@@ -12,17 +12,21 @@ struct Meaning {
 };
 
 // "fahrenhe" is how a language tag, whose subtags have at most eight letters, writes it.
+// clang-format off
 constexpr Meaning kSystems[] = {
     {"metric",   "001"},
     {"ussystem", "US" },
     {"uksystem", "GB" },
 };
+// clang-format on
+// clang-format off
 constexpr Meaning kTemperatures[] = {
     {"celsius",    "celsius"   },
     {"fahrenhe",   "fahrenheit"},
     {"fahrenheit", "fahrenheit"},
     {"kelvin",     "kelvin"    },
 };
+// clang-format on
 
 std::string keyword(const icu::Locale& locale, const char* name) {
   UErrorCode status = U_ZERO_ERROR;

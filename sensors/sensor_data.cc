@@ -75,6 +75,7 @@ struct KindRow {
   Reading (*read)(const Dictionary& options, double value);
 };
 
+// clang-format off
 constexpr KindRow kKinds[] = {
     {SensorType::temperature, temperature                  },
     {SensorType::percentage,  percentage                   },
@@ -87,6 +88,7 @@ constexpr KindRow kKinds[] = {
     {SensorType::multiplier,  plain<Unit::times>           },
     {SensorType::capacity,    plain<Unit::milliampereHours>},
 };
+// clang-format on
 
 }  // namespace
 
@@ -108,9 +110,5 @@ std::optional<kzm::Dictionary> KZMUtilitiesSensorData(std::int64_t type, const k
   if (!reading.has_value()) return std::nullopt;
   const kzm::core::Template* unit = kzm::sensors::unitText(*reading, options);
   if (unit == nullptr) return std::nullopt;
-  return kzm::Dictionary{
-      {"decimals", reading->decimals},
-      {"value",    reading->value   },
-      {"format",   unit->text()     }
-  };
+  return kzm::Dictionary{{"decimals", reading->decimals}, {"value", reading->value}, {"format", unit->text()}};
 }

@@ -17,9 +17,10 @@ struct SensorUnit {
   Style style;
 };
 
+// clang-format off
 //   template   translator's hint  unit              style
 constexpr SensorUnit kUnits[] = {
-    {"%@°",   nullptr,  Unit::degrees,          Style::tight },
+    {"%@°",    nullptr,  Unit::degrees,          Style::tight },
     {"%@ K",   "kelvin", Unit::kelvin,           Style::spaced},
     {"%@K",    "kelvin", Unit::kelvin,           Style::tight },
     {"Off",    nullptr,  Unit::off,              Style::tight },
@@ -49,6 +50,7 @@ constexpr SensorUnit kUnits[] = {
     {"%@mAh",  nullptr,  Unit::milliampereHours, Style::tight },
     {"%@x",    nullptr,  Unit::times,            Style::tight },
 };
+// clang-format on
 constexpr auto kRows = core::unitRows(kUnits);
 static_assert(core::wellFormed(kRows));
 constexpr core::UnitTable kTable{core::UnitFamily::sensors, kRows};

@@ -93,15 +93,15 @@ class Reader {
  private:
   Entry entry() {
     const std::size_t line = lineAt(text_, position_);
-    std::string key = quoted("a key");
+    std::string key = inQuotes("a key");
     expect('=');
     skipBlanks();
-    std::string text = quoted("a text");
+    std::string text = inQuotes("a text");
     expect(';');
     return {std::move(key), std::move(text), line};
   }
 
-  std::string quoted(const std::string& what) {
+  std::string inQuotes(const std::string& what) {
     if (peek() != '"') fail("expected " + what + " in double quotes");
     ++position_;
     std::string content;

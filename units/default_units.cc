@@ -48,6 +48,7 @@ struct Choice {
 };
 
 // Deliberate: rain and snow share one setting. Its first code means millimeters for one, centimeters for the other.
+// clang-format off
 constexpr Choice kChoices[] = {
     {Question::windSpeed,          "Weather.Global.Units.WindSpeed",     kSpeeds,       Quantity::windSpeed  },
     {Question::sensorsTemperature, "Sensors.Global.Degrees.Format",      kTemperatures, Quantity::temperature},
@@ -57,6 +58,7 @@ constexpr Choice kChoices[] = {
     {Question::rain,               "Weather.Global.Units.Precipitation", kRains,        Quantity::rain       },
     {Question::snow,               "Weather.Global.Units.Precipitation", kSnows,        Quantity::snow       },
 };
+// clang-format on
 static_assert(core::standInOrder(kChoices, &Choice::question));
 
 using Preferred = std::array<std::atomic<Unit>, kQuantities>;

@@ -18,6 +18,7 @@ struct Habit {
 // Pressure: what the barometers read in the US, and where the hectopascal kept its old name.
 // Temperature: the countries whose weather is told in Fahrenheit; Liberia, too, keeps the US measures.
 // Distance: miles stand on the road signs of two countries. Rain and snow: only the US measures them in inches.
+// clang-format off
 constexpr Habit kHabits[] = {
     {Quantity::windSpeed,   "US GB",                MeasurementUnit::milesPerHour   },
     {Quantity::windSpeed,   "FI KR NO PL RU SE",    MeasurementUnit::metersPerSecond},
@@ -28,6 +29,7 @@ constexpr Habit kHabits[] = {
     {Quantity::rain,        "US",                   MeasurementUnit::inches         },
     {Quantity::snow,        "US",                   MeasurementUnit::inches         },
 };
+// clang-format on
 
 constexpr std::size_t kCodeLength = 2;  // of a country; "001" and its like are parts of the world and have no habits
 
@@ -45,6 +47,7 @@ struct Rule {
 
 // Deliberate: the second rule of snow looks at the sample of rain. And miles in a sample of rain or snow mean inches:
 // a text in miles shows a locale that measures in the old units.
+// clang-format off
 constexpr Rule kRules[] = {
     {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::knots,           MeasurementUnit::knots          },
     {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::milesPerHour,    MeasurementUnit::milesPerHour   },
@@ -58,6 +61,7 @@ constexpr Rule kRules[] = {
     {Quantity::snow,        Quantity::snow,        MeasurementUnit::miles,           MeasurementUnit::inches         },
     {Quantity::snow,        Quantity::rain,        MeasurementUnit::inches,          MeasurementUnit::inches         },
 };
+// clang-format on
 
 constexpr std::size_t at(Quantity quantity) { return static_cast<std::size_t>(quantity); }
 

@@ -16,10 +16,11 @@ struct UnitFacts {
   std::string_view sample;  // the number that the sample of this kind of quantity shows in this unit
 };
 
+// clang-format off
 //   unit                                name                 symbol  sample
 constexpr UnitFacts kFacts[] = {
-    {MeasurementUnit::celsius,           "celsius",           "°C",  "0"     },
-    {MeasurementUnit::fahrenheit,        "fahrenheit",        "°F",  "32"    },
+    {MeasurementUnit::celsius,           "celsius",           "°C",   "0"     },
+    {MeasurementUnit::fahrenheit,        "fahrenheit",        "°F",   "32"    },
     {MeasurementUnit::kelvin,            "kelvin",            "K",    "273.15"},
     {MeasurementUnit::metersPerSecond,   "metersPerSecond",   "m/s",  "0"     },
     {MeasurementUnit::kilometersPerHour, "kilometersPerHour", "km/h", "0"     },
@@ -34,6 +35,7 @@ constexpr UnitFacts kFacts[] = {
     {MeasurementUnit::centimeters,       "centimeters",       "cm",   "3"     },
     {MeasurementUnit::inches,            "inches",            "in",   "1.181" },
 };
+// clang-format on
 
 // Each unit's row stands at the unit's own number.
 static_assert(core::standInOrder(kFacts, &UnitFacts::unit));

@@ -14,10 +14,12 @@ struct DistanceRow {
   Text text;
 };
 
+// clang-format off
 constexpr DistanceRow kDistances[] = {
     {MeasurementUnit::miles,      KmToMiles, Text::miles     },
     {MeasurementUnit::kilometers, unchanged, Text::kilometers},
 };
+// clang-format on
 
 const DistanceRow& distanceRow() { return rowFor(kDistances, KZMUtilitiesDefaultUnits::shared().distanceUnit()); }
 

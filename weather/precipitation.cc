@@ -16,14 +16,18 @@ struct PrecipitationRow {
   Text text;
 };
 
+// clang-format off
 constexpr PrecipitationRow kRain[] = {
     {MeasurementUnit::inches,      mmToInch,  2, Text::inches     },
     {MeasurementUnit::millimeters, unchanged, 1, Text::millimeters},
 };
+// clang-format on
+// clang-format off
 constexpr PrecipitationRow kSnow[] = {
     {MeasurementUnit::inches,      mmToInch, 2, Text::inches     },
     {MeasurementUnit::centimeters, mmToCm,   1, Text::centimeters},
 };
+// clang-format on
 
 // Deliberate: snow, too, follows the unit of rain.
 template <std::size_t N>

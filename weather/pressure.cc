@@ -29,11 +29,13 @@ struct PressureRow {
 };
 
 // Deliberate: only inches of mercury take no heed of the options.
+// clang-format off
 constexpr PressureRow kPressures[] = {
     {Unit::millibars,       unchanged,            Style::chosen,   Text::millibarsSpaced,    Text::millibars   },
     {Unit::inchesOfMercury, hectopascalsToInches, Style::complete, Text::inches,             Text::inches      },
     {Unit::hectopascals,    unchanged,            Style::chosen,   Text::hectopascalsSpaced, Text::hectopascals},
 };
+// clang-format on
 
 constexpr std::int64_t kInchDigits = 2;
 

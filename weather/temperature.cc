@@ -23,11 +23,13 @@ struct TemperatureRow {
   Text text;
 };
 
+// clang-format off
 constexpr TemperatureRow kTemperatures[] = {
     {MeasurementUnit::kelvin,     celciusToKelvin,     false, Text::kelvin },
     {MeasurementUnit::fahrenheit, celciusToFahrenheit, false, Text::degrees},
     {MeasurementUnit::celsius,    unchanged,           true,  Text::degrees},
 };
+// clang-format on
 
 // Deliberate: made so that a rounded zero has no minus, this takes the minus off -0.4 too, wherever the locale writes
 // it as the ASCII sign next to an ASCII digit.

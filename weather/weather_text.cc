@@ -20,9 +20,10 @@ struct TextRow {
   const char* comment;
 };
 
+// clang-format off
 constexpr TextRow kTexts[] = {
     {Text::number,                  "%@",         nullptr },
-    {Text::degrees,                 "%@°",       nullptr },
+    {Text::degrees,                 "%@°",        nullptr },
     {Text::kelvin,                  "%@K",        "kelvin"},
     {Text::knotsSpaced,             "%@ knots",   nullptr },
     {Text::knots,                   "%@knots",    nullptr },
@@ -52,6 +53,7 @@ constexpr TextRow kTexts[] = {
     {Text::days,                    "%@ Days",    nullptr },
     {Text::percent,                 "%@%%",       nullptr },
 };
+// clang-format on
 
 static_assert(core::standInOrder(kTexts, &TextRow::text));
 
@@ -72,9 +74,9 @@ const core::Template& textOf(Text text) {
 }
 
 core::NumberText decimalNumber(std::int64_t mostDigits, double value) {
-  static const NumberSymbols& symbols = NumberFormatter(0, 0).symbols();  // of the current locale; they live for ever
+  static const NumberSymbols* const symbols = &NumberFormatter(0, 0).symbols();  // of the current locale; they stay
   const auto most = static_cast<int>(std::clamp<std::int64_t>(mostDigits, 0, core::kMostFractionDigits));
-  return {symbols, 0, most, value};
+  return {*symbols, 0, most, value};
 }
 
 std::string filled(Text text, const core::NumberText& number) { return textOf(text).filled(number); }

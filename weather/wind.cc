@@ -16,12 +16,14 @@ struct WindRow {
   Text tight;
 };
 
+// clang-format off
 constexpr WindRow kWinds[] = {
     {MeasurementUnit::knots,             mpsToKnots, Text::knotsSpaced,             Text::knots            },
     {MeasurementUnit::milesPerHour,      mpsToMph,   Text::milesPerHourSpaced,      Text::milesPerHour     },
     {MeasurementUnit::kilometersPerHour, mpsToKph,   Text::kilometersPerHourSpaced, Text::kilometersPerHour},
     {MeasurementUnit::metersPerSecond,   unchanged,  Text::metersPerSecondSpaced,   Text::metersPerSecond  },
 };
+// clang-format on
 
 // A sector of the compass, 45 degrees wide, and the bearing at which the next one begins.
 struct Sector {
@@ -31,6 +33,7 @@ struct Sector {
 
 // Deliberate: bearings are not brought into one turn. All below 22.5, the negative ones too, and all from 337.5 on are
 // north, and so is NaN.
+// clang-format off
 constexpr Sector kSectors[] = {
     {22.5,  Text::north    },
     {67.5,  Text::northEast},
@@ -41,6 +44,7 @@ constexpr Sector kSectors[] = {
     {292.5, Text::west     },
     {337.5, Text::northWest},
 };
+// clang-format on
 
 constexpr Text directionOf(double degrees) noexcept {
   for (const Sector& sector : kSectors) {

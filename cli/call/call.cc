@@ -1,24 +1,17 @@
 // The verbs `call` and `list`: every exported function, by name, for scripts and tests.
 #include <iostream>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include <KZMSettings/KZMSettings.h>
-
 #include "cli/call/callables.h"
 #include "cli/flags.h"
+#include "cli/neighbours.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
 namespace {
-
-constexpr std::string_view kHelp =
-    R"(usage: kzmutil call [OPTION...] NAME [ARG...]     one call; each ARG is one JSON text
-       kzmutil call [OPTION...] --batch           JSON Lines: {"call": NAME, "args": [...], "settings": {...}, "id": ANY}
-       kzmutil list                               the names, with their parameters
-
-)";
 
 // A setting given as KEYPATH=JSON.
 void addSetting(Dictionary& settings, std::string_view text) {
@@ -34,16 +27,16 @@ struct CallOptions {
 };
 
 constexpr Flag<CallOptions> kFlags[] = {
-    {"--batch", "",             "read JSON Lines from standard input",
-     [](CallOptions& options, std::string_view, std::string_view) { options.batch = true; }                     },
-    {"--set",   "KEYPATH=JSON", "a setting, such as Weather.Global.Units.Pressure=2; repeatable",
+    {{"--batch", "", "read JSON Lines from standard input"},
+     [](CallOptions& options, std::string_view, std::string_view) { options.batch = true; }},
+    {{"--set", "KEYPATH=JSON", "a setting, such as Weather.Global.Units.Pressure=2; repeatable"},
      [](CallOptions& options, std::string_view, std::string_view value) { addSetting(options.settings, value); }},
-    {"--json",  "",             "print a string result as JSON too",
-     [](CallOptions& options, std::string_view, std::string_view) { options.json = true; }                      },
+    {{"--json", "", "print a string result as JSON too"},
+     [](CallOptions& options, std::string_view, std::string_view) { options.json = true; }},
 };
 
-int printHelp() {
-  std::cout << kHelp << flagsHelp<CallOptions>(kFlags);
+int print(const std::string& text) {
+  std::cout << text;
   return std::cout.flush() ? 0 : 1;
 }
 
@@ -67,7 +60,7 @@ const Json& member(const Json& line, const char* name) {
 Result answerTo(const Json& line) {
   if (const Json& settings = member(line, "settings"); !settings.is_null()) {
     if (!settings.is_object()) throw InputError("\"settings\" must be an object");
-    KZMSettingsUseObjects(*valueFromJson(settings).dictionary());
+    useSettings(*valueFromJson(settings).dictionary());
   }
   const Json& name = member(line, "call");
   if (!name.is_string()) throw InputError("\"call\" must be a name");
@@ -83,7 +76,7 @@ std::string answerLine(std::string_view text) {
     if (!line.is_object()) throw InputError("a batch line is one JSON object");
     id = member(line, "id");
     return "{\"id\": " + jsonText(id) + ", \"result\": " + answerTo(line).json + "}";
-  } catch (const InputError& error) {
+  } catch (const std::runtime_error& error) {
     return "{\"id\": " + jsonText(id) + ", \"error\": " + jsonText(std::string_view(error.what())) + "}";
   }
 }
@@ -98,18 +91,33 @@ int callBatch() {
 
 int callVerb(Words words) {
   CallOptions options;
-  if (takeLeadingFlags<CallOptions>("call", words, kFlags, options)) return printHelp();
-  if (!options.settings.empty()) KZMSettingsUseObjects(std::move(options.settings));
+  if (takeLeadingFlags<CallOptions>("call", words, kFlags, options)) return print(helpText(describeCall()));
+  if (!options.settings.empty()) useSettings(std::move(options.settings));
   if (!options.batch) return callOnce(words, options.json);
   if (!words.empty()) throw InputError("call: --batch takes no name");
   return callBatch();
 }
 
 int listVerb(Words words) {
-  if (!words.empty() && words.front() == "--help") return printHelp();
-  if (!words.empty()) throw InputError("list takes no arguments");
+  None none;
+  const Operands operands = takeFlags<None>("list", words, {}, none);
+  if (operands.help) return print(helpText(describeList()));
+  if (!operands.words.empty()) throw InputError("list takes no arguments");
   for (const Callable& callable : callables()) std::cout << described(callable) << '\n';
   return std::cout.flush() ? 0 : 1;
 }
+
+Description describeCall() {
+  Description verb{.usage = {"call [OPTION...] NAME [ARG...]", "call [OPTION...] --batch"},
+                   .text =
+                       "NAME is a function's name or an operation's selector, and each ARG is one JSON text. With\n"
+                       "--batch, each line of standard input is one call, answered at once by one line:\n"
+                       "{\"call\": NAME, \"args\": [...], \"settings\": {...}, \"id\": ANY}\n",
+                   .flags = textsOf(kFlags)};
+  for (const Callable& callable : callables()) verb.names.push_back(callable.name);
+  return verb;
+}
+
+Description describeList() { return {.usage = {"list"}, .text = "The names, each with its parameters.\n"}; }
 
 }  // namespace kzm::cli

@@ -108,10 +108,8 @@ Result resultOf(const AttributedString& text) { return {jsonText(text), std::nul
 Result resultOf(const std::shared_ptr<const Locale>& locale) { return resultOf(locale->identifier()); }
 
 Result resultOf(const std::shared_ptr<const NumberFormatter>& formatter) {
-  return resultOf(Dictionary{
-      {"minimumFractionDigits", formatter->minimumFractionDigits()},
-      {"maximumFractionDigits", formatter->maximumFractionDigits()}
-  });
+  return resultOf(Dictionary{{"minimumFractionDigits", formatter->minimumFractionDigits()},
+                             {"maximumFractionDigits", formatter->maximumFractionDigits()}});
 }
 
 }  // namespace kzm::cli

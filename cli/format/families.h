@@ -19,8 +19,8 @@ using OptionFlag = Flag<Dictionary>;
 struct Family {
   std::string_view name;   // "memory" or, of the two families of families, "sensor fan"
   std::string_view value;  // what a value is: "bytes"
-  std::string_view flags;  // the names of the flags it takes, without their dashes, separated by blanks
   std::string (*text)(const Dictionary& options, double value);
+  std::string_view flags;  // the names of the flags it takes, without their dashes, separated by spaces
 };
 
 [[nodiscard]] std::span<const Family> families();

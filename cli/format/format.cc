@@ -10,19 +10,11 @@
 namespace kzm::cli {
 namespace {
 
-constexpr std::string_view kUsage =
-    R"(usage: kzmutil format FAMILY [FLAG...] [VALUE...]
-
-Writes each value as a line of text. Without a value it reads values from standard input, one per line, and answers
-each line at once. A value is a decimal number such as 1500000, -3.5 or 1e9, or NaN, Infinity or -Infinity.
-)";
-
-// The families whose name is the word or begins with it: "sensor" is all kinds of sensors.
-std::string familiesHelp(std::string_view word) {
+// The kinds of a family of families: "sensor" is all kinds of sensors.
+std::string kindsHelp(std::string_view word) {
   std::string text;
   for (const Family& family : families()) {
-    const bool isAsked = word.empty() || family.name.starts_with(std::string(word) + " ");
-    if (isAsked) text += flagLine(family.name, "", family.value);
+    if (family.name.starts_with(std::string(word) + " ")) text += flagLine({family.name, "", family.value});
   }
   return text;
 }
@@ -84,33 +76,44 @@ int formatFamily(const Family& family, Words words) {
   const Operands operands = takeFlags<Dictionary>("format " + std::string(family.name), words, flags, options);
   if (operands.help) {
     return print("usage: kzmutil format " + std::string(family.name) + " [FLAG...] [VALUE...]\n\nA value is " +
-                 std::string(family.value) + ".\n\n" + flagsHelp<Dictionary>(flags));
+                 std::string(family.value) + ".\n\n" + flagsHelp(textsOf(flags)));
   }
   return operands.words.empty() ? formatInput(family, options) : formatWords(family, options, operands.words);
 }
 
 // The words name no family: they ask for the kinds of one, or are refused.
 int answerUnknown(Words words) {
-  const std::string kinds = familiesHelp(words[0]);
-  if (kinds.empty()) throw InputError("format: no family " + quoted(words[0]) + "; `kzmutil format --help` lists them");
+  const std::string kinds = kindsHelp(words[0]);
+  if (kinds.empty())
+    throw InputError("format: no family " + inQuotes(words[0]) + "; `kzmutil format --help` lists them");
   const std::string family(words[0]);
   if (words.size() == 1)
     throw InputError("format: its kind is missing; `kzmutil format " + family + " --help` lists them");
-  if (words[1] == "--help") return print(std::string(kUsage) + "\n" + kinds);
-  throw InputError("format: no kind " + quoted(words[1]) + "; `kzmutil format " + family + " --help` lists them");
+  if (words[1] == "--help") return print("usage: kzmutil format " + family + " KIND [FLAG...] [VALUE...]\n\n" + kinds);
+  throw InputError("format: no kind " + inQuotes(words[1]) + "; `kzmutil format " + family + " --help` lists them");
 }
 
 }  // namespace
 
 int formatVerb(Words words) {
-  struct None {
-  } none;
-  if (takeLeadingFlags<None>("format", words, {}, none)) {
-    return print(std::string(kUsage) + "\n" + familiesHelp("") + "\n`kzmutil format FAMILY --help` lists its flags.\n");
-  }
+  None none;
+  if (takeLeadingFlags<None>("format", words, {}, none)) return print(helpText(describeFormat()));
   if (words.empty()) throw InputError("format: a family is missing; `kzmutil format --help` lists them");
   const Family* family = takeFamily(words);
   return family != nullptr ? formatFamily(*family, words) : answerUnknown(words);
+}
+
+Description describeFormat() {
+  Description verb{
+      .usage = {"format FAMILY [FLAG...] [VALUE...]"},
+      .text =
+          "Writes each value as a line of text. Without a value it reads values from standard input, one per line,\n"
+          "and answers each line at once. A value is a decimal number such as 1500000, -3.5 or 1e9, or NaN, Infinity\n"
+          "or -Infinity. `kzmutil format FAMILY --help` lists the family's flags.\n"};
+  for (const Family& family : families()) {
+    verb.choices.push_back({.name = family.name, .help = family.value, .flags = textsOf(flagsOf(family))});
+  }
+  return verb;
 }
 
 }  // namespace kzm::cli

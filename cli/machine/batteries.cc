@@ -17,8 +17,8 @@ struct ChargeRow {
 };
 
 constexpr ChargeRow kCharges[] = {
-    {"/charge_now",         "/energy_now",         "Charge"       },
-    {"/charge_full",        "/energy_full",        "Full charge"  },
+    {"/charge_now", "/energy_now", "Charge"},
+    {"/charge_full", "/energy_full", "Full charge"},
     {"/charge_full_design", "/energy_full_design", "Design charge"},
 };
 

@@ -20,13 +20,13 @@ struct SensorRow {
 };
 
 constexpr SensorRow kRows[] = {
-    {"temp",  "_input",   Kind::temperature, 1e-3, "Temperature"},
-    {"fan",   "_input",   Kind::fan,         1,    "Fan"        },
-    {"in",    "_input",   Kind::voltage,     1e-3, "Voltage"    },
-    {"curr",  "_input",   Kind::current,     1e-3, "Current"    },
-    {"power", "_input",   Kind::power,       1e-6, "Power"      },
-    {"power", "_average", Kind::power,       1e-6, "Power"      },
-    {"freq",  "_input",   Kind::frequency,   1e-6, "Frequency"  },
+    {"temp", "_input", Kind::temperature, 1e-3, "Temperature"},
+    {"fan", "_input", Kind::fan, 1, "Fan"},
+    {"in", "_input", Kind::voltage, 1e-3, "Voltage"},
+    {"curr", "_input", Kind::current, 1e-3, "Current"},
+    {"power", "_input", Kind::power, 1e-6, "Power"},
+    {"power", "_average", Kind::power, 1e-6, "Power"},
+    {"freq", "_input", Kind::frequency, 1e-6, "Frequency"},
 };
 
 // The number of a sensor in its file's name; empty when the name is another row's.

@@ -17,10 +17,10 @@ struct Row {
 };
 
 constexpr Row kRows[] = {
-    {"MemTotal:",     &Memory::total    },
+    {"MemTotal:", &Memory::total},
     {"MemAvailable:", &Memory::available},
-    {"SwapTotal:",    &Memory::swapTotal},
-    {"SwapFree:",     &Memory::swapFree },
+    {"SwapTotal:", &Memory::swapTotal},
+    {"SwapFree:", &Memory::swapFree},
 };
 
 constexpr std::uint64_t kKibibyte = 1024;

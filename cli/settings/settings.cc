@@ -1,26 +1,14 @@
 // The verb `settings`: the user's units, by key path.
 #include <iostream>
-#include <stdexcept>
 #include <string>
 
-#include <KZMSettings/KZMSettings.h>
-
 #include "cli/flags.h"
+#include "cli/neighbours.h"
 #include "cli/settings/unit_settings.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
 namespace {
-
-constexpr std::string_view kHelp =
-    R"(usage: kzmutil settings list             every setting, its codes and what they mean; * marks the one in force
-       kzmutil settings get KEY          the code in force, and what it means
-       kzmutil settings set KEY CODE     chooses by code or by meaning: 2 or fahrenheit
-       kzmutil settings unset KEY        leaves the choice to the region again
-
-)";
-
-struct None {};
 
 std::string described(const UnitSetting& setting) {
   const std::int64_t inForce = codeInForce(setting);
@@ -39,11 +27,6 @@ std::string described(const UnitSetting& setting) {
   return text;
 }
 
-void store(const UnitSetting& setting, const Value& value) {
-  if (KZMSettingsSetObjectForKeyPath(value, setting.keyPath)) return;
-  throw std::runtime_error("settings: the settings file could not be written");
-}
-
 std::string list(Words /*words*/) {
   std::string text;
   for (const UnitSetting& setting : unitSettings()) text.append(text.empty() ? "" : "\n").append(described(setting));
@@ -58,12 +41,12 @@ std::string get(Words words) {
 
 std::string set(Words words) {
   const UnitSetting& setting = settingAt(words[0]);
-  store(setting, codeIn(setting, words[1]));
+  storeSetting(codeIn(setting, words[1]), setting.keyPath);
   return {};
 }
 
 std::string unset(Words words) {
-  store(settingAt(words[0]), nullptr);
+  storeSetting(nullptr, settingAt(words[0]).keyPath);
   return {};
 }
 
@@ -71,13 +54,16 @@ struct Subverb {
   std::string_view name;
   std::size_t words;
   std::string_view takes;
+  std::string_view usage;
+  std::string_view does;
   std::string (*run)(Words words);
 };
+
 constexpr Subverb kSubverbs[] = {
-    {"list",  0, "no arguments", list },
-    {"get",   1, "KEY",          get  },
-    {"set",   2, "KEY and CODE", set  },
-    {"unset", 1, "KEY",          unset},
+    {"list", 0, "no arguments", "settings list", "every setting, its codes and their meanings; * is in force", list},
+    {"get", 1, "KEY", "settings get KEY", "the code in force, and what it means", get},
+    {"set", 2, "KEY and CODE", "settings set KEY CODE", "chooses by code or by meaning: 2 or fahrenheit", set},
+    {"unset", 1, "KEY", "settings unset KEY", "leaves the choice to the region again", unset},
 };
 
 std::string answerTo(Words words) {
@@ -87,7 +73,7 @@ std::string answerTo(Words words) {
     if (words.size() - 1 == subverb.words) return subverb.run(words.subspan(1));
     throw InputError("settings " + std::string(subverb.name) + " takes " + std::string(subverb.takes));
   }
-  throw InputError("settings: nothing is named " + quoted(words[0]) + "; there are list, get, set and unset");
+  throw InputError("settings: nothing is named " + inQuotes(words[0]) + "; there are list, get, set and unset");
 }
 
 }  // namespace
@@ -95,8 +81,21 @@ std::string answerTo(Words words) {
 int settingsVerb(Words words) {
   None none;
   const Operands operands = takeFlags<None>("settings", words, {}, none);
-  std::cout << (operands.help ? std::string(kHelp) + flagsHelp<None>({}) : answerTo(operands.words));
+  std::cout << (operands.help ? helpText(describeSettings()) : answerTo(operands.words));
   return std::cout.flush() ? 0 : 1;
+}
+
+Description describeSettings() {
+  Description verb;
+  for (const Subverb& subverb : kSubverbs) {
+    Choice choice{.name = subverb.name, .help = subverb.does};
+    if (subverb.words > 0) {
+      for (const UnitSetting& setting : unitSettings()) choice.operands.push_back(setting.keyPath);
+    }
+    verb.usage.push_back(subverb.usage);
+    verb.choices.push_back(std::move(choice));
+  }
+  return verb;
 }
 
 }  // namespace kzm::cli

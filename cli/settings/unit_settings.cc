@@ -20,14 +20,17 @@ constexpr MeasurementUnit kDistances[] = {kilometers, miles};
 constexpr MeasurementUnit kPressures[] = {hectopascals, millibars, inchesOfMercury};
 constexpr MeasurementUnit kDepths[] = {millimeters, inches};
 
+// clang-format off
 const UnitSetting kSettings[] = {
-    {"Sensors.Global.Degrees.Format",      "temperature of sensors",                       kDegrees,   &Units::sensorsTemperatureUnit},
-    {"Weather.Global.Units.Degrees",       "temperature of the air",                       kDegrees,   &Units::weatherTemperatureUnit},
-    {"Weather.Global.Units.WindSpeed",     "speed of the wind",                            kSpeeds,    &Units::windSpeedUnit         },
-    {"Weather.Global.Units.Pressure",      "pressure of the air",                          kPressures, &Units::pressureUnit          },
-    {"Weather.Global.Units.Distance",      "distances",                                    kDistances, &Units::distanceUnit          },
-    {"Weather.Global.Units.Precipitation", "rain; snow is in centimeters for millimeters", kDepths,    &Units::rainUnit              },
+    {"Sensors.Global.Degrees.Format",      "temperature of sensors", kDegrees,   &Units::sensorsTemperatureUnit},
+    {"Weather.Global.Units.Degrees",       "temperature of the air", kDegrees,   &Units::weatherTemperatureUnit},
+    {"Weather.Global.Units.WindSpeed",     "speed of the wind",      kSpeeds,    &Units::windSpeedUnit},
+    {"Weather.Global.Units.Pressure",      "pressure of the air",    kPressures, &Units::pressureUnit},
+    {"Weather.Global.Units.Distance",      "distances",              kDistances, &Units::distanceUnit},
+    {"Weather.Global.Units.Precipitation", "rain and snow (snow in centimeters when rain is in millimeters)",
+                                                                     kDepths,    &Units::rainUnit},
 };
+// clang-format on
 
 bool isSame(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
@@ -55,7 +58,7 @@ const UnitSetting& settingAt(std::string_view keyPath) {
     if (setting.keyPath == keyPath) return setting;
     names.append(names.empty() ? "" : ", ").append(setting.keyPath);
   }
-  throw InputError("settings: no setting " + quoted(keyPath) + "; there are " + names);
+  throw InputError("settings: no setting " + inQuotes(keyPath) + "; there are " + names);
 }
 
 std::int64_t codeIn(const UnitSetting& setting, std::string_view text) {
@@ -65,7 +68,7 @@ std::int64_t codeIn(const UnitSetting& setting, std::string_view text) {
     meanings.append(meanings.empty() ? "" : ", ").append(std::to_string(code)).append(" ");
     meanings.append(meaningOf(setting, code));
   }
-  throw InputError("settings: " + std::string(setting.keyPath) + " has no code " + quoted(text) + "; there are " +
+  throw InputError("settings: " + std::string(setting.keyPath) + " has no code " + inQuotes(text) + "; there are " +
                    meanings);
 }
 

@@ -111,10 +111,7 @@ Cell bar(double part) {
   std::string full;
   std::string empty;
   for (std::size_t i = 0; i < kBarColumns; ++i) (i < count ? full : empty) += i < count ? "█" : "░";
-  return {
-      {full,  Style::plain},
-      {empty, Style::faint}
-  };
+  return {{full, Style::plain}, {empty, Style::faint}};
 }
 
 std::vector<std::string> laidOut(const std::vector<Section>& sections, const Look& look) {

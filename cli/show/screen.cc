@@ -123,10 +123,7 @@ Screen::Event Screen::wait(double seconds) {
   for (;;) {
     const double left = seconds - machine::secondsNow();
     if (left <= 0) return Event::due;
-    pollfd watched[] = {
-        {signals_,      POLLIN, 0},
-        {STDOUT_FILENO, 0,      0}
-    };
+    pollfd watched[] = {{signals_, POLLIN, 0}, {STDOUT_FILENO, 0, 0}};
     const int count = ::poll(watched, 2, static_cast<int>(std::ceil(left * kMilliseconds)));
     if (count < 0 && errno != EINTR) fail("standard output");
     if (count <= 0) continue;

@@ -33,24 +33,25 @@ void useInterval(ShowOptions& options, Text, Text value) {
   constexpr double kMost = 3600.0;
   options.seconds = numberIn(value);
   if (!(options.seconds >= kLeast && options.seconds <= kMost))
-    throw InputError(quoted(value) + " is not from 0.1 to 3600");
+    throw InputError(inQuotes(value) + " is not from 0.1 to 3600");
 }
 
-constexpr ShowFlag kBits{"--bits", "", "network in bits instead of bytes",
+constexpr ShowFlag kBits{{"--bits", "", "network in bits instead of bytes"},
                          [](ShowOptions& options, Text, Text) { options.rows.bandwidth.set("bandwidthformat", 2); }};
 constexpr ShowFlag kUnitSize{
-    "--unit-size", "N", "network units: 1 \"M\", 2 \"MB\", 3 \"MB/s\"",
+    {"--unit-size", "N", "network units: 1 \"M\", 2 \"MB\", 3 \"MB/s\""},
     [](ShowOptions& options, Text, Text value) { options.rows.bandwidth.set("unitsize", integerIn(value, 1, 3)); }};
 constexpr ShowFlag kInterface{
-    "--interface", "NAME", "this interface alone; repeatable",
+    {"--interface", "NAME", "this interface alone; repeatable"},
     [](ShowOptions& options, Text, Text value) { options.rows.interfaces.emplace_back(value); }};
-constexpr ShowFlag kAll{"--all", "", "also what was never used, every processor and every sensor",
+constexpr ShowFlag kAll{{"--all", "", "also what was never used, every processor and every sensor"},
                         [](ShowOptions& options, Text, Text) { options.rows.all = true; }};
-constexpr ShowFlag kNoColor{"--no-color", "", "without bold and faint text",
+constexpr ShowFlag kNoColor{{"--no-color", "", "without bold and faint text"},
                             [](ShowOptions& options, Text, Text) { options.plain = true; }};
-constexpr ShowFlag kInterval{"--interval", "SECONDS", "time between two readings, 0.1 to 3600; 1 without it",
+constexpr ShowFlag kInterval{{"--interval", "SECONDS", "time between two readings, 0.1 to 3600; 1 without it"},
                              useInterval};
-constexpr ShowFlag kCount{"--count", "N", "ends after so many drawings", [](ShowOptions& options, Text, Text value) {
+constexpr ShowFlag kCount{{"--count", "N", "ends after the given number of drawings"},
+                          [](ShowOptions& options, Text, Text value) {
                             options.count = integerIn(value, 1, std::numeric_limits<std::int64_t>::max());
                           }};
 
@@ -64,10 +65,10 @@ const machine::Root& thisMachine() {
   return root;
 }
 
-std::string help(Text verb, std::span<const ShowFlag> flags) {
-  std::string text = "usage: kzmutil " + std::string(verb) + " [TOPIC] [FLAG...]\n\nWithout a topic: all of them.\n\n";
-  for (const Topic& topic : topics()) text += flagLine(topic.name, "", topic.does);
-  return text + "\n" + flagsHelp<ShowOptions>(flags);
+Description describe(Text usage, std::span<const ShowFlag> flags) {
+  Description verb{.usage = {usage}, .text = "Without a topic: all of them.\n", .flags = textsOf(flags)};
+  for (const Topic& topic : topics()) verb.choices.push_back({.name = topic.name, .help = topic.does});
+  return verb;
 }
 
 Topics topicsIn(Text verb, const std::vector<Text>& words) {
@@ -78,7 +79,7 @@ Topics topicsIn(Text verb, const std::vector<Text>& words) {
     if (topic.name == words[0]) return {&topic, 1};
     names.append(names.empty() ? "" : ", ").append(topic.name);
   }
-  throw InputError(std::string(verb) + ": no topic " + quoted(words[0]) + "; there are " + names);
+  throw InputError(std::string(verb) + ": no topic " + inQuotes(words[0]) + "; there are " + names);
 }
 
 // Every interface that was asked for is there.
@@ -90,7 +91,7 @@ void checkInterfaces(Text verb, const ShowOptions& options, const Counters& coun
       found = found || counter.name == wanted;
       names.append(names.empty() ? "" : ", ").append(counter.name);
     }
-    if (!found) throw InputError(std::string(verb) + ": no interface " + quoted(wanted) + "; there are " + names);
+    if (!found) throw InputError(std::string(verb) + ": no interface " + inQuotes(wanted) + "; there are " + names);
   }
 }
 
@@ -127,8 +128,9 @@ bool waited(Screen& screen, double until, const std::vector<Section>& sections, 
   }
 }
 
-int showAgainAndAgain(Topics shown, Counters earlier, const ShowOptions& options) {
+int showContinuously(Topics shown, const Counters& first, const ShowOptions& options) {
   constexpr double kFirst = 1.0;  // the first drawing does not keep anyone waiting longer
+  Counters earlier = first;
   Screen screen;
   std::vector<Section> sections;
   double due = earlier.network.seconds + (needsTime(shown) ? std::min(kFirst, options.seconds) : 0.0);
@@ -142,12 +144,12 @@ int showAgainAndAgain(Topics shown, Counters earlier, const ShowOptions& options
   return 0;
 }
 
-int run(Text verb, Words words, std::span<const ShowFlag> flags,
+int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*describeVerb)(),
         int (*show)(Topics shown, const Counters& first, const ShowOptions& options)) {
   ShowOptions options;
   const Operands operands = takeFlags<ShowOptions>(verb, words, flags, options);
   if (operands.help) {
-    std::cout << help(verb, flags);
+    std::cout << helpText(describeVerb());
     return std::cout.flush() ? 0 : 1;
   }
   const Topics shown = topicsIn(verb, operands.words);
@@ -158,12 +160,10 @@ int run(Text verb, Words words, std::span<const ShowFlag> flags,
 
 }  // namespace
 
-int showVerb(Words words) { return run("show", words, kShowFlags, showOnce); }
+Description describeShow() { return describe("show [TOPIC] [FLAG...]", kShowFlags); }
+Description describeMonitor() { return describe("monitor [TOPIC] [FLAG...]", kMonitorFlags); }
 
-int monitorVerb(Words words) {
-  return run("monitor", words, kMonitorFlags, [](Topics shown, const Counters& first, const ShowOptions& options) {
-    return showAgainAndAgain(shown, first, options);
-  });
-}
+int showVerb(Words words) { return run("show", words, kShowFlags, describeShow, showOnce); }
+int monitorVerb(Words words) { return run("monitor", words, kMonitorFlags, describeMonitor, showContinuously); }
 
 }  // namespace kzm::cli

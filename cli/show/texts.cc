@@ -15,12 +15,7 @@ namespace {
 // The number's attributes; the unit has none.
 const Value kStrong = true;
 
-Dictionary rule(int below, int decimals) {
-  return {
-      {"value",    below   },
-      {"decimals", decimals}
-  };
-}
+Dictionary rule(int below, int decimals) { return {{"value", below}, {"decimals", decimals}}; }
 
 // Three digits that count: 1.25, 12.5, 125.
 const Value& threeDigits() {
@@ -29,14 +24,12 @@ const Value& threeDigits() {
 }
 
 Dictionary sizeOptions() {
-  return {
-      {"space",           true         },
-      {"decimals-mb",     threeDigits()},
-      {"decimals-gb",     threeDigits()},
-      {"decimals-tb",     threeDigits()},
-      {"decimals-pb",     threeDigits()},
-      {"attributes-main", kStrong      }
-  };
+  return {{"space", true},
+          {"decimals-mb", threeDigits()},
+          {"decimals-gb", threeDigits()},
+          {"decimals-tb", threeDigits()},
+          {"decimals-pb", threeDigits()},
+          {"attributes-main", kStrong}};
 }
 
 Cell cellOf(const AttributedString& text) {
@@ -47,11 +40,7 @@ Cell cellOf(const AttributedString& text) {
   return cell;
 }
 
-Cell dash() {
-  return {
-      {"–", Style::faint}
-  };
-}
+Cell dash() { return {{"–", Style::faint}}; }
 
 }  // namespace
 
@@ -83,28 +72,18 @@ Cell memoryCell(std::optional<double> bytes) {
 }
 
 Cell partCell(std::optional<double> part) {
-  static const Dictionary& options = *new Dictionary{
-      {"attributes-main", kStrong}
-  };
+  static const Dictionary& options = *new Dictionary{{"attributes-main", kStrong}};
   constexpr double kPercent = 100.0;
   return part.has_value() ? cellOf(KZMUtilitiesFormatPercentageWithAttributes(options, *part * kPercent)) : dash();
 }
 
 Cell loadCell(double programs) {
-  return {
-      {KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(programs), Style::strong}
-  };
+  return {{KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(programs), Style::strong}};
 }
 
 Cell sensorCell(machine::Kind kind, double value) {
-  static const Dictionary& options = *new Dictionary{
-      {"units", true},
-      {"space", true},
-      {"off",   true}
-  };
-  return {
-      {KZMUtilitiesFormatSensor(static_cast<std::int64_t>(kind), options, value), Style::strong}
-  };
+  static const Dictionary& options = *new Dictionary{{"units", true}, {"space", true}, {"off", true}};
+  return {{KZMUtilitiesFormatSensor(static_cast<std::int64_t>(kind), options, value), Style::strong}};
 }
 
 }  // namespace kzm::cli

@@ -31,30 +31,20 @@ bool isChosen(const Activity& activity, const RowChoice& choice) {
 }
 
 Section networkSection(const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{
-      "Network", {"received", "sent"},
-       {          }
-  };
+  Section section{"Network", {"received", "sent"}, {}};
   for (const Activity& activity : snapshot.network) {
     if (!isChosen(activity, choice)) continue;
     const auto& [name, in, out] = activity.rate;
-    section.rows.push_back({
-        name, {networkCell(choice.bandwidth, in), networkCell(choice.bandwidth, out)}
-    });
+    section.rows.push_back({name, {networkCell(choice.bandwidth, in), networkCell(choice.bandwidth, out)}});
   }
   return section;
 }
 
 Section disksSection(const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{
-      "Disk activity", {"read",   "written"},
-       {        }
-  };
+  Section section{"Disk activity", {"read", "written"}, {}};
   for (const Activity& activity : snapshot.disks) {
     if (!choice.all && !activity.wasUsed) continue;
-    section.rows.push_back({
-        activity.rate.name, {diskCell(activity.rate.in), diskCell(activity.rate.out)}
-    });
+    section.rows.push_back({activity.rate.name, {diskCell(activity.rate.in), diskCell(activity.rate.out)}});
   }
   return section;
 }
@@ -68,17 +58,12 @@ void addBar(double part, Row& row) {
 double partOf(double some, double all) { return all > 0 ? some / all : 0.0; }
 
 Section volumesSection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
-  Section section{
-      "Volumes", {"used",   "free"},
-       {        }
-  };
+  Section section{"Volumes", {"used", "free"}, {}};
   for (const machine::Volume& volume : snapshot.volumes) {
     const auto used = static_cast<double>(volume.space.used);
     const auto free = static_cast<double>(volume.space.free);
     const double part = partOf(used, used + free);
-    section.rows.push_back({
-        volume.name, {spaceCell(used), spaceCell(free), partCell(part), bar(part)}
-    });
+    section.rows.push_back({volume.name, {spaceCell(used), spaceCell(free), partCell(part), bar(part)}});
   }
   return section;
 }
@@ -88,23 +73,16 @@ void addMemory(std::string name, std::optional<std::uint64_t> total, std::option
   if (total.value_or(0) == 0) return;
   const auto all = static_cast<double>(*total);
   if (!free.has_value()) {
-    section.rows.push_back({
-        std::move(name), {memoryCell(std::nullopt), memoryCell(std::nullopt)}
-    });
+    section.rows.push_back({std::move(name), {memoryCell(std::nullopt), memoryCell(std::nullopt)}});
     return;
   }
   const auto left = static_cast<double>(*free);
   const double part = partOf(all - left, all);
-  section.rows.push_back({
-      std::move(name), {memoryCell(all - left), memoryCell(left), partCell(part), bar(part)}
-  });
+  section.rows.push_back({std::move(name), {memoryCell(all - left), memoryCell(left), partCell(part), bar(part)}});
 }
 
 Section memorySection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
-  Section section{
-      "Memory", {"used",   "free"},
-       {        }
-  };
+  Section section{"Memory", {"used", "free"}, {}};
   addMemory("main", snapshot.memory.total, snapshot.memory.available, section);
   addMemory("swap", snapshot.memory.swapTotal, snapshot.memory.swapFree, section);
   return section;
@@ -116,9 +94,8 @@ Section loadSection(const Snapshot& snapshot, const RowChoice& choice) {
   for (const machine::ProcessorLoad& load : snapshot.processor) {
     const bool isAll = &load == &snapshot.processor.front();
     if (!isAll && !choice.all) break;
-    section.rows.push_back({
-        isAll ? "processor" : load.name, {partCell(load.busy), {}, {}, bar(load.busy.value_or(0))}
-    });
+    section.rows.push_back(
+        {isAll ? "processor" : load.name, {partCell(load.busy), {}, {}, bar(load.busy.value_or(0))}});
   }
   constexpr const char* kSpans[] = {"over 1 minute", "over 5 minutes", "over 15 minutes"};
   for (std::size_t i = 0; snapshot.loadAverages.has_value() && i < std::size(kSpans); ++i) {
@@ -192,19 +169,19 @@ constexpr bool kRates = true;
 constexpr bool kAtOnce = false;
 
 constexpr Topic kTopics[] = {
-    {"network",              "what every interface receives and sends", kRates,  readNothing,                        networkSection                           },
-    {"disks",                "what every disk reads and writes",        kRates,  readNothing,                        disksSection                             },
-    {"volumes",              "used and free space",                     kAtOnce, readVolumes,                        volumesSection                           },
-    {"memory",               "used and free memory",                    kAtOnce, readMemory,                         memorySection                            },
-    {"load",                 "how busy the processor is",               kRates,  readLoad,                           loadSection                              },
-    {"temperatures",         "in the user's unit",                      kAtOnce, readSensors,                        sensors<Kind::temperature,                 kTemperatures>},
-    {"fans",                      "their speed",                                                          kAtOnce,                               readSensors, sensors<Kind::fan, kFans>},
-    {"voltages",                "of every sensor",                                                         kAtOnce,                                                       readSensors,                                                         sensors<Kind::voltage,                                   kVoltages>},
-    {"currents", "of every sensor",                                kAtOnce,                                       readSensors,        sensors<Kind::current,kCurrents>},
-    {"power",           "what is drawn",                               kAtOnce,readSensors,                 sensors<Kind::power,                                                       kPower>},
-    {"frequencies",               "of the processors",               kAtOnce,              readSensors,                         sensors<Kind::frequency,            kFrequencies>},
-    {"light","around the machine",         kAtOnce,readSensors,sensors<Kind::light,kLight>},
-    {"battery",                "level and charge",                                                 kAtOnce,                                         readBatteries,                                                                         batterySection                                                                                                                    },
+    {"network", "what every interface receives and sends", kRates, readNothing, networkSection},
+    {"disks", "what every disk reads and writes", kRates, readNothing, disksSection},
+    {"volumes", "used and free space", kAtOnce, readVolumes, volumesSection},
+    {"memory", "used and free memory", kAtOnce, readMemory, memorySection},
+    {"load", "how busy the processor is", kRates, readLoad, loadSection},
+    {"temperatures", "in the user's unit", kAtOnce, readSensors, sensors<Kind::temperature, kTemperatures>},
+    {"fans", "their speed", kAtOnce, readSensors, sensors<Kind::fan, kFans>},
+    {"voltages", "of every sensor", kAtOnce, readSensors, sensors<Kind::voltage, kVoltages>},
+    {"currents", "of every sensor", kAtOnce, readSensors, sensors<Kind::current, kCurrents>},
+    {"power", "what is drawn", kAtOnce, readSensors, sensors<Kind::power, kPower>},
+    {"frequencies", "of the processors", kAtOnce, readSensors, sensors<Kind::frequency, kFrequencies>},
+    {"light", "around the machine", kAtOnce, readSensors, sensors<Kind::light, kLight>},
+    {"battery", "level and charge", kAtOnce, readBatteries, batterySection},
 };
 
 }  // namespace

@@ -26,10 +26,10 @@ struct Direction {
   AttributedString (*text)(const Styles& styles, double bytesPerSecond);
 };
 constexpr Direction kDirections[] = {
-    {Icon::received, 0.55, &ActivitySamples::network, &Rate::in,  &Counter::in,  networkText},
-    {Icon::sent,     0.42, &ActivitySamples::network, &Rate::out, &Counter::out, networkText},
-    {Icon::read,     0.62, &ActivitySamples::disks,   &Rate::in,  &Counter::in,  diskText   },
-    {Icon::written,  0.07, &ActivitySamples::disks,   &Rate::out, &Counter::out, diskText   },
+    {Icon::received, 0.55, &ActivitySamples::network, &Rate::in, &Counter::in, networkText},
+    {Icon::sent, 0.42, &ActivitySamples::network, &Rate::out, &Counter::out, networkText},
+    {Icon::read, 0.62, &ActivitySamples::disks, &Rate::in, &Counter::in, diskText},
+    {Icon::written, 0.07, &ActivitySamples::disks, &Rate::out, &Counter::out, diskText},
 };
 
 // One KB/s shows nothing, one GB/s fills the meter; four bars are about one power of ten.

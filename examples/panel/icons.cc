@@ -15,32 +15,16 @@ struct Mark {
   double v[6];
 };
 
-constexpr Mark move(double x, double y) {
-  return {
-      Verb::move, {x, y}
-  };
-}
-constexpr Mark line(double x, double y) {
-  return {
-      Verb::line, {x, y}
-  };
-}
+constexpr Mark move(double x, double y) { return {Verb::move, {x, y}}; }
+constexpr Mark line(double x, double y) { return {Verb::line, {x, y}}; }
 constexpr Mark curve(double x1, double y1, double x2, double y2, double x, double y) {
-  return {
-      Verb::curve, {x1, y1, x2, y2, x, y}
-  };
+  return {Verb::curve, {x1, y1, x2, y2, x, y}};
 }
 // In turns, clockwise from three o'clock.
 constexpr Mark arc(double x, double y, double radius, double from, double to) {
-  return {
-      Verb::arc, {x, y, radius, from, to}
-  };
+  return {Verb::arc, {x, y, radius, from, to}};
 }
-constexpr Mark box(double x, double y, double width, double height) {
-  return {
-      Verb::box, {x, y, width, height}
-  };
-}
+constexpr Mark box(double x, double y, double width, double height) { return {Verb::box, {x, y, width, height}}; }
 
 constexpr Mark kReceived[] = {move(7, 16.5),
                               arc(6.8, 12.6, 3.9, 0.25, 0.70),
@@ -89,17 +73,8 @@ struct Drawing {
 
 // In the order of Icon.
 constexpr Drawing kDrawings[] = {
-    {kReceived,    1},
-    {kSent,        1},
-    {kRead,        1},
-    {kWritten,     1},
-    {kMemory,      1},
-    {kSpace,       1},
-    {kLoad,        4},
-    {kFrequency,   1},
-    {kTemperature, 1},
-    {kFan,         4},
-    {kBattery,     1},
+    {kReceived, 1}, {kSent, 1},      {kRead, 1},        {kWritten, 1}, {kMemory, 1},  {kSpace, 1},
+    {kLoad, 4},     {kFrequency, 1}, {kTemperature, 1}, {kFan, 4},     {kBattery, 1},
 };
 static_assert(std::size(kDrawings) == static_cast<std::size_t>(Icon::battery) + 1);
 

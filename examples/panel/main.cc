@@ -46,7 +46,7 @@ struct Option {
 constexpr Option kOptions[] = {
     {"--locale", useLocale},
     {"--output", useOutput},
-    {"--scale",  useScale },
+    {"--scale", useScale},
 };
 
 bool take(std::string_view name, const char* value, Options& options) {

@@ -73,9 +73,9 @@ struct SensorRow {
   double full;  // fills the bar, in the reading's own unit
 };
 constexpr SensorRow kSensorRows[] = {
-    {Kind::frequency,   Icon::frequency,   0.46, 5000.0},
-    {Kind::temperature, Icon::temperature, 0.03, 100.0 },
-    {Kind::fan,         Icon::fan,         0.53, 5000.0},
+    {Kind::frequency, Icon::frequency, 0.46, 5000.0},
+    {Kind::temperature, Icon::temperature, 0.03, 100.0},
+    {Kind::fan, Icon::fan, 0.53, 5000.0},
 };
 
 void addSensors(const Root& root, std::vector<Row>& rows) {

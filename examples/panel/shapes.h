@@ -9,10 +9,7 @@
 namespace kzm::panel {
 
 [[nodiscard]] constexpr Rect rectOf(double x, double y, double width, double height) {
-  return {
-      Point{x,     y     },
-      Size{width, height}
-  };
+  return {Point{x, y}, Size{width, height}};
 }
 
 /// Puts things where they belong in the direction of writing: places are told as from left to right.

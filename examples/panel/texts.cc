@@ -12,19 +12,10 @@
 namespace kzm::panel {
 namespace {
 
-Dictionary rule(int below, int decimals) {
-  return {
-      {"value",    below   },
-      {"decimals", decimals}
-  };
-}
+Dictionary rule(int below, int decimals) { return {{"value", below}, {"decimals", decimals}}; }
 
 Dictionary options(const Styles& styles) {
-  return {
-      {"space",            true        },
-      {"attributes-main",  styles.main },
-      {"attributes-units", styles.units}
-  };
+  return {{"space", true}, {"attributes-main", styles.main}, {"attributes-units", styles.units}};
 }
 
 // Three digits that count: 1.25, 12.5, 125.

@@ -20,8 +20,7 @@ namespace {
 // Says so if there is no journal on this machine.
 bool writeToJournal(const std::string& text) {
   const std::array<GLogField, 3> fields{
-      {{"MESSAGE", text.c_str(), -1}, {"PRIORITY", "5", -1}, {"SYSLOG_IDENTIFIER", program_invocation_short_name, -1}}
-  };
+      {{"MESSAGE", text.c_str(), -1}, {"PRIORITY", "5", -1}, {"SYSLOG_IDENTIFIER", program_invocation_short_name, -1}}};
   return g_log_writer_journald(G_LOG_LEVEL_MESSAGE, fields.data(), fields.size(), nullptr) == G_LOG_WRITER_HANDLED;
 }
 
@@ -49,9 +48,7 @@ std::string banner() {
 void writeToStandardError(std::string text) {
   std::string head = banner();
   text += '\n';
-  const std::array<iovec, 2> parts{
-      {{head.data(), head.size()}, {text.data(), text.size()}}
-  };
+  const std::array<iovec, 2> parts{{{head.data(), head.size()}, {text.data(), text.size()}}};
   retried([&] { return ::writev(STDERR_FILENO, parts.data(), static_cast<int>(parts.size())); });
 }
 

@@ -8,12 +8,9 @@
 #include <unistd.h>
 #include <utility>
 
+#include "port/linux/pidfd.h"
 #include "port/linux/retried.h"
 #include "port/linux/spawn.h"
-
-extern "C" {  // this header does not say itself that its functions are C
-#include <sys/pidfd.h>
-}
 
 namespace kzm::port {
 namespace {
@@ -41,7 +38,7 @@ class LinuxTask final : public Task {
   [[nodiscard]] std::optional<ExitStatus> collect() override {
     if (status_) return status_;
     siginfo_t info{};
-    if (!pidfd_.isOpen() || !waitFor(P_PIDFD, static_cast<id_t>(pidfd_.descriptor()), info, WEXITED | WNOHANG)) {
+    if (!pidfd_.isOpen() || !waitFor(kPidfd, static_cast<id_t>(pidfd_.descriptor()), info, WEXITED | WNOHANG)) {
       status_ = ExitStatus{};  // ended, but something else has taken the status: a host that ignores SIGCHLD, say
     } else if (info.si_pid != 0) {
       status_ = statusOf(info);
@@ -50,7 +47,7 @@ class LinuxTask final : public Task {
   }
 
   void signal(int number) override {
-    if (!status_ && pidfd_.isOpen()) ::pidfd_send_signal(pidfd_.descriptor(), number, nullptr, 0);
+    if (!status_ && pidfd_.isOpen()) signalPidfd(pidfd_.descriptor(), number);
   }
 
  private:
@@ -64,7 +61,7 @@ class LinuxTask final : public Task {
 FileHandle onlyOwnChild(FileHandle pidfd) {
   siginfo_t info{};
   const auto descriptor = static_cast<id_t>(pidfd.descriptor());
-  if (pidfd.isOpen() && !waitFor(P_PIDFD, descriptor, info, WEXITED | WNOHANG | WNOWAIT)) pidfd.close();
+  if (pidfd.isOpen() && !waitFor(kPidfd, descriptor, info, WEXITED | WNOHANG | WNOWAIT)) pidfd.close();
   return pidfd;
 }
 
@@ -81,12 +78,12 @@ void abandon(pid_t process) {
 
 std::unique_ptr<Task> start(const Launch& launch) {
   // Proves, before anything is started, that such a descriptor is to be had, and keeps its place free.
-  FileHandle place = FileHandle::adopt(::pidfd_open(::getpid(), 0));
+  FileHandle place = FileHandle::adopt(openPidfd(::getpid()));
   if (!place.isOpen()) return nullptr;
   const std::optional<pid_t> process = spawn(launch);
   place.close();
   if (!process) return nullptr;
-  const int pidfd = ::pidfd_open(*process, 0);
+  const int pidfd = openPidfd(*process);
   if (pidfd < 0 && errno != ESRCH) {
     abandon(*process);
     return nullptr;

@@ -3,22 +3,11 @@
 namespace kzm::bytes {
 namespace {
 
-const Dictionary kEarly{
-    {"early-upgrade", true}
-};
+const Dictionary kEarly{{"early-upgrade", true}};
 
-Dictionary code(Value code) {
-  return {
-      {"bandwidthformat", std::move(code)}
-  };
-}
+Dictionary code(Value code) { return {{"bandwidthformat", std::move(code)}}; }
 
-Dictionary reversed(Value code) {
-  return {
-      {"bandwidthformat", std::move(code)},
-      {"reverse-type",    true           }
-  };
-}
+Dictionary reversed(Value code) { return {{"bandwidthformat", std::move(code)}, {"reverse-type", true}}; }
 
 void expectAll(std::span<const DataRow> rows) {
   for (const DataRow& row : rows) expectData(row, KZMUtilitiesBandwidthData(row.options, row.quantity));
@@ -26,20 +15,20 @@ void expectAll(std::span<const DataRow> rows) {
 
 TEST(Bandwidth, ThresholdsAreReachedNotPassed) {
   const DataRow rows[] = {
-      {"below mega",               {},     0x1.fffffffffffffp19, "%@KB/s", 0x1.fffffffffffffp9 },
-      {"a byte below mega",        {},     1048575.0,            "%@KB/s", 1023.9990234375     },
-      {"mega",                     {},     1048576.0,            "%@MB/s", 1.0                 },
-      {"above mega",               {},     0x1.0000000000001p20, "%@MB/s", 0x1.0000000000001p0 },
-      {"below giga",               {},     0x1.fffffffffffffp29, "%@MB/s", 0x1.fffffffffffffp9 },
-      {"a byte below giga",        {},     1073741823.0,         "%@MB/s", 1023.9999990463257  },
-      {"giga",                     {},     1073741824.0,         "%@GB/s", 1.0                 },
-      {"above giga",               {},     0x1.0000000000001p30, "%@GB/s", 0x1.0000000000001p0 },
-      {"early: below mega",        kEarly, 0x1.e847fffffffffp19, "%@KB/s", 0x1.e847fffffffffp9 },
-      {"early: a byte below mega", kEarly, 999999.0,             "%@KB/s", 976.5615234375      },
-      {"early: above mega",        kEarly, 0x1.e848000000001p19, "%@MB/s", 0x1.e848000000001p-1},
-      {"early: below giga",        kEarly, 0x1.dcd64ffffffffp29, "%@MB/s", 0x1.dcd64ffffffffp9 },
-      {"early: a byte below giga", kEarly, 999999999.0,          "%@MB/s", 953.6743154525757   },
-      {"early: above giga",        kEarly, 0x1.dcd6500000001p29, "%@GB/s", 0x1.dcd6500000001p-1},
+      {"below mega", {}, 0x1.fffffffffffffp19, "%@KB/s", 0x1.fffffffffffffp9},
+      {"a byte below mega", {}, 1048575.0, "%@KB/s", 1023.9990234375},
+      {"mega", {}, 1048576.0, "%@MB/s", 1.0},
+      {"above mega", {}, 0x1.0000000000001p20, "%@MB/s", 0x1.0000000000001p0},
+      {"below giga", {}, 0x1.fffffffffffffp29, "%@MB/s", 0x1.fffffffffffffp9},
+      {"a byte below giga", {}, 1073741823.0, "%@MB/s", 1023.9999990463257},
+      {"giga", {}, 1073741824.0, "%@GB/s", 1.0},
+      {"above giga", {}, 0x1.0000000000001p30, "%@GB/s", 0x1.0000000000001p0},
+      {"early: below mega", kEarly, 0x1.e847fffffffffp19, "%@KB/s", 0x1.e847fffffffffp9},
+      {"early: a byte below mega", kEarly, 999999.0, "%@KB/s", 976.5615234375},
+      {"early: above mega", kEarly, 0x1.e848000000001p19, "%@MB/s", 0x1.e848000000001p-1},
+      {"early: below giga", kEarly, 0x1.dcd64ffffffffp29, "%@MB/s", 0x1.dcd64ffffffffp9},
+      {"early: a byte below giga", kEarly, 999999999.0, "%@MB/s", 953.6743154525757},
+      {"early: above giga", kEarly, 0x1.dcd6500000001p29, "%@GB/s", 0x1.dcd6500000001p-1},
   };
   expectAll(rows);
 }
@@ -158,10 +147,7 @@ TEST(Bandwidth, EveryUnitInItsStyle) {
   constexpr double kBytes[] = {2048.0, 3145728.0, 4294967296.0};
   constexpr double kAsBits[] = {256.0, 393216.0, 536870912.0};
   for (const Style& style : styles) {
-    const Dictionary bytes{
-        {"unitsize", style.size },
-        {"space",    style.space}
-    };
+    const Dictionary bytes{{"unitsize", style.size}, {"space", style.space}};
     const Dictionary bits = with(bytes, "bandwidthformat", 2);
     for (std::size_t level = 0; level < 3; ++level) {
       EXPECT_EQ(KZMUtilitiesFormatBandwidth(bytes, kBytes[level]), style.bytes[level]);
@@ -200,21 +186,16 @@ TEST(Bandwidth, UnitSizes) {
 }
 
 TEST(Bandwidth, TheWorkedExample) {
-  const Dictionary options{
-      {"bandwidthformat",  2                               },
-      {"space",            true                            },
-      {"unitsize",         3                               },
-      {"decimals-mb",      Array{rule(10, 2), rule(100, 1)}},
-      {"attributes-main",  "bold"                          },
-      {"attributes-units", "grey"                          }
-  };
+  const Dictionary options{{"bandwidthformat", 2},
+                           {"space", true},
+                           {"unitsize", 3},
+                           {"decimals-mb", Array{rule(10, 2), rule(100, 1)}},
+                           {"attributes-main", "bold"},
+                           {"attributes-units", "grey"}};
   expectData({"data", {}, 0.0, "%@ Mb/s", 11.444091796875, 1}, KZMUtilitiesBandwidthData(options, 1500000.0));
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 1500000.0), "11.4 Mb/s");
   EXPECT_EQ(KZMUtilitiesFormatBandwidthWithAttributes(options, 1500000.0).runs(),
-            (Runs{
-                {"11.4",  "bold"},
-                {" Mb/s", "grey"}
-  }));
+            (Runs{{"11.4", "bold"}, {" Mb/s", "grey"}}));
 }
 
 TEST(Bandwidth, WithoutDecimalsTheAttributedNumberIsNeverGrouped) {
@@ -225,12 +206,8 @@ TEST(Bandwidth, WithoutDecimalsTheAttributedNumberIsNeverGrouped) {
     const char* plain;
     const char* attributed;
   };
-  const Dictionary oneDigit{
-      {"decimals-kb", Array{rule(1e9, 1)}}
-  };
-  const Dictionary negativeDigits{
-      {"decimals-kb", Array{rule(1e9, -1)}}
-  };
+  const Dictionary oneDigit{{"decimals-kb", Array{rule(1e9, 1)}}};
+  const Dictionary negativeDigits{{"decimals-kb", Array{rule(1e9, -1)}}};
   // clang-format off
   const Case cases[] = {
       {"rounded up to four digits", {}, 1048166.4, "1,024KB/s", "1024KB/s"},
@@ -258,29 +235,11 @@ TEST(Bandwidth, AttributesAreHandedThrough) {
   const auto runs = [](const Dictionary& options) {
     return KZMUtilitiesFormatBandwidthWithAttributes(options, 2048.0).runs();
   };
-  EXPECT_EQ(runs({
-  }),
-            (Runs{{"2KB/s", nullptr}}))
-      << "no attributes, one run";
-  EXPECT_EQ(runs({
-                {"attributes-main", "a"}
-  }),
-            (Runs{{"2", "a"}, {"KB/s", nullptr}}));
-  EXPECT_EQ(runs({
-                {"attributes-units", "a"}
-  }),
-            (Runs{{"2", nullptr}, {"KB/s", "a"}}));
-  EXPECT_EQ(runs({
-                {"attributes-main",  "a"},
-                {"attributes-units", "a"}
-  }),
-            (Runs{{"2KB/s", "a"}}))
-      << "equal, one run";
-  EXPECT_EQ(runs({
-                {"attributes-main",  false},
-                {"attributes-units", 0    }
-  }),
-            (Runs{{"2", false}, {"KB/s", 0}}))
+  EXPECT_EQ(runs({}), (Runs{{"2KB/s", nullptr}})) << "no attributes, one run";
+  EXPECT_EQ(runs({{"attributes-main", "a"}}), (Runs{{"2", "a"}, {"KB/s", nullptr}}));
+  EXPECT_EQ(runs({{"attributes-units", "a"}}), (Runs{{"2", nullptr}, {"KB/s", "a"}}));
+  EXPECT_EQ(runs({{"attributes-main", "a"}, {"attributes-units", "a"}}), (Runs{{"2KB/s", "a"}})) << "equal, one run";
+  EXPECT_EQ(runs({{"attributes-main", false}, {"attributes-units", 0}}), (Runs{{"2", false}, {"KB/s", 0}}))
       << "any set that is not null counts";
 }
 

@@ -45,9 +45,7 @@ std::int64_t decimalsOf(const Dictionary& result) { return *result.find("decimal
 
 TEST(DecimalsRules, TheFirstBoundAboveTheNumberDecides) {
   for (const RuleRow& row : kRules) {
-    const Dictionary options{
-        {"decimals-kb", row.rules}
-    };
+    const Dictionary options{{"decimals-kb", row.rules}};
     EXPECT_EQ(decimalsOf(KZMUtilitiesBandwidthData(options, row.kilobytes * 1024.0)), row.decimals) << row.why;
     EXPECT_EQ(decimalsOf(KZMUtilitiesDiskActivityData(options, row.kilobytes * 1024.0)), row.decimals) << row.why;
     EXPECT_EQ(decimalsOf(KZMUtilitiesMemoryData(options, row.kilobytes * 1024.0)), row.decimals) << row.why;
@@ -68,22 +66,20 @@ TEST(DecimalsRules, NoRuleMatchesWhatIsNotANumber) {
 }
 
 TEST(DecimalsRules, OnlyThoseOfTheLevelReachedAreRead) {
-  const Dictionary options{
-      {"decimals-kb", Array{rule(10000, 1)}},
-      {"decimals-mb", Array{rule(10000, 2)}},
-      {"decimals-gb", Array{rule(1e9, 3)}  },
-      {"decimals-tb", Array{rule(10000, 4)}},
-      {"decimals-pb", Array{rule(10000, 5)}}
-  };
+  const Dictionary options{{"decimals-kb", Array{rule(10000, 1)}},
+                           {"decimals-mb", Array{rule(10000, 2)}},
+                           {"decimals-gb", Array{rule(1e9, 3)}},
+                           {"decimals-tb", Array{rule(10000, 4)}},
+                           {"decimals-pb", Array{rule(10000, 5)}}};
   struct Case {
     double bytes;
     const char *bandwidth, *activity, *space, *memory;
   };
   const Case cases[] = {
-      {0x1.8p11, "3.0KB/s",           "3.0KB/s",           "3.1KB",    "3.0KB"    },
-      {0x1.8p21, "3.00MB/s",          "3.00MB/s",          "3.15MB",   "3.00MB"   },
-      {0x1.8p31, "3.000GB/s",         "3.000GB/s",         "3.221GB",  "3.000GB"  },
-      {0x1.8p41, "3,072.000GB/s",     "3,072.000GB/s",     "3.2985TB", "3.0000TB" },
+      {0x1.8p11, "3.0KB/s", "3.0KB/s", "3.1KB", "3.0KB"},
+      {0x1.8p21, "3.00MB/s", "3.00MB/s", "3.15MB", "3.00MB"},
+      {0x1.8p31, "3.000GB/s", "3.000GB/s", "3.221GB", "3.000GB"},
+      {0x1.8p41, "3,072.000GB/s", "3,072.000GB/s", "3.2985TB", "3.0000TB"},
       {0x1.8p51, "3,145,728.000GB/s", "3,145,728.000GB/s", "3.3777PB", "3.00000PB"},
   };
   for (const Case& c : cases) {
@@ -98,11 +94,7 @@ TEST(DecimalsRules, OnlyThoseOfTheLevelReachedAreRead) {
 
 TEST(DecimalsRules, CountsAreClampedOnlyWhenANumberIsWritten) {
   const auto text = [](std::int64_t decimals) {
-    return KZMUtilitiesFormatMemory(
-        {
-            {"decimals-kb", Array{rule(10, decimals)}}
-    },
-        1536.0);
+    return KZMUtilitiesFormatMemory({{"decimals-kb", Array{rule(10, decimals)}}}, 1536.0);
   };
   EXPECT_EQ(text(-1), "2KB");
   EXPECT_EQ(text(340), "1.5" + std::string(339, '0') + "KB");
@@ -114,12 +106,7 @@ TEST(DecimalsRules, AThousandRulesAreWalked) {
   Array rules;
   for (int i = 0; i < 1000; ++i) rules.push_back(rule(0, 9));
   rules.push_back(rule(2, 1));
-  EXPECT_EQ(KZMUtilitiesFormatMemory(
-                {
-                    {"decimals-kb", rules}
-  },
-                1536.0),
-            "1.5KB");
+  EXPECT_EQ(KZMUtilitiesFormatMemory({{"decimals-kb", rules}}, 1536.0), "1.5KB");
 }
 
 }  // namespace

@@ -3,9 +3,7 @@
 namespace kzm::bytes {
 namespace {
 
-const Dictionary kEarly{
-    {"early-upgrade", true}
-};
+const Dictionary kEarly{{"early-upgrade", true}};
 
 TEST(DiskActivity, LevelsAndValues) {
   // clang-format off
@@ -40,12 +38,8 @@ TEST(DiskActivity, LevelsAndValues) {
 }
 
 TEST(DiskActivity, EveryUnitInItsStyle) {
-  const Dictionary brief{
-      {"short", true}
-  };
-  const Dictionary spaced{
-      {"space", true}
-  };
+  const Dictionary brief{{"short", true}};
+  const Dictionary spaced{{"space", true}};
   // clang-format off
   const TextRow rows[] = {
       {"kilo brief",              brief,                              2048.0,       "2K"},
@@ -74,20 +68,14 @@ TEST(DiskActivity, EveryUnitInItsStyle) {
 }
 
 TEST(DiskActivity, HiddenBytesAreADashInTheAttributedTextAlone) {
-  const Dictionary hides{
-      {"hide-bytes",       true  },
-      {"attributes-main",  "bold"},
-      {"attributes-units", "grey"}
-  };
+  const Dictionary hides{{"hide-bytes", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
   struct Case {
     const char* why;
     Dictionary options;
     double rate;
     Runs runs;
   };
-  const Runs dash{
-      {"-", "bold"}
-  };
+  const Runs dash{{"-", "bold"}};
   // clang-format off
   const Case cases[] = {
       {"just below",       hides,                              1023.9,               dash},
@@ -114,15 +102,9 @@ TEST(DiskActivity, HiddenBytesAreADashInTheAttributedTextAlone) {
 }
 
 TEST(DiskActivity, TheAttributedNumberIsThatOfThePlainText) {
-  const Dictionary styled{
-      {"attributes-main",  "bold"},
-      {"attributes-units", "grey"}
-  };
+  const Dictionary styled{{"attributes-main", "bold"}, {"attributes-units", "grey"}};
   EXPECT_EQ(KZMUtilitiesFormatDiskActivityWithAttributes(styled, 1047552.0).runs(),
-            (Runs{
-                {"1,023", "bold"},
-                {"KB/s",  "grey"}
-  }));
+            (Runs{{"1,023", "bold"}, {"KB/s", "grey"}}));
 }
 
 }  // namespace

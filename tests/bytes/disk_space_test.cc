@@ -9,32 +9,32 @@ void expectAll(std::span<const DataRow> rows) {
 
 TEST(DiskSpace, TheFirstThreeThresholdsAreReachedTheFourthIsNot) {
   const DataRow rows[] = {
-      {"below 10^6",             {}, 0x1.e847fffffffffp19, "%@KB", 0x1.f3fffffffffffp9},
-      {"10^6 stays kilo",        {}, 1000000.0,            "%@KB", 1000.0             },
-      {"above 10^6",             {}, 0x1.e848000000001p19, "%@MB", 0x1.0000000000001p0},
-      {"a byte more",            {}, 1000001.0,            "%@MB", 1.000001           },
-      {"below 10^9",             {}, 0x1.dcd64ffffffffp29, "%@MB", 0x1.f3fffffffffffp9},
-      {"10^9 stays mega",        {}, 1000000000.0,         "%@MB", 1000.0             },
-      {"above 10^9",             {}, 0x1.dcd6500000001p29, "%@GB", 0x1.0000000000001p0},
-      {"a kilobyte more",        {}, 1000001000.0,         "%@GB", 1.000001           },
-      {"below 10^12",            {}, 0x1.d1a94a1ffffffp39, "%@GB", 0x1.f3fffffffffffp9},
-      {"10^12 stays giga",       {}, 1000000000000.0,      "%@GB", 1000.0             },
-      {"above 10^12",            {}, 0x1.d1a94a2000001p39, "%@TB", 0x1.0000000000001p0},
-      {"a kilobyte more still",  {}, 1000000001000.0,      "%@TB", 1.000000001        },
-      {"below 10^15",            {}, 0x1.c6bf52633ffffp49, "%@TB", 0x1.f3fffffffffffp9},
-      {"a megabyte below 10^15", {}, 999999999999000.0,    "%@TB", 999.999999999      },
-      {"10^15 is peta",          {}, 1000000000000000.0,   "%@PB", 1.000000004096     },
-      {"above 10^15",            {}, 0x1.c6bf526340001p49, "%@PB", 0x1.0000001197999p0},
+      {"below 10^6", {}, 0x1.e847fffffffffp19, "%@KB", 0x1.f3fffffffffffp9},
+      {"10^6 stays kilo", {}, 1000000.0, "%@KB", 1000.0},
+      {"above 10^6", {}, 0x1.e848000000001p19, "%@MB", 0x1.0000000000001p0},
+      {"a byte more", {}, 1000001.0, "%@MB", 1.000001},
+      {"below 10^9", {}, 0x1.dcd64ffffffffp29, "%@MB", 0x1.f3fffffffffffp9},
+      {"10^9 stays mega", {}, 1000000000.0, "%@MB", 1000.0},
+      {"above 10^9", {}, 0x1.dcd6500000001p29, "%@GB", 0x1.0000000000001p0},
+      {"a kilobyte more", {}, 1000001000.0, "%@GB", 1.000001},
+      {"below 10^12", {}, 0x1.d1a94a1ffffffp39, "%@GB", 0x1.f3fffffffffffp9},
+      {"10^12 stays giga", {}, 1000000000000.0, "%@GB", 1000.0},
+      {"above 10^12", {}, 0x1.d1a94a2000001p39, "%@TB", 0x1.0000000000001p0},
+      {"a kilobyte more still", {}, 1000000001000.0, "%@TB", 1.000000001},
+      {"below 10^15", {}, 0x1.c6bf52633ffffp49, "%@TB", 0x1.f3fffffffffffp9},
+      {"a megabyte below 10^15", {}, 999999999999000.0, "%@TB", 999.999999999},
+      {"10^15 is peta", {}, 1000000000000000.0, "%@PB", 1.000000004096},
+      {"above 10^15", {}, 0x1.c6bf526340001p49, "%@PB", 0x1.0000001197999p0},
   };
   expectAll(rows);
 }
 
 TEST(DiskSpace, ThePetaDivisorIsInSinglePrecision) {
   const DataRow rows[] = {
-      {"one",            {}, 1e15,                 "%@PB", 1.000000004096},
-      {"two",            {}, 2e15,                 "%@PB", 2.000000008192},
-      {"the divisor",    {}, 999999995904000.0,    "%@TB", 999.999995904 },
-      {"a thousandfold", {}, 999999995904000000.0, "%@PB", 1000.0        },
+      {"one", {}, 1e15, "%@PB", 1.000000004096},
+      {"two", {}, 2e15, "%@PB", 2.000000008192},
+      {"the divisor", {}, 999999995904000.0, "%@TB", 999.999995904},
+      {"a thousandfold", {}, 999999995904000000.0, "%@PB", 1000.0},
   };
   expectAll(rows);
 }
@@ -86,21 +86,18 @@ TEST(DiskSpace, EveryUnitInItsStyle) {
 }
 
 TEST(DiskSpace, ZerosAtTheEndAreDropped) {
-  const Dictionary twoDigits{
-      {"decimals-kb", Array{rule(10000, 2)}},
-      {"decimals-mb", Array{rule(10000, 2)}}
-  };
+  const Dictionary twoDigits{{"decimals-kb", Array{rule(10000, 2)}}, {"decimals-mb", Array{rule(10000, 2)}}};
   const TextRow rows[] = {
-      {"one digit left",    twoDigits, 1500000.0,  "1.5MB"  },
-      {"two digits needed", twoDigits, 1250000.0,  "1.25MB" },
-      {"rounded",           twoDigits, 1255000.0,  "1.26MB" },
-      {"half to even",      twoDigits, 1245000.0,  "1.24MB" },
-      {"none left",         twoDigits, 2000000.0,  "2MB"    },
-      {"grouped",           twoDigits, 1000000.0,  "1,000KB"},
-      {"minus zero",        twoDigits, -0.0,       "-0KB"   },
-      {"not a number",      {},        kNaN,       "NaNPB"  },
-      {"infinite",          {},        kInfinity,  "∞PB"  },
-      {"minus infinite",    {},        -kInfinity, "-∞KB" },
+      {"one digit left", twoDigits, 1500000.0, "1.5MB"},
+      {"two digits needed", twoDigits, 1250000.0, "1.25MB"},
+      {"rounded", twoDigits, 1255000.0, "1.26MB"},
+      {"half to even", twoDigits, 1245000.0, "1.24MB"},
+      {"none left", twoDigits, 2000000.0, "2MB"},
+      {"grouped", twoDigits, 1000000.0, "1,000KB"},
+      {"minus zero", twoDigits, -0.0, "-0KB"},
+      {"not a number", {}, kNaN, "NaNPB"},
+      {"infinite", {}, kInfinity, "∞PB"},
+      {"minus infinite", {}, -kInfinity, "-∞KB"},
   };
   for (const TextRow& row : rows) {
     EXPECT_EQ(KZMUtilitiesFormatSpace(row.options, row.quantity), row.text) << row.why;
@@ -109,17 +106,10 @@ TEST(DiskSpace, ZerosAtTheEndAreDropped) {
 }
 
 TEST(DiskSpace, TheNumberIsMainAndTheUnitIsUnit) {
-  const Dictionary options{
-      {"space",            true  },
-      {"attributes-main",  "bold"},
-      {"attributes-units", "grey"}
-  };
+  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
   EXPECT_EQ(KZMUtilitiesFormatSpace(options, 250000000000.0), "250 GB");
   EXPECT_EQ(KZMUtilitiesFormatSpaceWithAttributes(options, 250000000000.0).runs(),
-            (Runs{
-                {"250", "bold"},
-                {" GB", "grey"}
-  }));
+            (Runs{{"250", "bold"}, {" GB", "grey"}}));
 }
 
 }  // namespace

@@ -26,11 +26,7 @@ TEST(Ladder, RatesHaveFour) {
   };
   // clang-format on
   for (const Case& c : cases) {
-    const Ladder ladder = rateLadder(
-        {
-            {"early-upgrade", c.early}
-    },
-        c.lowest);
+    const Ladder ladder = rateLadder({{"early-upgrade", c.early}}, c.lowest);
     ASSERT_EQ(ladder.size(), c.rungs.size()) << c.why;
     for (std::size_t i = 0; i < ladder.size(); ++i) {
       EXPECT_EQ(ladder[i].level, c.rungs[i].first) << c.why;
@@ -53,9 +49,7 @@ TEST(Ladder, DividingIsNotMultiplyingByTheReciprocal) {
 }
 
 TEST(Ladder, OneThatCannotEndIsRefused) {
-  static constexpr Rung kNoEnd[] = {
-      {Level::kilo, bytes::Test::atMost, 1.0, times(1.0)}
-  };
+  static constexpr Rung kNoEnd[] = {{Level::kilo, bytes::Test::atMost, 1.0, times(1.0)}};
   // clang-format off
   static constexpr Rung kEndsEarly[] = {
       {Level::kilo, bytes::Test::otherwise, 0.0, times(1.0)},
@@ -67,14 +61,10 @@ TEST(Ladder, OneThatCannotEndIsRefused) {
 }
 
 TEST(Ladder, AHostsTableWithoutTheUnitGivesNoText) {
-  const Dictionary brief{
-      {"short", true}
-  };
+  const Dictionary brief{{"short", true}};
   const std::shared_ptr<Cache> before = KZMUtilities::shared().cache();
   const auto other = std::make_shared<Cache>();
-  other->set("Localizations-Units-Memory", Dictionary{
-                                               {"%@M", "%@ Mo"}
-  });
+  other->set("Localizations-Units-Memory", Dictionary{{"%@M", "%@ Mo"}});
   KZMUtilities::shared().setCache(other);
   EXPECT_EQ(KZMUtilitiesFormatMemory(brief, 3145728.0), "3 Mo") << "the host's text is used by the next call";
   EXPECT_EQ(KZMUtilitiesFormatMemory(brief, 2048.0), "");

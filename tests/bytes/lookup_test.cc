@@ -61,36 +61,16 @@ class Lookups : public testing::Test {
 
 TEST_F(Lookups, BandwidthUnitsWithoutPerSecondBearItsHintsAllTheSame) {
   constexpr Row kRows[] = {
-      {"%@ G",    "gigabyte"     },
-      {"%@ M",    "megabyte"     },
-      {"%@ K",    "kilobyte"     },
-      {"%@G",     "gigabyte"     },
-      {"%@M",     "megabyte"     },
-      {"%@K",     "kilobyte"     },
-      {"%@ Gb",   "gigabits/sec" },
-      {"%@ Mb",   "megabits/sec" },
-      {"%@ Kb",   "kilobits/sec" },
-      {"%@ GB",   "gigabytes/sec"},
-      {"%@ MB",   "megabytes/sec"},
-      {"%@ KB",   "kilobytes/sec"},
-      {"%@Gb",    "gigabits/sec" },
-      {"%@Mb",    "megabits/sec" },
-      {"%@Kb",    "kilobits/sec" },
-      {"%@GB",    "gigabytes/sec"},
-      {"%@MB",    "megabytes/sec"},
-      {"%@KB",    "kilobytes/sec"},
-      {"%@ Gb/s", "gigabits/sec" },
-      {"%@ Mb/s", "megabits/sec" },
-      {"%@ Kb/s", "kilobits/sec" },
-      {"%@ GB/s", "gigabytes/sec"},
-      {"%@ MB/s", "megabytes/sec"},
-      {"%@ KB/s", "kilobytes/sec"},
-      {"%@Gb/s",  "gigabits/sec" },
-      {"%@Mb/s",  "megabits/sec" },
-      {"%@Kb/s",  "kilobits/sec" },
-      {"%@GB/s",  "gigabytes/sec"},
-      {"%@MB/s",  "megabytes/sec"},
-      {"%@KB/s",  "kilobytes/sec"},
+      {"%@ G", "gigabyte"},         {"%@ M", "megabyte"},         {"%@ K", "kilobyte"},
+      {"%@G", "gigabyte"},          {"%@M", "megabyte"},          {"%@K", "kilobyte"},
+      {"%@ Gb", "gigabits/sec"},    {"%@ Mb", "megabits/sec"},    {"%@ Kb", "kilobits/sec"},
+      {"%@ GB", "gigabytes/sec"},   {"%@ MB", "megabytes/sec"},   {"%@ KB", "kilobytes/sec"},
+      {"%@Gb", "gigabits/sec"},     {"%@Mb", "megabits/sec"},     {"%@Kb", "kilobits/sec"},
+      {"%@GB", "gigabytes/sec"},    {"%@MB", "megabytes/sec"},    {"%@KB", "kilobytes/sec"},
+      {"%@ Gb/s", "gigabits/sec"},  {"%@ Mb/s", "megabits/sec"},  {"%@ Kb/s", "kilobits/sec"},
+      {"%@ GB/s", "gigabytes/sec"}, {"%@ MB/s", "megabytes/sec"}, {"%@ KB/s", "kilobytes/sec"},
+      {"%@Gb/s", "gigabits/sec"},   {"%@Mb/s", "megabits/sec"},   {"%@Kb/s", "kilobits/sec"},
+      {"%@GB/s", "gigabytes/sec"},  {"%@MB/s", "megabytes/sec"},  {"%@KB/s", "kilobytes/sec"},
   };
   EXPECT_EQ(KZMUtilitiesFormatBandwidth({}, 3145728.0), "<3 of Units.Network.%@MB/s>");
   expectLookups("Units.Network.", kRows);
@@ -99,15 +79,8 @@ TEST_F(Lookups, BandwidthUnitsWithoutPerSecondBearItsHintsAllTheSame) {
 
 TEST_F(Lookups, ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome) {
   constexpr Row kRows[] = {
-      {"%@G",     "petabyte"},
-      {"%@M",     "terabyte"},
-      {"%@K",     "gigabyte"},
-      {"%@ GB/s", "megabyte"},
-      {"%@ MB/s", "kilobyte"},
-      {"%@ KB/s", kNone     },
-      {"%@GB/s",  kNone     },
-      {"%@MB/s",  kNone     },
-      {"%@KB/s",  kNone     },
+      {"%@G", "petabyte"}, {"%@M", "terabyte"}, {"%@K", "gigabyte"}, {"%@ GB/s", "megabyte"}, {"%@ MB/s", "kilobyte"},
+      {"%@ KB/s", kNone},  {"%@GB/s", kNone},   {"%@MB/s", kNone},   {"%@KB/s", kNone},
   };
   EXPECT_EQ(*KZMUtilitiesDiskActivityData({}, 0.0).find("format"), Value("<%@ of Units.Activity.%@KB/s>"));
   expectLookups("Units.Activity.", kRows);
@@ -120,21 +93,9 @@ TEST_F(Lookups, ActivityKeysDifferFromItsCacheKey) {
 }
 
 constexpr Row kSizeRows[] = {
-    {"%@P",   "petabyte"},
-    {"%@T",   "terabyte"},
-    {"%@G",   "gigabyte"},
-    {"%@M",   "megabyte"},
-    {"%@K",   "kilobyte"},
-    {"%@ PB", kNone     },
-    {"%@ TB", kNone     },
-    {"%@ GB", kNone     },
-    {"%@ MB", kNone     },
-    {"%@ KB", kNone     },
-    {"%@PB",  kNone     },
-    {"%@TB",  kNone     },
-    {"%@GB",  kNone     },
-    {"%@MB",  kNone     },
-    {"%@KB",  kNone     },
+    {"%@P", "petabyte"}, {"%@T", "terabyte"}, {"%@G", "gigabyte"}, {"%@M", "megabyte"}, {"%@K", "kilobyte"},
+    {"%@ PB", kNone},    {"%@ TB", kNone},    {"%@ GB", kNone},    {"%@ MB", kNone},    {"%@ KB", kNone},
+    {"%@PB", kNone},     {"%@TB", kNone},     {"%@GB", kNone},     {"%@MB", kNone},     {"%@KB", kNone},
 };
 
 TEST_F(Lookups, Space) {
@@ -157,13 +118,7 @@ TEST_F(Lookups, ATableIsBuiltOnceForAllThreeCalls) {
 }
 
 TEST_F(Lookups, AHiddenRateLooksNothingUp) {
-  EXPECT_EQ(KZMUtilitiesFormatDiskActivityWithAttributes(
-                {
-                    {"hide-bytes", true}
-  },
-                1023.0)
-                .text(),
-            "-");
+  EXPECT_EQ(KZMUtilitiesFormatDiskActivityWithAttributes({{"hide-bytes", true}}, 1023.0).text(), "-");
   EXPECT_TRUE(lookups.empty());
   EXPECT_EQ(KZMUtilities::shared().cache()->size(), 0U);
 }

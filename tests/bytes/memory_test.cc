@@ -9,21 +9,21 @@ void expectAll(std::span<const DataRow> rows) {
 
 TEST(Memory, TheFirstThresholdIsReachedTheOthersAreNot) {
   const DataRow rows[] = {
-      {"below 2^20",         {}, 0x1.fffffffffffffp19, "%@KB", 0x1.fffffffffffffp9},
-      {"2^20 stays kilo",    {}, 1048576.0,            "%@KB", 1024.0             },
-      {"above 2^20",         {}, 0x1.0000000000001p20, "%@MB", 0x1.0000000000001p0},
-      {"a byte more",        {}, 1048577.0,            "%@MB", 1.0000009536743164 },
-      {"below 2^30",         {}, 0x1.fffffffffffffp29, "%@MB", 0x1.fffffffffffffp9},
-      {"a byte below 2^30",  {}, 1073741823.0,         "%@MB", 1023.9999990463257 },
-      {"2^30 is giga",       {}, 1073741824.0,         "%@GB", 1.0                },
-      {"above 2^30",         {}, 0x1.0000000000001p30, "%@GB", 0x1.0000000000001p0},
-      {"below 2^40",         {}, 0x1.fffffffffffffp39, "%@GB", 0x1.fffffffffffffp9},
-      {"2^40 is tera",       {}, 1099511627776.0,      "%@TB", 1.0                },
-      {"above 2^40",         {}, 0x1.0000000000001p40, "%@TB", 0x1.0000000000001p0},
-      {"below 2^50",         {}, 0x1.fffffffffffffp49, "%@TB", 0x1.fffffffffffffp9},
-      {"2^50 is peta",       {}, 1125899906842624.0,   "%@PB", 1.0                },
-      {"above 2^50",         {}, 0x1.0000000000001p50, "%@PB", 0x1.0000000000001p0},
-      {"nothing above peta", {}, 0x1p60,               "%@PB", 1024.0             },
+      {"below 2^20", {}, 0x1.fffffffffffffp19, "%@KB", 0x1.fffffffffffffp9},
+      {"2^20 stays kilo", {}, 1048576.0, "%@KB", 1024.0},
+      {"above 2^20", {}, 0x1.0000000000001p20, "%@MB", 0x1.0000000000001p0},
+      {"a byte more", {}, 1048577.0, "%@MB", 1.0000009536743164},
+      {"below 2^30", {}, 0x1.fffffffffffffp29, "%@MB", 0x1.fffffffffffffp9},
+      {"a byte below 2^30", {}, 1073741823.0, "%@MB", 1023.9999990463257},
+      {"2^30 is giga", {}, 1073741824.0, "%@GB", 1.0},
+      {"above 2^30", {}, 0x1.0000000000001p30, "%@GB", 0x1.0000000000001p0},
+      {"below 2^40", {}, 0x1.fffffffffffffp39, "%@GB", 0x1.fffffffffffffp9},
+      {"2^40 is tera", {}, 1099511627776.0, "%@TB", 1.0},
+      {"above 2^40", {}, 0x1.0000000000001p40, "%@TB", 0x1.0000000000001p0},
+      {"below 2^50", {}, 0x1.fffffffffffffp49, "%@TB", 0x1.fffffffffffffp9},
+      {"2^50 is peta", {}, 1125899906842624.0, "%@PB", 1.0},
+      {"above 2^50", {}, 0x1.0000000000001p50, "%@PB", 0x1.0000000000001p0},
+      {"nothing above peta", {}, 0x1p60, "%@PB", 1024.0},
   };
   expectAll(rows);
 }
@@ -74,19 +74,16 @@ TEST(Memory, EveryUnitInItsStyle) {
 }
 
 TEST(Memory, TextsInBothRenderings) {
-  const Dictionary twoDigits{
-      {"decimals-kb", Array{rule(10000, 2)}},
-      {"decimals-mb", Array{rule(10000, 2)}}
-  };
+  const Dictionary twoDigits{{"decimals-kb", Array{rule(10000, 2)}}, {"decimals-mb", Array{rule(10000, 2)}}};
   const TextRow rows[] = {
-      {"exactly so many digits",     twoDigits, 1572864.0,  "1.50MB"    },
-      {"zeros stay",                 twoDigits, 2097152.0,  "2.00MB"    },
-      {"grouped with digits",        twoDigits, 1048576.0,  "1,024.00KB"},
-      {"grouped without digits too", {},        1048576.0,  "1,024KB"   },
-      {"not a number",               {},        kNaN,       "NaNPB"     },
-      {"infinite",                   {},        kInfinity,  "∞PB"     },
-      {"minus infinite",             {},        -kInfinity, "-∞KB"    },
-      {"minus zero",                 {},        -0.0,       "-0KB"      },
+      {"exactly so many digits", twoDigits, 1572864.0, "1.50MB"},
+      {"zeros stay", twoDigits, 2097152.0, "2.00MB"},
+      {"grouped with digits", twoDigits, 1048576.0, "1,024.00KB"},
+      {"grouped without digits too", {}, 1048576.0, "1,024KB"},
+      {"not a number", {}, kNaN, "NaNPB"},
+      {"infinite", {}, kInfinity, "∞PB"},
+      {"minus infinite", {}, -kInfinity, "-∞KB"},
+      {"minus zero", {}, -0.0, "-0KB"},
   };
   for (const TextRow& row : rows) {
     EXPECT_EQ(KZMUtilitiesFormatMemory(row.options, row.quantity), row.text) << row.why;
@@ -95,16 +92,10 @@ TEST(Memory, TextsInBothRenderings) {
 }
 
 TEST(Memory, TheNumberIsMainAndTheUnitIsUnit) {
-  const Dictionary options{
-      {"space",            true  },
-      {"attributes-main",  "bold"},
-      {"attributes-units", "grey"}
-  };
+  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
   EXPECT_EQ(KZMUtilitiesFormatMemory(options, 1073741824.0), "1 GB");
-  EXPECT_EQ(KZMUtilitiesFormatMemoryWithAttributes(options, 1073741824.0).runs(), (Runs{
-                                                                                      {"1",   "bold"},
-                                                                                      {" GB", "grey"}
-  }));
+  EXPECT_EQ(KZMUtilitiesFormatMemoryWithAttributes(options, 1073741824.0).runs(),
+            (Runs{{"1", "bold"}, {" GB", "grey"}}));
 }
 
 }  // namespace

@@ -59,10 +59,7 @@ inline void expectData(const DataRow& row, const Dictionary& result) {
 
 /// A decimals rule: so many digits below the bound.
 inline Value rule(Value bound, Value decimals) {
-  return Dictionary{
-      {"value",    std::move(bound)   },
-      {"decimals", std::move(decimals)}
-  };
+  return Dictionary{{"value", std::move(bound)}, {"decimals", std::move(decimals)}};
 }
 
 /// Options with one more.

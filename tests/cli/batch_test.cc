@@ -21,26 +21,27 @@ TEST(Batch, AnswersInOrder) {
     const char* line;
     const char* answer;
   };
-  // clang-format off
   const Case cases[] = {
-      {R"({"call": "KZMUtilitiesFormatMemory", "args": [{}, 1024], "id": 7})",   R"({"id": 7, "result": "1KB"})"},
-      {R"({"call": "KZMUtilitiesFormatMemory", "args": [null, 1024]})",          R"({"id": null, "result": "1KB"})"},
-      {R"({"id": {"a": [1]}, "call": "mpsToKph", "args": [10]})",                R"({"id": {"a":[1]}, "result": 36.0})"},
-      {R"({"id": "x", "call": "nothing"})",                                      R"({"id": "x", "error": "no function is named \"nothing\""})"},
-      {R"({"id": 1, "call": 5})",                                                R"({"id": 1, "error": "\"call\" must be a name"})"},
-      {R"({"id": 1})",                                                           R"({"id": 1, "error": "\"call\" must be a name"})"},
-      {R"({"id": 1, "call": "mpsToKph", "args": 10})",                           R"({"id": 1, "error": "\"args\" must be an array"})"},
-      {R"({"id": 1, "call": "mpsToKph"})",                                       R"({"id": 1, "error": "wrong number of arguments (0) for mpsToKph metersPerSecond:double"})"},
-      {R"({"id": 1, "call": "mpsToKph", "args": [1, 2]})",                       R"({"id": 1, "error": "wrong number of arguments (2) for mpsToKph metersPerSecond:double"})"},
-      {R"({"id": 1, "settings": [], "call": "mpsToKph", "args": [1]})",          R"({"id": 1, "error": "\"settings\" must be an object"})"},
-      {R"([1])",                                                                 R"({"id": null, "error": "a batch line is one JSON object"})"},
-      {R"({"id": 1, )",                                                          R"({"id": null, "error": "malformed JSON at byte 11"})"},
-      {"",                                                                       R"({"id": null, "error": "malformed JSON at byte 1"})"},
-      {R"({"id": 2, "call": "mpsToKph", "args": ["NaN"]})",                      R"({"id": 2, "result": "NaN"})"},
-      {R"({"id": 3, "call": "mpsToKph", "args": ["-Infinity"]})",                R"({"id": 3, "result": "-Infinity"})"},
-      {R"({"id": 4, "call": "mpsToKph", "args": [-0.0]})",                       R"({"id": 4, "result": -0.0})"},
+      {R"({"call": "KZMUtilitiesFormatMemory", "args": [{}, 1024], "id": 7})", R"({"id": 7, "result": "1KB"})"},
+      {R"({"call": "KZMUtilitiesFormatMemory", "args": [null, 1024]})", R"({"id": null, "result": "1KB"})"},
+      {R"({"id": {"a": [1]}, "call": "mpsToKph", "args": [10]})", R"({"id": {"a":[1]}, "result": 36.0})"},
+      {R"({"id": "x", "call": "nothing"})", R"({"id": "x", "error": "no function is named \"nothing\""})"},
+      {R"({"id": 1, "call": 5})", R"({"id": 1, "error": "\"call\" must be a name"})"},
+      {R"({"id": 1})", R"({"id": 1, "error": "\"call\" must be a name"})"},
+      {R"({"id": 1, "call": "mpsToKph", "args": 10})", R"({"id": 1, "error": "\"args\" must be an array"})"},
+      {R"({"id": 1, "call": "mpsToKph"})",
+       R"({"id": 1, "error": "wrong number of arguments (0) for mpsToKph metersPerSecond:double"})"},
+      {R"({"id": 1, "call": "mpsToKph", "args": [1, 2]})",
+       R"({"id": 1, "error": "wrong number of arguments (2) for mpsToKph metersPerSecond:double"})"},
+      {R"({"id": 1, "settings": [], "call": "mpsToKph", "args": [1]})",
+       R"({"id": 1, "error": "\"settings\" must be an object"})"},
+      {R"([1])", R"({"id": null, "error": "a batch line is one JSON object"})"},
+      {R"({"id": 1, )", R"({"id": null, "error": "malformed JSON at byte 11"})"},
+      {"", R"({"id": null, "error": "malformed JSON at byte 1"})"},
+      {R"({"id": 2, "call": "mpsToKph", "args": ["NaN"]})", R"({"id": 2, "result": "NaN"})"},
+      {R"({"id": 3, "call": "mpsToKph", "args": ["-Infinity"]})", R"({"id": 3, "result": "-Infinity"})"},
+      {R"({"id": 4, "call": "mpsToKph", "args": [-0.0]})", R"({"id": 4, "result": -0.0})"},
   };
-  // clang-format on
   std::string lines;
   std::string answers;
   for (const Case& c : cases) {

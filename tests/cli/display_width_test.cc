@@ -12,18 +12,18 @@ TEST(DisplayWidth, CountsColumns) {
     std::size_t columns;
   };
   const Case cases[] = {
-      {"nothing",               "",           0},
-      {"letters",               "eth0",       4},
-      {"two bytes each",        "äöü",     3},
-      {"a combining mark",      "e\u0301",    1},
-      {"Arabic digits",         "٤٢",       2},
-      {"a bar",                 "█░",     2},
-      {"ideographs",            "网络",     4},
-      {"Hangul",                "네트",     4},
-      {"a pictograph",          "\U0001F600", 2},
-      {"an invisible mark",     "1\u200F",    1},
-      {"bytes that are broken", "\xff\xfe",   2},
-      {"a character cut short", "a\xe2\x96",  2},
+      {"nothing", "", 0},
+      {"letters", "eth0", 4},
+      {"two bytes each", "äöü", 3},
+      {"a combining mark", "e\u0301", 1},
+      {"Arabic digits", "٤٢", 2},
+      {"a bar", "█░", 2},
+      {"ideographs", "网络", 4},
+      {"Hangul", "네트", 4},
+      {"a pictograph", "\U0001F600", 2},
+      {"an invisible mark", "1\u200F", 1},
+      {"bytes that are broken", "\xff\xfe", 2},
+      {"a character cut short", "a\xe2\x96", 2},
   };
   for (const Case& c : cases) EXPECT_EQ(displayWidth(c.text), c.columns) << c.why;
 }
@@ -35,13 +35,8 @@ TEST(DisplayWidth, CutsBetweenCharacters) {
     std::string_view fitting;
   };
   const Case cases[] = {
-      {"network",  3, "net"    },
-      {"network",  9, "network"},
-      {"network",  0, ""       },
-      {"网络",   3, "网"    },
-      {"网络",   1, ""       },
-      {"äöü",   2, "äö"   },
-      {"e\u0301a", 1, "e\u0301"},
+      {"network", 3, "net"}, {"network", 9, "network"}, {"network", 0, ""},         {"网络", 3, "网"},
+      {"网络", 1, ""},       {"äöü", 2, "äö"},          {"e\u0301a", 1, "e\u0301"},
   };
   for (const Case& c : cases) EXPECT_EQ(fitting(c.text, c.columns), c.fitting) << c.text;
 }

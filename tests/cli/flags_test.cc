@@ -12,13 +12,13 @@ struct Target {
 };
 
 constexpr Flag<Target> kFlags[] = {
-    {"--loud", "",     "makes noise",       [](Target& target, std::string_view,        std::string_view) { target.loud = true; }},
+    {"--loud", "", "makes noise", [](Target& target, std::string_view, std::string_view) { target.loud = true; }},
     {"--name", "NAME", "what it is called",
-     [](Target& target,                                        std::string_view option, std::string_view value) {
+     [](Target& target, std::string_view option, std::string_view value) {
        if (value.empty()) throw InputError("is empty");
        target.name = value;
        target.option = option;
-     }                                    },
+     }},
 };
 
 using List = std::vector<std::string_view>;
@@ -98,9 +98,11 @@ TEST(Flags, LeadingOnesEndAtTheFirstOtherWord) {
 }
 
 TEST(Flags, TheHelpLinesUp) {
-  EXPECT_TRUE(
-      flagsHelp<Target>(kFlags).starts_with("  --loud                  makes noise\n"
-                                            "  --name NAME             what it is called\n"));
+  EXPECT_EQ(flagsHelp(textsOf(kFlags)),
+            "  --loud                  makes noise\n"
+            "  --name NAME             what it is called\n"
+            "  --locale ID             locale of numbers, texts and default units, such as de_CH\n"
+            "  --time-zone ID          default time zone, such as Europe/Paris\n");
 }
 
 }  // namespace

@@ -12,11 +12,9 @@ using Lines = std::vector<std::string>;
 
 Cell cell(const char* text) { return {{text}}; }
 
-const Section kNetwork{
-    "Network",
-    {"received",                            "sent"                                       },
-    {{"lo", {cell("0 KB/s"), cell("–")}}, {"eth0", {cell("11.4 MB/s"), cell("7 KB/s")}}}
-};
+const Section kNetwork{"Network",
+                       {"received", "sent"},
+                       {{"lo", {cell("0 KB/s"), cell("–")}}, {"eth0", {cell("11.4 MB/s"), cell("7 KB/s")}}}};
 
 TEST(Layout, NamesAtTheLeftNumbersAtTheRight) {
   EXPECT_EQ(laidOut({kNetwork}, {}), (Lines{
@@ -27,10 +25,7 @@ TEST(Layout, NamesAtTheLeftNumbersAtTheRight) {
 }
 
 TEST(Layout, SectionsShareOneGridAndEmptyOnesAreLeftOut) {
-  const Section disks{
-      "Disk activity", {"read", "written"},
-       {{"sda", {cell("123,456,789 GB/s"), cell("-")}}     }
-  };
+  const Section disks{"Disk activity", {"read", "written"}, {{"sda", {cell("123,456,789 GB/s"), cell("-")}}}};
   const Section fans{"Fans", {}, {}};
   EXPECT_EQ(laidOut({kNetwork, fans, disks}, {}), (Lines{
                                                       "Network                         received          sent",
@@ -52,9 +47,8 @@ TEST(Layout, AColumnInWhichNothingStandsTakesNoRoom) {
 TEST(Layout, WideNamesAndOtherScriptsStayAligned) {
   const Section section{
       "Volumes",
-      {                                                                   },
-      { {"/mnt/网络", {cell("٤٢ GB")}}, {"/a/very/long/directory/name/that/goes/on/and/on", {cell("1 GB")}}}
-  };
+      {},
+      {{"/mnt/网络", {cell("٤٢ GB")}}, {"/a/very/long/directory/name/that/goes/on/and/on", {cell("1 GB")}}}};
   const Lines lines = laidOut({section}, {});
   EXPECT_EQ(lines[1], "  /mnt/网络                                      ٤٢ GB");
   EXPECT_EQ(lines[2], "  /a/very/long/directory/name/that/goes…          1 GB");
@@ -85,15 +79,7 @@ TEST(Layout, BarsAreFilledByTheNearestPart) {
     std::size_t filled;
   };
   const Case cases[] = {
-      {0.0,      0 },
-      {0.024,    0 },
-      {0.026,    1 },
-      {0.5,      10},
-      {1.0,      20},
-      {-1.0,     0 },
-      {7.0,      20},
-      {NAN,      0 },
-      {INFINITY, 20},
+      {0.0, 0}, {0.024, 0}, {0.026, 1}, {0.5, 10}, {1.0, 20}, {-1.0, 0}, {7.0, 20}, {NAN, 0}, {INFINITY, 20},
   };
   for (const Case& c : cases) {
     const Cell cells = bar(c.part);

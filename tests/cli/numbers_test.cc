@@ -15,11 +15,11 @@ TEST(Numbers, AreReadWhole) {
     double number;
   };
   const Case cases[] = {
-      {"0",         0.0                                     },
-      {"-1.5",      -1.5                                    },
-      {"1e3",       1000.0                                  },
-      {"5.",        5.0                                     },
-      {"Infinity",  std::numeric_limits<double>::infinity() },
+      {"0", 0.0},
+      {"-1.5", -1.5},
+      {"1e3", 1000.0},
+      {"5.", 5.0},
+      {"Infinity", std::numeric_limits<double>::infinity()},
       {"-Infinity", -std::numeric_limits<double>::infinity()},
   };
   for (const Case& c : cases) EXPECT_EQ(numberIn(c.text), c.number) << c.text;

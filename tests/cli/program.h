@@ -29,15 +29,19 @@ inline ScratchDirectory& configuration() {
   return directory;
 }
 
-/// A running kzmutil; its standard output and error go to `output` and `errors`.
-inline pid_t started(const std::vector<std::string>& words, int input, int output, int errors) {
+/// A running kzmutil; its standard output and error go to `output` and `errors`. Variables beyond the usual ones go
+/// first.
+inline pid_t started(const std::vector<std::string>& words, int input, int output, int errors,
+                     std::vector<std::string> variables = {}) {
   std::vector<std::string> texts{KZMUTIL};
   texts.insert(texts.end(), words.begin(), words.end());
   std::vector<char*> arguments;
   for (std::string& text : texts) arguments.push_back(text.data());
   arguments.push_back(nullptr);
-  std::vector<std::string> variables{"LANG=en_US.UTF-8", "TZ=UTC", "PATH=/usr/bin:/bin", "TERM=xterm",
-                                     "XDG_CONFIG_HOME=" + configuration().path("config")};
+  for (const char* usual : {"LANG=en_US.UTF-8", "TZ=UTC", "PATH=/usr/bin:/bin", "TERM=xterm"}) {
+    variables.emplace_back(usual);
+  }
+  variables.push_back("XDG_CONFIG_HOME=" + configuration().path("config"));
   if (const char* options = std::getenv("ASAN_OPTIONS")) variables.push_back(std::string("ASAN_OPTIONS=") + options);
   std::vector<char*> environment;
   for (std::string& text : variables) environment.push_back(text.data());
@@ -92,23 +96,20 @@ inline bool readSome(int from, std::string& to) {
   return count > 0;
 }
 
-/// Runs kzmutil to its end with this standard input.
-inline Outcome run(const std::vector<std::string>& words, std::string_view input = {}) {
+/// Runs kzmutil to its end with this standard input, and with more variables in its environment.
+inline Outcome run(const std::vector<std::string>& words, std::string_view input = {},
+                   const std::vector<std::string>& variables = {}) {
   std::signal(SIGPIPE, SIG_IGN);
   Pipe in;
   Pipe out;
   Pipe err;
-  const pid_t process = started(words, in.reader(), out.writer(), err.writer());
+  const pid_t process = started(words, in.reader(), out.writer(), err.writer(), variables);
   in.closeReader();
   out.closeWriter();
   err.closeWriter();
   ::fcntl(in.writer(), F_SETFL, O_NONBLOCK);
   Outcome outcome;
-  pollfd watched[] = {
-      {out.reader(), POLLIN,  0},
-      {err.reader(), POLLIN,  0},
-      {in.writer(),  POLLOUT, 0}
-  };
+  pollfd watched[] = {{out.reader(), POLLIN, 0}, {err.reader(), POLLIN, 0}, {in.writer(), POLLOUT, 0}};
   while (watched[0].fd >= 0 || watched[1].fd >= 0) {
     if (input.empty()) {
       in.closeWriter();

@@ -19,23 +19,23 @@ TEST(Settings, AreSetByCodeOrByMeaning) {
     const char* got;
   };
   const Case cases[] = {
-      {kDegrees,                             "1",                 "1 celsius\n"          },
-      {kDegrees,                             "fahrenheit",        "2 fahrenheit\n"       },
-      {kDegrees,                             "KELVIN",            "3 kelvin\n"           },
-      {"Weather.Global.Units.Degrees",       "3",                 "3 kelvin\n"           },
-      {"Weather.Global.Units.WindSpeed",     "1",                 "1 metersPerSecond\n"  },
-      {"Weather.Global.Units.WindSpeed",     "kilometersperhour", "2 kilometersPerHour\n"},
-      {"Weather.Global.Units.WindSpeed",     "3",                 "3 milesPerHour\n"     },
-      {"Weather.Global.Units.WindSpeed",     "4",                 "4 knots\n"            },
-      {kPressure,                            "1",                 "1 hectopascals\n"     },
-      {kPressure,                            "2",                 "2 millibars\n"        },
-      {kPressure,                            "inchesOfMercury",   "3 inchesOfMercury\n"  },
-      {"Weather.Global.Units.Distance",      "1",                 "1 kilometers\n"       },
-      {"Weather.Global.Units.Distance",      "miles",             "2 miles\n"            },
-      {"Weather.Global.Units.Precipitation", "1",                 "1 millimeters\n"      },
-      {"Weather.Global.Units.Precipitation", "2",                 "2 inches\n"           },
-      {"Weather.Global.Units.Precipitation", "0",                 "0 region\n"           },
-      {"Weather.Global.Units.Precipitation", "region",            "0 region\n"           },
+      {kDegrees, "1", "1 celsius\n"},
+      {kDegrees, "fahrenheit", "2 fahrenheit\n"},
+      {kDegrees, "KELVIN", "3 kelvin\n"},
+      {"Weather.Global.Units.Degrees", "3", "3 kelvin\n"},
+      {"Weather.Global.Units.WindSpeed", "1", "1 metersPerSecond\n"},
+      {"Weather.Global.Units.WindSpeed", "kilometersperhour", "2 kilometersPerHour\n"},
+      {"Weather.Global.Units.WindSpeed", "3", "3 milesPerHour\n"},
+      {"Weather.Global.Units.WindSpeed", "4", "4 knots\n"},
+      {kPressure, "1", "1 hectopascals\n"},
+      {kPressure, "2", "2 millibars\n"},
+      {kPressure, "inchesOfMercury", "3 inchesOfMercury\n"},
+      {"Weather.Global.Units.Distance", "1", "1 kilometers\n"},
+      {"Weather.Global.Units.Distance", "miles", "2 miles\n"},
+      {"Weather.Global.Units.Precipitation", "1", "1 millimeters\n"},
+      {"Weather.Global.Units.Precipitation", "2", "2 inches\n"},
+      {"Weather.Global.Units.Precipitation", "0", "0 region\n"},
+      {"Weather.Global.Units.Precipitation", "region", "0 region\n"},
   };
   for (const Case& c : cases) {
     const Outcome outcome = run({"settings", "set", c.key, c.code});
@@ -60,17 +60,17 @@ TEST(Settings, WhatAnotherProgramStoredIsReadAsTheLibraryReadsIt) {
     const char* got;
   };
   const Case cases[] = {
-      {"2",             "2 millibars\n"   },
-      {"2.9",           "2 millibars\n"   },
-      {"\"2\"",         "2 millibars\n"   },
-      {"true",          "1 hectopascals\n"},
-      {"0",             "0 region\n"      },
-      {"4",             "0 region\n"      },
-      {"-1",            "0 region\n"      },
-      {"\"x\"",         "0 region\n"      },
-      {"[1]",           "0 region\n"      },
-      {"1e300",         "0 region\n"      },
-      {"1000000000000", "0 region\n"      },
+      {"2", "2 millibars\n"},
+      {"2.9", "2 millibars\n"},
+      {"\"2\"", "2 millibars\n"},
+      {"true", "1 hectopascals\n"},
+      {"0", "0 region\n"},
+      {"4", "0 region\n"},
+      {"-1", "0 region\n"},
+      {"\"x\"", "0 region\n"},
+      {"[1]", "0 region\n"},
+      {"1e300", "0 region\n"},
+      {"1000000000000", "0 region\n"},
   };
   for (const Case& c : cases) {
     configuration().write("config/KZMUtilities/settings.json",
@@ -115,7 +115,7 @@ TEST(Settings, TheListMarksWhatIsInForce) {
             "    1  kilometers\n"
             "    2  miles\n"
             "\n"
-            "Weather.Global.Units.Precipitation  (rain; snow is in centimeters for millimeters)\n"
+            "Weather.Global.Units.Precipitation  (rain and snow (snow in centimeters when rain is in millimeters))\n"
             "  * 0  region's choice: inches\n"
             "    1  millimeters\n"
             "    2  inches\n");

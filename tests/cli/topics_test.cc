@@ -22,10 +22,10 @@ Lines shown(std::string_view name, const Snapshot& snapshot, const RowChoice& ch
 Snapshot network() {
   Snapshot snapshot;
   snapshot.network = {
-      {{"lo", 0.0, 0.0},                      true },
-      {{"eth0", 1500000.0, 2048.0},           true },
-      {{"wlan0", std::nullopt, std::nullopt}, true },
-      {{"ifb0", 0.0, 0.0},                    false},
+      {{"lo", 0.0, 0.0}, true},
+      {{"eth0", 1500000.0, 2048.0}, true},
+      {{"wlan0", std::nullopt, std::nullopt}, true},
+      {{"ifb0", 0.0, 0.0}, false},
   };
   return snapshot;
 }
@@ -47,8 +47,8 @@ TEST(Topics, Network) {
 TEST(Topics, DisksHideBytes) {
   Snapshot snapshot;
   snapshot.disks = {
-      {{"sda", 1023.0, 3145728.0}, true },
-      {{"sdb", 0.0, 0.0},          false},
+      {{"sda", 1023.0, 3145728.0}, true},
+      {{"sdb", 0.0, 0.0}, false},
   };
   EXPECT_EQ(shown("disks", snapshot), (Lines{"  sda                              -     3.00 MB/s"}));
   EXPECT_EQ(shown("disks", snapshot, {.all = true}).size(), 2U);
@@ -56,24 +56,17 @@ TEST(Topics, DisksHideBytes) {
 
 TEST(Topics, TheNumberIsStrongAndTheUnitIsPlain) {
   Snapshot snapshot;
-  snapshot.disks = {
-      {{"sda", 3145728.0, 0.0}, true}
-  };
+  snapshot.disks = {{{"sda", 3145728.0, 0.0}, true}};
   const Section section = topics()[1].section(snapshot, {});
-  EXPECT_EQ(section.rows[0].cells[0], (Cell{
-                                          {"3.00",  Style::strong},
-                                          {" MB/s", Style::plain }
-  }));
-  EXPECT_EQ(section.rows[0].cells[1], (Cell{
-                                          {"-", Style::strong}
-  }));
+  EXPECT_EQ(section.rows[0].cells[0], (Cell{{"3.00", Style::strong}, {" MB/s", Style::plain}}));
+  EXPECT_EQ(section.rows[0].cells[1], (Cell{{"-", Style::strong}}));
 }
 
 TEST(Topics, Volumes) {
   Snapshot snapshot;
   snapshot.volumes = {
-      {"/",      "ext4",  {.total = 100'000'000'000, .used = 25'000'000'000, .free = 75'000'000'000}},
-      {"/empty", "tmpfs", {.total = 0, .used = 0, .free = 0}                                        },
+      {"/", "ext4", {.total = 100'000'000'000, .used = 25'000'000'000, .free = 75'000'000'000}},
+      {"/empty", "tmpfs", {.total = 0, .used = 0, .free = 0}},
   };
   EXPECT_EQ(shown("volumes", snapshot),
             (Lines{
@@ -95,11 +88,7 @@ TEST(Topics, Memory) {
 
 TEST(Topics, Load) {
   Snapshot snapshot;
-  snapshot.processor = {
-      {"cpu",  0.5         },
-      {"cpu0", 1.0         },
-      {"cpu1", std::nullopt}
-  };
+  snapshot.processor = {{"cpu", 0.5}, {"cpu0", 1.0}, {"cpu1", std::nullopt}};
   snapshot.loadAverages = {0.5, 12.345, 0.0};
   EXPECT_EQ(shown("load", snapshot), (Lines{
                                          "  processor                      50%  ██████████░░░░░░░░░░",
@@ -113,14 +102,14 @@ TEST(Topics, Load) {
 TEST(Topics, SensorsByKind) {
   Snapshot snapshot;
   snapshot.sensors = {
-      {Kind::temperature, 45.0,   "coretemp", "Core 0"       },
-      {Kind::fan,         0.0,    "nct",      "Fan 1"        },
-      {Kind::fan,         1200.0, "nct",      "Fan 2"        },
-      {Kind::voltage,     1.25,   "nct",      "in0"          },
-      {Kind::current,     0.25,   "ina",      "curr1"        },
-      {Kind::power,       12.3,   "ina",      "power1"       },
-      {Kind::frequency,   2600.0, "cpu",      "CPU 0"        },
-      {Kind::light,       300.0,  "",         "Ambient light"},
+      {Kind::temperature, 45.0, "coretemp", "Core 0"},
+      {Kind::fan, 0.0, "nct", "Fan 1"},
+      {Kind::fan, 1200.0, "nct", "Fan 2"},
+      {Kind::voltage, 1.25, "nct", "in0"},
+      {Kind::current, 0.25, "ina", "curr1"},
+      {Kind::power, 12.3, "ina", "power1"},
+      {Kind::frequency, 2600.0, "cpu", "CPU 0"},
+      {Kind::light, 300.0, "", "Ambient light"},
   };
   EXPECT_EQ(shown("temperatures", snapshot), (Lines{"  coretemp  Core 0              113°"}));
   EXPECT_EQ(shown("fans", snapshot), (Lines{
@@ -151,8 +140,7 @@ TEST(Topics, ManySensorsOfAKindAreToldByTheirExtremes) {
 TEST(Topics, Battery) {
   Snapshot snapshot;
   snapshot.batteries = {
-      {"BAT0", "Discharging", {{Kind::percentage, 0.75, "BAT0", "Level"}, {Kind::capacity, 3000.0, "BAT0", "Charge"}}}
-  };
+      {"BAT0", "Discharging", {{Kind::percentage, 0.75, "BAT0", "Level"}, {Kind::capacity, 3000.0, "BAT0", "Charge"}}}};
   EXPECT_EQ(shown("battery", snapshot), (Lines{
                                             "  BAT0                   Discharging",
                                             "  BAT0  Level                    75%  ███████████████░░░░░",

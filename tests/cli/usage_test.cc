@@ -25,10 +25,41 @@ TEST(Usage, TheProgramsHelpNamesEveryVerb) {
   EXPECT_EQ(help.status, 0);
   for (const char* verb : kVerbs)
     EXPECT_NE(help.output.find("\n  " + std::string(verb) + " "), std::string::npos) << verb;
+  for (const std::vector<std::string>& words : {std::vector<std::string>{}, {"--locale", "de_DE"}}) {
+    EXPECT_EQ(run(words).errors, help.output);
+    EXPECT_EQ(run(words).status, 2);
+  }
   const Outcome nothing = run({});
   EXPECT_EQ(nothing.status, 2);
   EXPECT_EQ(nothing.output, "");
   EXPECT_EQ(nothing.errors, help.output);
+}
+
+TEST(Usage, TheProgramTakesFlagsBeforeItsVerb) {
+  struct Case {
+    std::vector<std::string> words;
+    const char* output;
+  };
+  const Case cases[] = {
+      {{"--locale", "de_DE", "format", "number", "1234"}, "1.234\n"},
+      {{"--locale=de_DE", "format", "number", "1234"}, "1.234\n"},
+      {{"--locale", "de_DE", "--time-zone", "Asia/Tokyo", "call", "dayStart", "1700000000"}, "1699974000.0\n"},
+      {{"--locale", "de_DE", "format", "--locale", "fr_CA", "number", "0.5", "--decimals", "1"}, "0,5\n"},
+  };
+  for (const Case& c : cases) {
+    const Outcome outcome = run(c.words);
+    EXPECT_EQ(outcome.output, c.output) << testing::PrintToString(c.words);
+    EXPECT_EQ(outcome.errors, "") << testing::PrintToString(c.words);
+    EXPECT_EQ(outcome.status, 0) << testing::PrintToString(c.words);
+  }
+}
+
+TEST(Usage, HelpAndVersionHaveShortNamesToo) {
+  const std::string help = run({"--help"}).output;
+  for (const char* word : {"-h", "help"}) EXPECT_EQ(run({word}).output, help) << word;
+  const std::string version = run({"--version"}).output;
+  EXPECT_TRUE(version.starts_with("kzmutil 1.")) << version;
+  EXPECT_EQ(run({"-V"}).output, version);
 }
 
 TEST(Usage, UnknownWordsAreOneLine) {
@@ -36,28 +67,29 @@ TEST(Usage, UnknownWordsAreOneLine) {
     std::vector<std::string> words;
     const char* errors;
   };
-  // clang-format off
   const Case cases[] = {
-      {{"frobnicate"},               "kzmutil: no verb is named \"frobnicate\"; `kzmutil --help` lists them\n"},
-      {{"list", "x"},                "kzmutil: list takes no arguments\n"},
-      {{"call", "--frob"},           "kzmutil: call: no option \"--frob\"; `kzmutil call --help` lists them\n"},
-      {{"call"},                     "kzmutil: call: a name is missing; `kzmutil list` shows them\n"},
-      {{"call", "--locale"},         "kzmutil: --locale: its value is missing\n"},
+      {{"frobnicate"}, "kzmutil: no verb is named \"frobnicate\"; `kzmutil --help` lists them\n"},
+      {{"--frobnicate"}, "kzmutil: no option \"--frobnicate\"; `kzmutil --help` lists them\n"},
+      {{"--locale"}, "kzmutil: --locale: its value is missing\n"},
+      {{"list", "x"}, "kzmutil: list takes no arguments\n"},
+      {{"call", "--frob"}, "kzmutil: call: no option \"--frob\"; `kzmutil call --help` lists them\n"},
+      {{"call"}, "kzmutil: call: a name is missing; `kzmutil list` shows them\n"},
+      {{"call", "--locale"}, "kzmutil: --locale: its value is missing\n"},
       {{"call", "--time-zone", "Mars/Base", "mpsToKph", "1"},
-                                     "kzmutil: no time zone \"Mars/Base\"; names are such as Europe/Paris\n"},
-      {{"call", "--batch", "x"},     "kzmutil: call: --batch takes no name\n"},
-      {{"call", "--set", "x"},       "kzmutil: --set: takes KEYPATH=JSON\n"},
-      {{"monitor", "a", "b"},        "kzmutil: monitor takes one topic\n"},
-      {{"monitor", "--count", "0"},  "kzmutil: --count: \"0\" is not a whole number from 1 to 9223372036854775807\n"},
-      {{"show", "--count", "1"},     "kzmutil: show: no option \"--count\"; `kzmutil show --help` lists them\n"},
-      {{"show", "--interval", "0"},  "kzmutil: --interval: \"0\" is not from 0.1 to 3600\n"},
+       "kzmutil: no time zone \"Mars/Base\"; names are such as Europe/Paris\n"},
+      {{"call", "--batch", "x"}, "kzmutil: call: --batch takes no name\n"},
+      {{"call", "--set", "x"}, "kzmutil: --set: takes KEYPATH=JSON\n"},
+      {{"monitor", "a", "b"}, "kzmutil: monitor takes one topic\n"},
+      {{"monitor", "--count", "0"}, "kzmutil: --count: \"0\" is not a whole number from 1 to 9223372036854775807\n"},
+      {{"show", "--count", "1"}, "kzmutil: show: no option \"--count\"; `kzmutil show --help` lists them\n"},
+      {{"show", "--interval", "0"}, "kzmutil: --interval: \"0\" is not from 0.1 to 3600\n"},
       {{"show", "--interval", "NaN"}, "kzmutil: --interval: \"NaN\" is not from 0.1 to 3600\n"},
       {{"show", "--interval", "3601"}, "kzmutil: --interval: \"3601\" is not from 0.1 to 3600\n"},
       {{"show", "--unit-size", "x"}, "kzmutil: --unit-size: \"x\" is not a whole number from 1 to 3\n"},
-      {{"show", "sound"},            "kzmutil: show: no topic \"sound\"; there are network, disks, volumes, memory, load, "
-                                     "temperatures, fans, voltages, currents, power, frequencies, light, battery\n"},
+      {{"show", "sound"},
+       "kzmutil: show: no topic \"sound\"; there are network, disks, volumes, memory, load, "
+       "temperatures, fans, voltages, currents, power, frequencies, light, battery\n"},
   };
-  // clang-format on
   for (const Case& c : cases) {
     const Outcome outcome = run(c.words);
     EXPECT_EQ(outcome.errors, c.errors);
@@ -68,14 +100,14 @@ TEST(Usage, UnknownWordsAreOneLine) {
 
 TEST(Usage, OutputThatCannotBeWrittenIsStatusOne) {
   const std::vector<std::string> commands[] = {
-      {"--help"                   },
-      {         "format",                   "memory", "1"},
-      {      "format",                    "--help"},
-      {"settings",                  "list"},
-      {        "list"                     },
-      { "call", "KZMUtilitiesFormatMemory", "{}", "1"},
-      {     "show",                           "memory"},
-      {                         "monitor",                           "memory"},
+      {"--help"},
+      {"format", "memory", "1"},
+      {"format", "--help"},
+      {"settings", "list"},
+      {"list"},
+      {"call", "KZMUtilitiesFormatMemory", "{}", "1"},
+      {"show", "memory"},
+      {"monitor", "memory"},
   };
   for (const std::vector<std::string>& words : commands) {
     const int full = ::open("/dev/full", O_WRONLY | O_CLOEXEC);

@@ -33,21 +33,21 @@ TEST(TimeItems, AreTheWholeCatalogueInOrder) {
     const char* items;
   };
   const Case cases[] = {
-      {"hour",       6, "[hour-12] h=1-12 hh=01-12 [hour-24] HH=00-23 H=0-23"           },
-      {"minute",     4, "[seconds-2] mm=05 [seconds-1] m=5!"                            },
-      {"second",     4, "[seconds-2] ss=03 [seconds-1] s=3!"                            },
-      {"ampm",       2, "a aaaaa"                                                       },
-      {"day",        8, "d dd d-suffix EEEEE EEEEEE EEE EEEE MTWRFSU=M (MTWRFSU format)"},
-      {"month",      5, "M MM MMMMM MMM MMMM"                                           },
-      {"year",       2, "yy yyyy"                                                       },
-      {"timezone",   8, "ZZZ ZZZZZ O ZZZZ zzz vvvv zzzz VVV"                            },
-      {"weeknumber", 1, "w"                                                             },
-      {"daynumber",  1, "D"                                                             },
-      {"fuzzy",      1, "fuzzy"                                                         },
-      {"offset",     3, "offset offset2 offset3"                                        },
-      {"icons",      6,
+      {"hour", 6, "[hour-12] h=1-12 hh=01-12 [hour-24] HH=00-23 H=0-23"},
+      {"minute", 4, "[seconds-2] mm=05 [seconds-1] m=5!"},
+      {"second", 4, "[seconds-2] ss=03 [seconds-1] s=3!"},
+      {"ampm", 2, "a aaaaa"},
+      {"day", 8, "d dd d-suffix EEEEE EEEEEE EEE EEEE MTWRFSU=M (MTWRFSU format)"},
+      {"month", 5, "M MM MMMMM MMM MMMM"},
+      {"year", 2, "yy yyyy"},
+      {"timezone", 8, "ZZZ ZZZZZ O ZZZZ zzz vvvv zzzz VVV"},
+      {"weeknumber", 1, "w"},
+      {"daynumber", 1, "D"},
+      {"fuzzy", 1, "fuzzy"},
+      {"offset", 3, "offset offset2 offset3"},
+      {"icons", 6,
        "icon-moon icon-clock icon-calendar-mono icon-calendar-color icon-calendar-color-fill "
-       "icon-calendar-color-fill-day"                                                   },
+       "icon-calendar-color-fill-day"},
   };
   const Array groups = KZMUtilitiesTimeItems();
   ASSERT_EQ(groups.size(), std::size(cases));

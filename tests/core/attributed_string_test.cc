@@ -28,16 +28,17 @@ TEST(AttributedString, ReplacesRangesAndKeepsTheRest) {
   };
   const Case cases[] = {
       {"inside one run",
-       2,                                                              1,
+       2,
+       1,
        AttributedString(","),
-       {{"11", "bold"}, {",", nullptr}, {"4", "bold"}, {" Mb/s", "grey"}}                                                                                                                  },
-      {"across two runs",                      2,                      4,      AttributedString("x",              "red"),                                                                    {{"11", "bold"}, {"x", "red"}, {"b/s", "grey"}}},
-      {"equal neighbours are one",                                      4,                                   1,   AttributedString("!", "bold"),                                                    {{"11.4!", "bold"}, {"Mb/s", "grey"}}},
-      {"an insertion", 0,                       0,                AttributedString("~",                                                "grey"),                                               {{"~", "grey"}, {"11.4", "bold"}, {" Mb/s", "grey"}}},
-      {"a deletion",                               0, 5,       AttributedString(),{{"Mb/s", "grey"}}},
-      {"cut at the end",                    4,                        kEnd,                        AttributedString("."),                                                             {{"11.4", "bold"}, {".", nullptr}}                                                                                                                                        },
-      {"beyond the end",                 99,     1,AttributedString("?","grey"),{{"11.4", "bold"}, {" Mb/s?", "grey"}}},
-      {"everything",                  0,                                 kEnd,              AttributedString(),                                                                                                      {}                                                                                                                                                                                                                                                                                                           },
+       {{"11", "bold"}, {",", nullptr}, {"4", "bold"}, {" Mb/s", "grey"}}},
+      {"across two runs", 2, 4, AttributedString("x", "red"), {{"11", "bold"}, {"x", "red"}, {"b/s", "grey"}}},
+      {"equal neighbours are one", 4, 1, AttributedString("!", "bold"), {{"11.4!", "bold"}, {"Mb/s", "grey"}}},
+      {"an insertion", 0, 0, AttributedString("~", "grey"), {{"~", "grey"}, {"11.4", "bold"}, {" Mb/s", "grey"}}},
+      {"a deletion", 0, 5, AttributedString(), {{"Mb/s", "grey"}}},
+      {"cut at the end", 4, kEnd, AttributedString("."), {{"11.4", "bold"}, {".", nullptr}}},
+      {"beyond the end", 99, 1, AttributedString("?", "grey"), {{"11.4", "bold"}, {" Mb/s?", "grey"}}},
+      {"everything", 0, kEnd, AttributedString(), {}},
   };
   for (const Case& c : cases) {
     AttributedString text = sample();
@@ -55,10 +56,7 @@ TEST(AttributedString, NeverSplitsACharacter) {
 TEST(AttributedString, ReplacesTheFirstOccurrenceOnly) {
   AttributedString text("%@ of %@", "grey");
   EXPECT_TRUE(text.replaceFirst("%@", AttributedString("3", "bold")));
-  EXPECT_EQ(text.runs(), (Runs{
-                             {"3",      "bold"},
-                             {" of %@", "grey"}
-  }));
+  EXPECT_EQ(text.runs(), (Runs{{"3", "bold"}, {" of %@", "grey"}}));
   EXPECT_FALSE(text.replaceFirst("OF", AttributedString("x"))) << "the search is case-sensitive";
   EXPECT_FALSE(text.replaceFirst("", AttributedString("x"))) << "an empty target is not found";
 }
@@ -72,10 +70,7 @@ TEST(AttributedString, AppendsItself) {
 TEST(AttributedString, AnEmptySetIsStillASet) {
   AttributedString text("a", Dictionary{});
   text.append(AttributedString("b"));
-  EXPECT_EQ(text.runs(), (Runs{
-                             {"a", Dictionary{}},
-                             {"b", nullptr     }
-  }));
+  EXPECT_EQ(text.runs(), (Runs{{"a", Dictionary{}}, {"b", nullptr}}));
 }
 
 }  // namespace

@@ -22,10 +22,7 @@ TEST(Dictionary, FindsWhatWasSetUnderAnyNumberOfKeys) {
 }
 
 TEST(Dictionary, SettingAKeyAgainKeepsItsPlace) {
-  Dictionary dictionary{
-      {"first",  1},
-      {"second", 2}
-  };
+  Dictionary dictionary{{"first", 1}, {"second", 2}};
   dictionary.set("first", "one");
   ASSERT_EQ(dictionary.size(), 2U);
   EXPECT_EQ(dictionary.begin()->key, "first");
@@ -47,18 +44,9 @@ TEST(Dictionary, RemovedKeysAreAbsentAndTheOthersStay) {
 }
 
 TEST(Dictionary, EqualityTakesNoAccountOfOrder) {
-  const Dictionary one{
-      {"a", 1                                    },
-      {"b", Dictionary{{"c", Array{1, 2.5, "x"}}}}
-  };
-  const Dictionary same{
-      {"b", Dictionary{{"c", Array{1, 2.5, "x"}}}},
-      {"a", 1                                    }
-  };
-  const Dictionary other{
-      {"b", Dictionary{{"c", Array{1, 2.5, "y"}}}},
-      {"a", 1                                    }
-  };
+  const Dictionary one{{"a", 1}, {"b", Dictionary{{"c", Array{1, 2.5, "x"}}}}};
+  const Dictionary same{{"b", Dictionary{{"c", Array{1, 2.5, "x"}}}}, {"a", 1}};
+  const Dictionary other{{"b", Dictionary{{"c", Array{1, 2.5, "y"}}}}, {"a", 1}};
   EXPECT_EQ(one, same);
   EXPECT_NE(one, other);
   EXPECT_NE(one, Dictionary{});

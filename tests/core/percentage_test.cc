@@ -18,17 +18,17 @@ TEST(Percentage, TextsInBothRenderings) {
   };
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   const Case cases[] = {
-      {"whole",                  {},                                 42.0,                                     "42%"    },
-      {"rounded",                {},                                 99.6,                                     "100%"   },
-      {"spaced",                 {{"space", true}},                  42.0,                                     "42 %"   },
-      {"half to even",           {{"space", true}, {"decimals", 1}}, 42.25,                                    "42.2 %" },
-      {"never scaled",           {{"decimals", 1}},                  0.5,                                      "0.5%"   },
-      {"at most so many digits", {{"decimals", 3}},                  7.0,                                      "7%"     },
-      {"a text says yes",        {{"space", "yes"}},                 1.0,                                      "1 %"    },
-      {"grouped",                {},                                 12345.0,                                  "12,345%"},
-      {"negative",               {},                                 -3.0,                                     "-3%"    },
-      {"infinite",               {},                                 -kInfinity,                               "-∞%"  },
-      {"not a number",           {},                                 std::numeric_limits<double>::quiet_NaN(), "NaN%"   },
+      {"whole", {}, 42.0, "42%"},
+      {"rounded", {}, 99.6, "100%"},
+      {"spaced", {{"space", true}}, 42.0, "42 %"},
+      {"half to even", {{"space", true}, {"decimals", 1}}, 42.25, "42.2 %"},
+      {"never scaled", {{"decimals", 1}}, 0.5, "0.5%"},
+      {"at most so many digits", {{"decimals", 3}}, 7.0, "7%"},
+      {"a text says yes", {{"space", "yes"}}, 1.0, "1 %"},
+      {"grouped", {}, 12345.0, "12,345%"},
+      {"negative", {}, -3.0, "-3%"},
+      {"infinite", {}, -kInfinity, "-∞%"},
+      {"not a number", {}, std::numeric_limits<double>::quiet_NaN(), "NaN%"},
   };
   for (const Case& c : cases) {
     EXPECT_EQ(KZMUtilitiesFormatPercentage(c.options, c.percent), c.text) << c.why;
@@ -37,36 +37,14 @@ TEST(Percentage, TextsInBothRenderings) {
 }
 
 TEST(Percentage, TheNumberIsMainAndTheSignIsUnit) {
-  const Dictionary options{
-      {"space",            true  },
-      {"decimals",         1     },
-      {"attributes-main",  "bold"},
-      {"attributes-units", "grey"}
-  };
-  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes(options, 42.25).runs(), (Runs{
-                                                                                   {"42.2", "bold"},
-                                                                                   {" %",   "grey"}
-  }));
-  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes(
-                {
-  },
-                42.25)
-                .runs(),
-            (Runs{{"42%", nullptr}}));
-  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes(
-                {
-                    {"attributes-main", Dictionary{}}
-  },
-                5.0)
-                .runs(),
+  const Dictionary options{{"space", true}, {"decimals", 1}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
+  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes(options, 42.25).runs(),
+            (Runs{{"42.2", "bold"}, {" %", "grey"}}));
+  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes({}, 42.25).runs(), (Runs{{"42%", nullptr}}));
+  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes({{"attributes-main", Dictionary{}}}, 5.0).runs(),
             (Runs{{"5", Dictionary{}}, {"%", nullptr}}))
       << "an empty set is a set";
-  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes(
-                {
-                    {"attributes-main", nullptr}
-  },
-                5.0)
-                .runs(),
+  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes({{"attributes-main", nullptr}}, 5.0).runs(),
             (Runs{{"5%", nullptr}}));
 }
 

@@ -37,19 +37,10 @@ TEST(SharedStateConcurrent, FirstCallsOfEverythingAgree) {
   together([&](int i) {
     const auto thread = static_cast<std::size_t>(i);
     std::string& text = texts[thread];
-    text += KZMUtilitiesFormatBandwidth(
-        {
-            {"space", true}
-    },
-        5e6);
+    text += KZMUtilitiesFormatBandwidth({{"space", true}}, 5e6);
     text += KZMUtilitiesFormatMemory({}, 5e9) + KZMUtilitiesFormatSpace({}, 5e12);
     text += KZMUtilitiesFormatDiskActivity({}, 1e4) + KZMUtilitiesFormatPercentage({}, 99.6);
-    text += KZMUtilitiesFormatBandwidthWithAttributes(
-                {
-                    {"attributes-main", "x"}
-    },
-                1.0)
-                .text();
+    text += KZMUtilitiesFormatBandwidthWithAttributes({{"attributes-main", "x"}}, 1.0).text();
     text += KZMUtilitiesPosixLocale(std::make_shared<const Locale>("de_CH"))->identifier();
     formatters[thread] = KZMUtilitiesDecimalFormatterWithFractions(7, 7).get();
   });

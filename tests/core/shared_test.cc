@@ -37,11 +37,11 @@ TEST_F(SharedState, FormattersAreMadeOnceUnderTheirKeys) {
   constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
   constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
   const Case cases[] = {
-      {1,      1,     "NumberFormatter-Decimal-1.1",                                      1    },
-      {0,      0,     "NumberFormatter-Decimal-0.0",                                      0    },
-      {2,      2,     "NumberFormatter-Decimal-2.2",                                      2    },
-      {-1,     -1,    "NumberFormatter-Decimal--1.-1",                                    -1   },
-      {3,      1,     "NumberFormatter-Decimal-3.1",                                      3    },
+      {1, 1, "NumberFormatter-Decimal-1.1", 1},
+      {0, 0, "NumberFormatter-Decimal-0.0", 0},
+      {2, 2, "NumberFormatter-Decimal-2.2", 2},
+      {-1, -1, "NumberFormatter-Decimal--1.-1", -1},
+      {3, 1, "NumberFormatter-Decimal-3.1", 3},
       {kLeast, kMost, "NumberFormatter-Decimal--9223372036854775808.9223372036854775807", kMost},
   };
   for (const Case& c : cases) {
@@ -83,86 +83,49 @@ TEST_F(SharedState, NumbersFormatByTheirDecimals) {
     const char* text;
   };
   const Case cases[] = {
-      {"half to even",       {},                      2.5,     "2"        },
-      {"half to even",       {},                      3.5,     "4"        },
-      {"a text is a number", {{"decimals", "2"}},     2.675,   "2.68"     },
-      {"at most",            {{"decimals", 2}},       3.0,     "3"        },
-      {"truncated",          {{"decimals", 1.9}},     1.25,    "1.2"      },
-      {"negative is none",   {{"decimals", -3}},      1.25,    "1"        },
-      {"mistyped is none",   {{"decimals", Array{}}}, 1.25,    "1"        },
-      {"null is none",       {{"decimals", nullptr}}, 1.25,    "1"        },
-      {"grouped",            {},                      1234567, "1,234,567"},
+      {"half to even", {}, 2.5, "2"},
+      {"half to even", {}, 3.5, "4"},
+      {"a text is a number", {{"decimals", "2"}}, 2.675, "2.68"},
+      {"at most", {{"decimals", 2}}, 3.0, "3"},
+      {"truncated", {{"decimals", 1.9}}, 1.25, "1.2"},
+      {"negative is none", {{"decimals", -3}}, 1.25, "1"},
+      {"mistyped is none", {{"decimals", Array{}}}, 1.25, "1"},
+      {"null is none", {{"decimals", nullptr}}, 1.25, "1"},
+      {"grouped", {}, 1234567, "1,234,567"},
   };
   for (const Case& c : cases) EXPECT_EQ(KZMUtilitiesFormatNumber(c.options, c.value), c.text) << c.why;
 }
 
 TEST_F(SharedState, AHostsFormatterIsHonouredByTheNextCall) {
-  EXPECT_EQ(KZMUtilitiesFormatNumber(
-                {
-                    {"decimals", 1}
-  },
-                1.25),
-            "1.2");
+  EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2");
   cache()->set("NumberFormatter-Decimal--.1", std::make_shared<const NumberFormatter>(4, 4));
-  EXPECT_EQ(KZMUtilitiesFormatNumber(
-                {
-                    {"decimals", 1}
-  },
-                1.25),
-            "1.2500");
+  EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2500");
 }
 
 TEST_F(SharedState, AHostsUnitTableIsHonouredByTheNextCall) {
-  const Dictionary options{
-      {"unitsize", 2   },
-      {"space",    true}
-  };
+  const Dictionary options{{"unitsize", 2}, {"space", true}};
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "5 GB");
-  cache()->set("Localizations-Units-Network", Dictionary{
-                                                  {"%@ GB", "Go: %@"}
-  });
+  cache()->set("Localizations-Units-Network", Dictionary{{"%@ GB", "Go: %@"}});
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "Go: 5");
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5.0), "") << "a unit that the host's table lacks";
   EXPECT_TRUE(KZMUtilitiesBandwidthData(options, 5.0).find("format")->isNull());
 }
 
 TEST_F(SharedState, AHostsCacheTakesThePlaceOfTheFormerOne) {
-  EXPECT_EQ(KZMUtilitiesFormatNumber(
-                {
-                    {"decimals", 1}
-  },
-                1.25),
-            "1.2");
+  EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2");
   auto own = std::make_shared<Cache>();
   own->set("NumberFormatter-Decimal--.1", std::make_shared<const NumberFormatter>(3, 3));
   KZMUtilities::shared().setCache(own);
-  EXPECT_EQ(KZMUtilitiesFormatNumber(
-                {
-                    {"decimals", 1}
-  },
-                1.25),
-            "1.250");
+  EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.250");
   own->set("NumberFormatter-Decimal--.1", nullptr);
-  EXPECT_EQ(KZMUtilitiesFormatNumber(
-                {
-                    {"decimals", 1}
-  },
-                1.25),
-            "1.2");
+  EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2");
 }
 
 TEST_F(SharedState, AnEntryOfAnotherKindCountsAsMissing) {
   cache()->set("NumberFormatter-Decimal--.1", "nonsense");
   cache()->set("Localizations-Units-Memory", 42);
-  cache()->set("Localizations-Units-Space", Dictionary{
-                                                {"%@KB", 42}
-  });
-  EXPECT_EQ(KZMUtilitiesFormatNumber(
-                {
-                    {"decimals", 1}
-  },
-                1.25),
-            "1.2");
+  cache()->set("Localizations-Units-Space", Dictionary{{"%@KB", 42}});
+  EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2");
   EXPECT_EQ(KZMUtilitiesFormatMemory({}, 1024.0), "1KB");
   EXPECT_EQ(KZMUtilitiesFormatSpace({}, 1000.0), "") << "a text that is no text is missing";
   EXPECT_NE(cache()->find("NumberFormatter-Decimal--.1").object(), nullptr) << "the library's own took its place";
@@ -183,20 +146,20 @@ TEST_F(SharedState, PosixLocalesAreMadeOnce) {
     bool made;
   };
   const Case cases[] = {
-      {"en_US",                   "en_US_POSIX",             true },
-      {"de_CH",                   "de_CH_POSIX",             true },
-      {"de",                      "de_POSIX",                true },
-      {"zh_Hant_TW",              "zh_Hant_TW_POSIX",        true },
-      {"es_419",                  "es_419_POSIX",            true },
-      {"ca_ES_VALENCIA",          "ca_ES_VALENCIA_POSIX",    true },
-      {"",                        "",                        false},
+      {"en_US", "en_US_POSIX", true},
+      {"de_CH", "de_CH_POSIX", true},
+      {"de", "de_POSIX", true},
+      {"zh_Hant_TW", "zh_Hant_TW_POSIX", true},
+      {"es_419", "es_419_POSIX", true},
+      {"ca_ES_VALENCIA", "ca_ES_VALENCIA_POSIX", true},
+      {"", "", false},
       {"en_US@calendar=buddhist", "en_US@calendar=buddhist", false},
-      {"ar_EG@numbers=latn",      "ar_EG@numbers=latn",      false},
-      {"not a locale",            "not a locale",            false},
-      {"../../etc",               "../../etc",               false},
-      {"abcdefghijk",             "abcdefghijk_POSIX",       true },
-      {"abcdefghijkl",            "abcdefghijkl",            false},
-      {"abcdefghijkl_DE",         "abcdefghijkl_DE",         false},
+      {"ar_EG@numbers=latn", "ar_EG@numbers=latn", false},
+      {"not a locale", "not a locale", false},
+      {"../../etc", "../../etc", false},
+      {"abcdefghijk", "abcdefghijk_POSIX", true},
+      {"abcdefghijkl", "abcdefghijkl", false},
+      {"abcdefghijkl_DE", "abcdefghijkl_DE", false},
   };
   for (const Case& c : cases) {
     const auto locale = std::make_shared<const Locale>(c.identifier);
@@ -217,19 +180,8 @@ TEST_F(SharedState, ALocaleChosenByTheHostIsThatOfFormattersMadeFromThenOn) {
   setCurrentLocale("de_DE.UTF-8");
   EXPECT_EQ(currentLocale(), "de_DE");
   EXPECT_EQ(before->string(1234.5), "1,234.5");
-  EXPECT_EQ(KZMUtilitiesFormatNumber(
-                {
-                    {"decimals", 1}
-  },
-                1234.5),
-            "1,234.5")
-      << "made in the former locale";
-  EXPECT_EQ(KZMUtilitiesFormatNumber(
-                {
-                    {"decimals", 2}
-  },
-                1234.5),
-            "1.234,5");
+  EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1234.5), "1,234.5") << "made in the former locale";
+  EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 2}}, 1234.5), "1.234,5");
   setCurrentLocale("nonsense!");
   EXPECT_EQ(currentLocale(), "en_001");
   setCurrentLocale("en_US");
@@ -245,24 +197,14 @@ TEST_F(SharedState, AnEntryIsMadeOnlyWhenNoneIsAccepted) {
   EXPECT_EQ(entries.find("key"), Value("made"));
   EXPECT_EQ(entries.findOrMake("other", isText, [] { return Value(); }), Value());
   EXPECT_EQ(entries.size(), 1U) << "what could not be made is not stored";
-  EXPECT_EQ(entries.entries(), (Dictionary{
-                                   {"key", "made"}
-  }));
+  EXPECT_EQ(entries.entries(), (Dictionary{{"key", "made"}}));
 }
 
 TEST_F(SharedState, TheCacheNeverShrinks) {
   std::size_t size = 0;
   for (int digits = -3; digits < 40; ++digits) {
-    (void)KZMUtilitiesFormatNumber(
-        {
-            {"decimals", digits}
-    },
-        1.0);
-    (void)KZMUtilitiesFormatMemory(
-        {
-            {"decimals-kb", Array{Dictionary{{"value", 9}, {"decimals", digits}}}}
-    },
-        1.0);
+    (void)KZMUtilitiesFormatNumber({{"decimals", digits}}, 1.0);
+    (void)KZMUtilitiesFormatMemory({{"decimals-kb", Array{Dictionary{{"value", 9}, {"decimals", digits}}}}}, 1.0);
     EXPECT_GE(cache()->size(), size);
     size = cache()->size();
   }

@@ -19,20 +19,20 @@ constexpr LocalizedText kEnglish[] = {
 };
 constexpr LocalizedText kFrench[] = {
     {"Units.Test.%@ birds", "%@ oiseaux"},
-    {"Units.Test.%@ cats",  "%@ chats"  },
+    {"Units.Test.%@ cats", "%@ chats"},
 };
 constexpr LocalizedText kGerman[] = {
     {"Units.Test.%@ cats", "%@ Katzen"},
-    {"Units.Test.%@ dogs", "%@ Hunde" },
+    {"Units.Test.%@ dogs", "%@ Hunde"},
 };
 constexpr LocalizedText kOther[] = {
     {"Units.Test.%@ cats", "%@ felines"},
 };
 constexpr StringTable kTables[] = {
-    {"de", "Animals", kGerman },
+    {"de", "Animals", kGerman},
     {"en", "Animals", kEnglish},
-    {"en", "Other",   kOther  },
-    {"fr", "Animals", kFrench },
+    {"en", "Other", kOther},
+    {"fr", "Animals", kFrench},
 };
 constexpr ResourceBundle kBundle{"org.kzm.tests", "en", kTables};
 constexpr ResourceBundle kEmptyBundle{"org.kzm.empty", "en", {}};
@@ -85,25 +85,25 @@ struct TemplateCase {
 };
 
 constexpr TemplateCase kTemplates[] = {
-    {"a family's prefix",               "Units.Network.%@ zz",   "%@ zz"            },
-    {"any letters",                     "Units.aZ.%@",           "%@"               },
-    {"only the first prefix",           "Units.A.Units.B.%@",    "Units.B.%@"       },
-    {"a point in the template",         "Units.A.%@ a.b",        "%@ a.b"           },
-    {"nothing behind the prefix",       "Units.A.",              ""                 },
-    {"no family",                       "Units..%@",             "Units..%@"        },
-    {"digits are no family",            "Units.A1.%@",           "Units.A1.%@"      },
-    {"no end of the family",            "Units.Network",         "Units.Network"    },
-    {"no family at all",                "Units.",                "Units."           },
-    {"another prefix",                  "Words.Network.%@",      "Words.Network.%@" },
-    {"another letter case",             "units.Network.%@",      "units.Network.%@" },
-    {"the prefix further on",           " Units.Network.%@",     " Units.Network.%@"},
-    {"a bare template",                 "%@ GB",                 "%@ GB"            },
-    {"empty",                           "",                      ""                 },
-    {"null",                            std::string_view(),      ""                 },
-    {"not UTF-8",                       "Units.Test.\xFF\xFE%@", "\xFF\xFE%@"       },
-    {"printf directives are text",      "Units.Test.%s%n%@",     "%s%n%@"           },
-    {"just before the first known key", "Units.Test.%@ cat",     "%@ cat"           },
-    {"just behind the last known key",  "Units.Test.%@ dogs ",   "%@ dogs "         },
+    {"a family's prefix", "Units.Network.%@ zz", "%@ zz"},
+    {"any letters", "Units.aZ.%@", "%@"},
+    {"only the first prefix", "Units.A.Units.B.%@", "Units.B.%@"},
+    {"a point in the template", "Units.A.%@ a.b", "%@ a.b"},
+    {"nothing behind the prefix", "Units.A.", ""},
+    {"no family", "Units..%@", "Units..%@"},
+    {"digits are no family", "Units.A1.%@", "Units.A1.%@"},
+    {"no end of the family", "Units.Network", "Units.Network"},
+    {"no family at all", "Units.", "Units."},
+    {"another prefix", "Words.Network.%@", "Words.Network.%@"},
+    {"another letter case", "units.Network.%@", "units.Network.%@"},
+    {"the prefix further on", " Units.Network.%@", " Units.Network.%@"},
+    {"a bare template", "%@ GB", "%@ GB"},
+    {"empty", "", ""},
+    {"null", std::string_view(), ""},
+    {"not UTF-8", "Units.Test.\xFF\xFE%@", "\xFF\xFE%@"},
+    {"printf directives are text", "Units.Test.%s%n%@", "%s%n%@"},
+    {"just before the first known key", "Units.Test.%@ cat", "%@ cat"},
+    {"just behind the last known key", "Units.Test.%@ dogs ", "%@ dogs "},
 };
 
 TEST(Localization, UnknownKeysTablesAndBundlesGiveTheTemplate) {

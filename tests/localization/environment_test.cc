@@ -14,17 +14,17 @@ struct Case {
 };
 
 constexpr Case kCases[] = {
-    {"nothing set",                  "",                                          "North East" },
-    {"LANG",                         "LANG=de_CH.UTF-8",                          "Nordosten"  },
-    {"LC_MESSAGES before LANG",      "LANG=de_DE LC_MESSAGES=fr_FR",              "Nord-Est"   },
-    {"LC_ALL before LC_MESSAGES",    "LC_ALL=it_IT LC_MESSAGES=fr_FR LANG=de_DE", "Nord-est"   },
-    {"LANGUAGE before them all",     "LANGUAGE=ja:ko LC_ALL=it_IT",               "北東"     },
-    {"first language that there is", "LANGUAGE=xx:ko LC_ALL=it_IT",               "북동쪽"  },
-    {"C silences LANGUAGE",          "LANGUAGE=ja LC_ALL=C.UTF-8",                "North East" },
-    {"Latin script",                 "LANG=sr_RS.UTF-8@latin",                    "Severoistok"},
-    {"numbers have no say",          "LANG=de_DE LC_NUMERIC=fr_FR",               "Nordosten"  },
-    {"unknown language",             "LANG=xx_YY",                                "North East" },
-    {"garbage",                      "LANG=../../x LANGUAGE=%s:%n",               "North East" },
+    {"nothing set", "", "North East"},
+    {"LANG", "LANG=de_CH.UTF-8", "Nordosten"},
+    {"LC_MESSAGES before LANG", "LANG=de_DE LC_MESSAGES=fr_FR", "Nord-Est"},
+    {"LC_ALL before LC_MESSAGES", "LC_ALL=it_IT LC_MESSAGES=fr_FR LANG=de_DE", "Nord-est"},
+    {"LANGUAGE before them all", "LANGUAGE=ja:ko LC_ALL=it_IT", "北東"},
+    {"first language that there is", "LANGUAGE=xx:ko LC_ALL=it_IT", "북동쪽"},
+    {"C silences LANGUAGE", "LANGUAGE=ja LC_ALL=C.UTF-8", "North East"},
+    {"Latin script", "LANG=sr_RS.UTF-8@latin", "Severoistok"},
+    {"numbers have no say", "LANG=de_DE LC_NUMERIC=fr_FR", "Nordosten"},
+    {"unknown language", "LANG=xx_YY", "North East"},
+    {"garbage", "LANG=../../x LANGUAGE=%s:%n", "North East"},
 };
 
 TEST(LocalizationEnvironment, FirstTextsFollowItFromEveryThreadAndToTheVeryEnd) {

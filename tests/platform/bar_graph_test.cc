@@ -27,10 +27,7 @@ void outline(const Canvas& canvas, const Rect& rect) {
 
 TEST(BarGraphFill, FillsExactlyTheRectangleWithRoundedCorners) {
   const Canvas canvas(24, 24);
-  fill(canvas, {
-                   {4,  6 },
-                   {16, 10}
-  });
+  fill(canvas, {{4, 6}, {16, 10}});
   EXPECT_EQ(canvas.pixel(12, 11), kRedPixel) << "inside";
   EXPECT_EQ(canvas.pixel(12, 6), kRedPixel) << "the edges are full";
   EXPECT_EQ(canvas.pixel(12, 15), kRedPixel);
@@ -40,12 +37,7 @@ TEST(BarGraphFill, FillsExactlyTheRectangleWithRoundedCorners) {
   EXPECT_EQ(canvas.pixel(12, 16), 0U);
   EXPECT_EQ(canvas.pixel(3, 11), 0U);
   EXPECT_EQ(canvas.pixel(20, 11), 0U);
-  for (const auto& [x, y] : {
-           std::pair{4,  6 },
-           {19, 6 },
-           {4,  15},
-           {19, 15}
-  }) {
+  for (const auto& [x, y] : {std::pair{4, 6}, {19, 6}, {4, 15}, {19, 15}}) {
     EXPECT_NEAR(canvas.alpha(x, y), 80, 8) << "the disc of radius 2 covers 0.315 of a corner pixel";
   }
 }
@@ -59,19 +51,16 @@ TEST(BarGraphFill, NarrowBarsHaveEllipticalCornersAndStayInside) {
   };
   constexpr Case cases[] = {
       {"ordinary: 160 less 0.8584 x 2 x 2", {16, 10}, 156.566},
-      {"exactly twice the radius: a disc",  {4, 4},   12.566 },
-      {"narrow: 1.5 by 2",                  {3, 10},  27.425 },
-      {"low: 2 by 0.5",                     {10, 1},  9.142  },
-      {"small: a disc of radius 1",         {2, 2},   3.142  },
-      {"one pixel: a disc of radius 0.5",   {1, 1},   0.785  },
-      {"a hair",                            {0.5, 8}, 3.571  },
+      {"exactly twice the radius: a disc", {4, 4}, 12.566},
+      {"narrow: 1.5 by 2", {3, 10}, 27.425},
+      {"low: 2 by 0.5", {10, 1}, 9.142},
+      {"small: a disc of radius 1", {2, 2}, 3.142},
+      {"one pixel: a disc of radius 0.5", {1, 1}, 0.785},
+      {"a hair", {0.5, 8}, 3.571},
   };
   for (const Case& c : cases) {
     const Canvas canvas(24, 16);
-    fill(canvas, {
-                     {4, 4},
-                     c.size
-    });
+    fill(canvas, {{4, 4}, c.size});
     EXPECT_NEAR(canvas.area(), c.area, 0.02 * c.area + 0.03) << c.why;
     const int right = 4 + static_cast<int>(c.size.width + 0.99);
     const int bottom = 4 + static_cast<int>(c.size.height + 0.99);
@@ -86,20 +75,9 @@ TEST(BarGraphFill, NarrowBarsHaveEllipticalCornersAndStayInside) {
 
 TEST(BarGraph, WhatIsNoRectangleDrawsNothing) {
   constexpr Rect kCases[] = {
-      {{4, 4},     {0, 8}     },
-      {{4, 4},     {8, 0}     },
-      {{4, 4},     {-8, 8}    },
-      {{4, 4},     {8, -8}    },
-      {{kNan, 4},  {8, 8}     },
-      {{4, kNan},  {8, 8}     },
-      {{4, 4},     {kNan, 8}  },
-      {{4, 4},     {8, kNan}  },
-      {{-kInf, 4}, {8, 8}     },
-      {{4, 4},     {kInf, 8}  },
-      {{4, 4},     {8, kInf}  },
-      {{kMax, 4},  {kMax, 8}  },
-      {{1e9, 4},   {8, 8}     },
-      {{4, 4},     {1e-300, 8}},
+      {{4, 4}, {0, 8}},    {{4, 4}, {8, 0}},       {{4, 4}, {-8, 8}},   {{4, 4}, {8, -8}},     {{kNan, 4}, {8, 8}},
+      {{4, kNan}, {8, 8}}, {{4, 4}, {kNan, 8}},    {{4, 4}, {8, kNan}}, {{-kInf, 4}, {8, 8}},  {{4, 4}, {kInf, 8}},
+      {{4, 4}, {8, kInf}}, {{kMax, 4}, {kMax, 8}}, {{1e9, 4}, {8, 8}},  {{4, 4}, {1e-300, 8}},
   };
   for (const Rect& rect : kCases) {
     const Canvas canvas(16, 16);
@@ -112,18 +90,12 @@ TEST(BarGraph, WhatIsNoRectangleDrawsNothing) {
 
 TEST(BarGraph, HugeOnesShowWhatLiesOnTheSurface) {
   const Canvas canvas(16, 16);
-  fill(canvas, {
-                   {8,    -1e9},
-                   {1e12, 2e9 }
-  });
+  fill(canvas, {{8, -1e9}, {1e12, 2e9}});
   EXPECT_EQ(canvas.pixel(7, 8), 0U);
   EXPECT_EQ(canvas.pixel(8, 8), kRedPixel);
   EXPECT_EQ(canvas.pixel(15, 0), kRedPixel);
   const Canvas corner(16, 16);
-  fill(corner, {
-                   {-kMax / 2, 4    },
-                   {kMax,      1e300}
-  });
+  fill(corner, {{-kMax / 2, 4}, {kMax, 1e300}});
   EXPECT_EQ(corner.pixel(0, 3), 0U);
   EXPECT_EQ(corner.pixel(0, 4), kRedPixel);
   EXPECT_TRUE(corner.isSound());
@@ -131,20 +103,8 @@ TEST(BarGraph, HugeOnesShowWhatLiesOnTheSurface) {
 
 TEST(BarGraphBorder, LiesOnTheEdgeHalfOutside) {
   const Canvas canvas(24, 24);
-  outline(canvas, {
-                      {4,  6 },
-                      {16, 10}
-  });
-  for (const auto& [x, y] : {
-           std::pair{12, 5 },
-           {12, 6 },
-           {12, 15},
-           {12, 16},
-           {3,  11},
-           {4,  11},
-           {19, 11},
-           {20, 11}
-  }) {
+  outline(canvas, {{4, 6}, {16, 10}});
+  for (const auto& [x, y] : {std::pair{12, 5}, {12, 6}, {12, 15}, {12, 16}, {3, 11}, {4, 11}, {19, 11}, {20, 11}}) {
     EXPECT_GE(canvas.alpha(x, y), 60) << "a quarter on each side, at " << x << ", " << y;
     EXPECT_LE(canvas.alpha(x, y), 72) << "a quarter on each side, at " << x << ", " << y;
   }
@@ -165,14 +125,8 @@ TEST(BarGraph, LeavesTheCairoContextAsItWas) {
   cairo_rectangle(cairo, 0.0, 0.0, 10.0, 20.0);
   cairo_clip(cairo);
   cairo_move_to(cairo, 5.0, 6.0);
-  fill(canvas, {
-                   {1, 1},
-                   {8, 8}
-  });
-  outline(canvas, {
-                      {1, 1},
-                      {8, 8}
-  });
+  fill(canvas, {{1, 1}, {8, 8}});
+  outline(canvas, {{1, 1}, {8, 8}});
   EXPECT_EQ(canvas.pixel(7, 8), kRedPixel) << "drawn over, whatever the host's operator";
   EXPECT_EQ(cairo_get_line_width(cairo), 7.0);
   EXPECT_EQ(cairo_get_dash_count(cairo), 2);
@@ -196,10 +150,7 @@ TEST(BarGraph, HonoursTheHostsClip) {
   const Canvas canvas(24, 24);
   cairo_rectangle(canvas.cairo(), 0.0, 0.0, 10.0, 24.0);
   cairo_clip(canvas.cairo());
-  fill(canvas, {
-                   {4,  6 },
-                   {16, 10}
-  });
+  fill(canvas, {{4, 6}, {16, 10}});
   EXPECT_EQ(canvas.pixel(9, 11), kRedPixel);
   EXPECT_EQ(canvas.pixel(10, 11), 0U);
 }
@@ -208,18 +159,9 @@ TEST(BarGraph, AContextInAnErrorStateIsLeftAlone) {
   const Canvas canvas(8, 8);
   cairo_restore(canvas.cairo());  // without a save before: an error for good
   ASSERT_FALSE(canvas.isSound());
-  fill(canvas, {
-                   {0, 0},
-                   {8, 8}
-  });
-  outline(canvas, {
-                      {0, 0},
-                      {8, 8}
-  });
-  Image(Size{
-            2, 2
-  })
-      .drawInRect({{0, 0}, {8, 8}});
+  fill(canvas, {{0, 0}, {8, 8}});
+  outline(canvas, {{0, 0}, {8, 8}});
+  Image(Size{2, 2}).drawInRect({{0, 0}, {8, 8}});
   EXPECT_EQ(canvas.area(), 0.0);
 }
 
@@ -238,10 +180,7 @@ TEST(BarGraph, NothingPutsTheContextIntoAnErrorState) {
     if (!canvas.isSound()) continue;  // a transformation that cairo itself refuses
     const GraphicsContext context(canvas.cairo(), turn % 3 == 0);
     const auto current = context.makeCurrent();
-    const Rect rect{
-        {pick(), pick()},
-        {pick(), pick()}
-    };
+    const Rect rect{{pick(), pick()}, {pick(), pick()}};
     barGraphWithRectFill(rect, kRed);
     barGraphWithRectBorder(rect, kRed);
     image.drawInRect(rect);

@@ -56,10 +56,8 @@ void turnUntil(Condition condition) {
 
 TEST(ChildProcess, AStubbornChildIsKilledAfterItsTimeAndTwoSecondsMore) {
   const Pipe output;
-  ChildProcess child({
-      .executable = KZM_CHILD_HELPER, .arguments = {"stubborn", "ready", "block"},
-           .standardOutput = output
-  });
+  ChildProcess child(
+      {.executable = KZM_CHILD_HELPER, .arguments = {"stubborn", "ready", "block"}, .standardOutput = output});
   std::optional<ExitStatus> ending;
   std::thread::id handlersThread;
   child.setTerminationHandler([&](const ExitStatus& status) {
@@ -84,9 +82,7 @@ TEST(ChildProcess, AStubbornChildIsKilledAfterItsTimeAndTwoSecondsMore) {
 
 TEST(ChildProcess, ABriefOneIsSilent) {
   CaughtErrors errors;
-  ChildProcess child({
-      .executable = KZM_CHILD_HELPER, .arguments = {"exit", "0"}
-  });
+  ChildProcess child({.executable = KZM_CHILD_HELPER, .arguments = {"exit", "0"}});
   child.launchWithTimeout(0.05);
   ASSERT_TRUE(awaitEnd(child.processIdentifier()));
   const auto end = Clock::now() + std::chrono::milliseconds(100);
@@ -111,9 +107,7 @@ TEST(ChildProcess, CopiesAreHandlesOnTheSameChild) {
 TEST(ChildProcess, ConnectionsMayBeSetUntilTheStart) {
   const Pipe output;
   const Pipe errors;
-  ChildProcess child({
-      .executable = KZM_CHILD_HELPER, .arguments = {"echo", "complain", "ready"}
-  });
+  ChildProcess child({.executable = KZM_CHILD_HELPER, .arguments = {"echo", "complain", "ready"}});
   child.setStandardInput(NullStream{});
   child.setStandardOutput(output);
   child.setStandardError(errors);

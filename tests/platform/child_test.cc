@@ -27,19 +27,19 @@ TEST(TimeoutNanoseconds, CutsTowardZero) {
     std::optional<std::int64_t> nanoseconds;
   };
   const Case cases[] = {
-      {"half a second",                   0.5,                                      500'000'000              },
-      {"the part of a nanosecond is cut", 1.9e-9,                                   1                        },
-      {"less than a nanosecond",          0.9e-9,                                   0                        },
-      {"a day",                           86400.0,                                  86'400'000'000'000       },
-      {"zero: on the next turn",          0.0,                                      0                        },
-      {"minus zero",                      -0.0,                                     0                        },
-      {"negative",                        -1.0,                                     0                        },
-      {"minus infinity",                  -kInf,                                    0                        },
-      {"no number",                       std::numeric_limits<double>::quiet_NaN(), 0                        },
-      {"the longest that is armed",       9.2e9,                                    9'200'000'000'000'000'000},
-      {"longer: never",                   9.3e9,                                    std::nullopt             },
-      {"the greatest number",             std::numeric_limits<double>::max(),       std::nullopt             },
-      {"infinity: never",                 kInf,                                     std::nullopt             },
+      {"half a second", 0.5, 500'000'000},
+      {"the part of a nanosecond is cut", 1.9e-9, 1},
+      {"less than a nanosecond", 0.9e-9, 0},
+      {"a day", 86400.0, 86'400'000'000'000},
+      {"zero: on the next turn", 0.0, 0},
+      {"minus zero", -0.0, 0},
+      {"negative", -1.0, 0},
+      {"minus infinity", -kInf, 0},
+      {"no number", std::numeric_limits<double>::quiet_NaN(), 0},
+      {"the longest that is armed", 9.2e9, 9'200'000'000'000'000'000},
+      {"longer: never", 9.3e9, std::nullopt},
+      {"the greatest number", std::numeric_limits<double>::max(), std::nullopt},
+      {"infinity: never", kInf, std::nullopt},
   };
   for (const Case& c : cases) EXPECT_EQ(platform::timeoutNanoseconds(c.seconds), c.nanoseconds) << c.why;
 }
@@ -163,10 +163,8 @@ TEST_F(ChildTest, CleanupClosesTheInputAndClearsOutputAndHandler) {
   const Pipe input;
   const Pipe output;
   int calls = 0;
-  const SharedChild child = make({
-      .executable = KZM_CHILD_HELPER, .arguments = {"exit", "0"},
-           .standardInput = input, .standardOutput = output
-  });
+  const SharedChild child = make(
+      {.executable = KZM_CHILD_HELPER, .arguments = {"exit", "0"}, .standardInput = input, .standardOutput = output});
   child->setTerminationHandler([&](const ExitStatus&) { ++calls; });
   ASSERT_TRUE(child->launch());
   child->cleanup();

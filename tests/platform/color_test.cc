@@ -16,18 +16,12 @@ TEST(Color, ConvertsBothWays) {
     double hue, saturation, brightness;
   };
   constexpr Case cases[] = {
-      {"red",       1.0,  0.0,  0.0,  0.0,       1.0, 1.0 },
-      {"yellow",    1.0,  1.0,  0.0,  1.0 / 6.0, 1.0, 1.0 },
-      {"green",     0.0,  1.0,  0.0,  1.0 / 3.0, 1.0, 1.0 },
-      {"cyan",      0.0,  1.0,  1.0,  0.5,       1.0, 1.0 },
-      {"blue",      0.0,  0.0,  1.0,  2.0 / 3.0, 1.0, 1.0 },
-      {"magenta",   1.0,  0.0,  1.0,  5.0 / 6.0, 1.0, 1.0 },
-      {"dark pink", 0.5,  0.25, 0.25, 0.0,       0.5, 0.5 },
-      {"white",     1.0,  1.0,  1.0,  0.0,       0.0, 1.0 },
-      {"grey",      0.25, 0.25, 0.25, 0.0,       0.0, 0.25},
-      {"black",     0.0,  0.0,  0.0,  0.0,       0.0, 0.0 },
-      {"orange",    1.0,  0.5,  0.0,  1.0 / 12., 1.0, 1.0 },
-      {"rose",      1.0,  0.0,  0.5,  11. / 12., 1.0, 1.0 },
+      {"red", 1.0, 0.0, 0.0, 0.0, 1.0, 1.0},          {"yellow", 1.0, 1.0, 0.0, 1.0 / 6.0, 1.0, 1.0},
+      {"green", 0.0, 1.0, 0.0, 1.0 / 3.0, 1.0, 1.0},  {"cyan", 0.0, 1.0, 1.0, 0.5, 1.0, 1.0},
+      {"blue", 0.0, 0.0, 1.0, 2.0 / 3.0, 1.0, 1.0},   {"magenta", 1.0, 0.0, 1.0, 5.0 / 6.0, 1.0, 1.0},
+      {"dark pink", 0.5, 0.25, 0.25, 0.0, 0.5, 0.5},  {"white", 1.0, 1.0, 1.0, 0.0, 0.0, 1.0},
+      {"grey", 0.25, 0.25, 0.25, 0.0, 0.0, 0.25},     {"black", 0.0, 0.0, 0.0, 0.0, 0.0, 0.0},
+      {"orange", 1.0, 0.5, 0.0, 1.0 / 12., 1.0, 1.0}, {"rose", 1.0, 0.0, 0.5, 11. / 12., 1.0, 1.0},
   };
   for (const Case& c : cases) {
     const Color color = Color::fromRGBA(c.red, c.green, c.blue, 0.5);
@@ -68,15 +62,15 @@ TEST(Color, BrightnessIsMultipliedAndTheRestKeptExactly) {
   constexpr float kFloatInf = std::numeric_limits<float>::infinity();
   constexpr float kFloatNan = std::numeric_limits<float>::quiet_NaN();
   constexpr Case cases[] = {
-      {"half",                               0.5, 0.5F,      0.25               },
-      {"unchanged",                          0.3, 1.0F,      0.3                },
-      {"nothing",                            0.8, 0.0F,      0.0                },
-      {"the factor is widened, not rounded", 1.0, 0.1F,      0.10000000149011612},
-      {"beyond the end is cut off",          0.8, 2.0F,      1.0                },
-      {"negative",                           0.8, -1.0F,     0.0                },
-      {"endless",                            0.8, kFloatInf, 1.0                },
-      {"nothing, endlessly, is no number",   0.0, kFloatInf, 0.0                },
-      {"no number",                          0.8, kFloatNan, 0.0                },
+      {"half", 0.5, 0.5F, 0.25},
+      {"unchanged", 0.3, 1.0F, 0.3},
+      {"nothing", 0.8, 0.0F, 0.0},
+      {"the factor is widened, not rounded", 1.0, 0.1F, 0.10000000149011612},
+      {"beyond the end is cut off", 0.8, 2.0F, 1.0},
+      {"negative", 0.8, -1.0F, 0.0},
+      {"endless", 0.8, kFloatInf, 1.0},
+      {"nothing, endlessly, is no number", 0.0, kFloatInf, 0.0},
+      {"no number", 0.8, kFloatNan, 0.0},
   };
   for (const Case& c : cases) {
     const Color color = Color::fromHSBA(0.123456789, 0.7, c.brightness, 0.9).multiplyBrightness(c.factor);

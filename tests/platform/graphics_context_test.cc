@@ -38,12 +38,7 @@ TEST(GraphicsContext, EachThreadHasItsOwn) {
     const Canvas own(2, 2);
     const auto ownCurrent = GraphicsContext(own.cairo()).makeCurrent();
     EXPECT_EQ(currentCairo(), own.cairo());
-    barGraphWithRectFill(
-        {
-            {0, 0},
-            {2, 2}
-    },
-        Color::fromRGBA(1, 0, 0, 1));
+    barGraphWithRectFill({{0, 0}, {2, 2}}, Color::fromRGBA(1, 0, 0, 1));
     EXPECT_GT(own.area(), 1.0);
   }).join();
   EXPECT_EQ(currentCairo(), canvas.cairo());
@@ -70,62 +65,24 @@ TEST(GraphicsContext, ColoursStaySetAfterABar) {
   const Color red = Color::fromRGBA(1, 0, 0, 1);
   const Color blue = Color::fromRGBA(0, 0, 1, 0.5);
   EXPECT_EQ(context.fillColor(), Color());
-  barGraphWithRectFill(
-      {
-          {1, 1},
-          {8, 8}
-  },
-      red);
-  barGraphWithRectBorder(
-      {
-          {1, 1},
-          {8, 8}
-  },
-      blue);
+  barGraphWithRectFill({{1, 1}, {8, 8}}, red);
+  barGraphWithRectBorder({{1, 1}, {8, 8}}, blue);
   EXPECT_EQ(context.fillColor(), red);
   EXPECT_EQ(context.strokeColor(), blue);
-  barGraphWithRectFill(
-      {
-          {1, 1},
-          {0, 0}
-  },
-      blue);
+  barGraphWithRectFill({{1, 1}, {0, 0}}, blue);
   EXPECT_EQ(context.fillColor(), blue) << "also when there is nothing to draw";
 }
 
 TEST(GraphicsContext, WithoutOneNothingIsDrawn) {
   const Image image(Size{4, 4});
-  barGraphWithRectFill(
-      {
-          {0, 0},
-          {4, 4}
-  },
-      Color());
-  barGraphWithRectBorder(
-      {
-          {0, 0},
-          {4, 4}
-  },
-      Color());
+  barGraphWithRectFill({{0, 0}, {4, 4}}, Color());
+  barGraphWithRectBorder({{0, 0}, {4, 4}}, Color());
   image.drawAtPoint({0, 0});
   const GraphicsContext none(nullptr);
   const auto current = none.makeCurrent();
-  barGraphWithRectFill(
-      {
-          {0, 0},
-          {4, 4}
-  },
-      Color());
-  barGraphWithRectBorder(
-      {
-          {0, 0},
-          {4, 4}
-  },
-      Color());
-  image.drawInRect({
-      {0, 0},
-      {4, 4}
-  });
+  barGraphWithRectFill({{0, 0}, {4, 4}}, Color());
+  barGraphWithRectBorder({{0, 0}, {4, 4}}, Color());
+  image.drawInRect({{0, 0}, {4, 4}});
   EXPECT_EQ(none.cairo(), nullptr);
 }
 
@@ -136,12 +93,7 @@ TEST(GraphicsContext, KeepsTheCairoContextAlive) {
     context.emplace(canvas.cairo());
   }
   const auto current = context->makeCurrent();
-  barGraphWithRectFill(
-      {
-          {0, 0},
-          {4, 4}
-  },
-      Color());
+  barGraphWithRectFill({{0, 0}, {4, 4}}, Color());
   EXPECT_EQ(cairo_status(context->cairo()), CAIRO_STATUS_SUCCESS);
 }
 

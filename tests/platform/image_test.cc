@@ -36,13 +36,7 @@ TEST(Image, AtAPointItCoversItsOwnSize) {
   EXPECT_EQ(canvas.pixel(25, 27), kRedPixel);
   EXPECT_EQ(canvas.pixel(10, 28), kBluePixel);
   EXPECT_EQ(canvas.pixel(25, 35), kBluePixel);
-  for (const auto& [x, y] : {
-           std::pair{9,  20},
-           {26, 20},
-           {10, 19},
-           {10, 36}
-  })
-    EXPECT_EQ(canvas.pixel(x, y), 0U);
+  for (const auto& [x, y] : {std::pair{9, 20}, {26, 20}, {10, 19}, {10, 36}}) EXPECT_EQ(canvas.pixel(x, y), 0U);
   EXPECT_EQ(canvas.area(), 256.0);
 }
 
@@ -50,10 +44,7 @@ TEST(Image, StandsUprightInBothOrientations) {
   const Canvas down(20, 20);
   {
     const auto current = GraphicsContext(down.cairo()).makeCurrent();
-    redOverBlue(4, 4).drawInRect({
-        {2, 3},
-        {8, 8}
-    });
+    redOverBlue(4, 4).drawInRect({{2, 3}, {8, 8}});
   }
   EXPECT_EQ(down.pixel(6, 3), kRedPixel);
   EXPECT_EQ(down.pixel(6, 10), kBluePixel);
@@ -63,10 +54,7 @@ TEST(Image, StandsUprightInBothOrientations) {
   cairo_scale(up.cairo(), 1.0, -1.0);
   {
     const auto current = GraphicsContext(up.cairo(), false).makeCurrent();
-    redOverBlue(4, 4).drawInRect({
-        {2, 3},
-        {8, 8}
-    });
+    redOverBlue(4, 4).drawInRect({{2, 3}, {8, 8}});
     redOverBlue(4, 4).drawAtPoint({14, 0});
   }
   EXPECT_EQ(up.pixel(6, 9), kRedPixel) << "from 3 to 11 above the lower edge: rows 9 to 16";
@@ -80,18 +68,8 @@ TEST(Image, StandsUprightInBothOrientations) {
 TEST(Image, ScaledUpItsBordersDoNotFade) {
   const Canvas canvas(24, 24);
   const auto current = GraphicsContext(canvas.cairo()).makeCurrent();
-  redOverBlue(2, 2).drawInRect({
-      {4,  4 },
-      {16, 16}
-  });
-  for (const auto& [x, y] : {
-           std::pair{4,  4 },
-           {19, 4 },
-           {4,  19},
-           {19, 19},
-           {12, 4 },
-           {4,  12}
-  })
+  redOverBlue(2, 2).drawInRect({{4, 4}, {16, 16}});
+  for (const auto& [x, y] : {std::pair{4, 4}, {19, 4}, {4, 19}, {19, 19}, {12, 4}, {4, 12}})
     EXPECT_EQ(canvas.alpha(x, y), 255) << x << ", " << y;
   EXPECT_EQ(canvas.pixel(4, 4), kRedPixel);
   EXPECT_EQ(canvas.pixel(19, 19), kBluePixel);
@@ -101,10 +79,7 @@ TEST(Image, ScaledUpItsBordersDoNotFade) {
 TEST(Image, ScaledDownItKeepsBothHalves) {
   const Canvas canvas(8, 8);
   const auto current = GraphicsContext(canvas.cairo()).makeCurrent();
-  redOverBlue(64, 64).drawInRect({
-      {2, 2},
-      {4, 4}
-  });
+  redOverBlue(64, 64).drawInRect({{2, 2}, {4, 4}});
   EXPECT_EQ(canvas.pixel(3, 2), kRedPixel);
   EXPECT_EQ(canvas.pixel(3, 5), kBluePixel);
   EXPECT_EQ(canvas.area(), 16.0);
@@ -113,16 +88,10 @@ TEST(Image, ScaledDownItKeepsBothHalves) {
 TEST(Image, MagnifiedBeyondMeasureItShowsTheColourThatLiesThere) {
   const Canvas canvas(8, 8);
   const auto current = GraphicsContext(canvas.cairo()).makeCurrent();
-  redOverBlue(4, 4).drawInRect({
-      {-1e14, -1e12},
-      {4e14,  4e14 }
-  });
+  redOverBlue(4, 4).drawInRect({{-1e14, -1e12}, {4e14, 4e14}});
   EXPECT_EQ(canvas.pixel(0, 0), kRedPixel);
   EXPECT_EQ(canvas.pixel(7, 7), kRedPixel);
-  redOverBlue(4, 4).drawInRect({
-      {-1e300, -3.9e300},
-      {4e300,  4e300   }
-  });
+  redOverBlue(4, 4).drawInRect({{-1e300, -3.9e300}, {4e300, 4e300}});
   EXPECT_EQ(canvas.pixel(4, 4), kBluePixel);
 }
 
@@ -162,12 +131,7 @@ TEST(Image, FocusDrawsIntoItFromTheTop) {
   const Image image(Size{8, 8}, 2.0);
   {
     const Image::Focus focus(image);
-    barGraphWithRectFill(
-        {
-            {0, 0},
-            {8, 4}
-    },
-        Color::fromRGBA(1, 0, 0, 1));
+    barGraphWithRectFill({{0, 0}, {8, 4}}, Color::fromRGBA(1, 0, 0, 1));
   }
   EXPECT_EQ(GraphicsContext::current()->cairo(), canvas.cairo()) << "the one before is current again";
   image.drawAtPoint({4, 4});
@@ -179,10 +143,7 @@ TEST(Image, MayBeDrawnIntoItself) {
   const Image image = redOverBlue(8, 8);
   {
     const Image::Focus focus(image);
-    image.drawInRect({
-        {0, 0},
-        {4, 8}
-    });
+    image.drawInRect({{0, 0}, {4, 8}});
   }
   EXPECT_EQ(pixelOf(image, 1, 1), kRedPixel);
   EXPECT_EQ(pixelOf(image, 1, 6), kBluePixel);
@@ -190,14 +151,7 @@ TEST(Image, MayBeDrawnIntoItself) {
 
 TEST(Image, WhatCannotBeIsEmpty) {
   constexpr Size kSizes[] = {
-      {0,     4                                      },
-      {4,     0                                      },
-      {-4,    4                                      },
-      {kNan,  4                                      },
-      {4,     std::numeric_limits<double>::infinity()},
-      {32768, 1                                      },
-      {1e300, 1e300                                  }
-  };
+      {0, 4}, {4, 0}, {-4, 4}, {kNan, 4}, {4, std::numeric_limits<double>::infinity()}, {32768, 1}, {1e300, 1e300}};
   for (const Size& size : kSizes) EXPECT_EQ(Image(size).size(), Size{}) << size.width << " x " << size.height;
   EXPECT_EQ(Image(Size{4, 4}, 0.0).size(), Size{});
   EXPECT_EQ(Image(Size{4, 4}, kNan).size(), Size{});
@@ -216,10 +170,7 @@ TEST(Image, WhatCannotBeIsEmpty) {
   const auto current = GraphicsContext(canvas.cairo()).makeCurrent();
   const Image empty;
   empty.drawAtPoint({0, 0});
-  empty.drawInRect({
-      {0, 0},
-      {4, 4}
-  });
+  empty.drawInRect({{0, 0}, {4, 4}});
   EXPECT_EQ(empty.tint(Color()).size(), Size{});
   EXPECT_FALSE(empty.writePNG(testing::TempDir() + "kzm_empty.png"));
   { const Image::Focus focus(empty); }

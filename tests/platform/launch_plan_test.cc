@@ -35,25 +35,25 @@ TEST_F(LaunchTest, FailsForWhatCannotBeStarted) {
     ChildConfiguration configuration;
   };
   const Case cases[] = {
-      {"nothing is configured",                     {}                                                                                 },
-      {"missing",                                   {.executable = "/no/such/program"}                                                 },
-      {"a directory",                               {.executable = "/tmp"}                                                             },
-      {"a device",                                  {.executable = "/dev/null"}                                                        },
-      {"not executable",                            {.executable = makeFile("plain", "#!/bin/sh\n", false)}                            },
-      {"no program at all",                         {.executable = makeFile("text", "exit 0\n", true)}                                 },
-      {"a missing interpreter",                     {.executable = makeFile("script", "#!/no/such/shell\n", true)}                     },
-      {"a name without a path is not searched for", {.executable = "true"}                                                             },
-      {"a zero byte in the path",                   {.executable = helperPath + "\0x"s}                                                },
-      {"a zero byte in an argument",                {.executable = helperPath, .arguments = {"ok", "a\0b"s}}                           },
-      {"an endless argument",                       {.executable = helperPath, .arguments = {std::string(std::size_t{1} << 20, 'x')}}  },
-      {"a missing directory",                       {.executable = helperPath, .workingDirectory = "/no/such/folder"}                  },
-      {"a zero byte in the directory",              {.executable = helperPath, .workingDirectory = "/tmp\0x"s}                         },
-      {"a variable without a name",                 {.executable = helperPath, .environment = Environment{{"", "x"}}}                  },
-      {"a name with an equals sign",                {.executable = helperPath, .environment = Environment{{"A=B", "x"}}}               },
-      {"a zero byte in a variable",                 {.executable = helperPath, .environment = Environment{{"A", "x\0y"s}}}             },
-      {"a closed input",                            {.executable = helperPath, .standardInput = closed}                                },
-      {"a closed output",                           {.executable = helperPath, .standardOutput = FileHandle()}                         },
-      {"a closed error stream",                     {.executable = helperPath, .standardError = FileHandle::openForReading("/no/such")}},
+      {"nothing is configured", {}},
+      {"missing", {.executable = "/no/such/program"}},
+      {"a directory", {.executable = "/tmp"}},
+      {"a device", {.executable = "/dev/null"}},
+      {"not executable", {.executable = makeFile("plain", "#!/bin/sh\n", false)}},
+      {"no program at all", {.executable = makeFile("text", "exit 0\n", true)}},
+      {"a missing interpreter", {.executable = makeFile("script", "#!/no/such/shell\n", true)}},
+      {"a name without a path is not searched for", {.executable = "true"}},
+      {"a zero byte in the path", {.executable = helperPath + "\0x"s}},
+      {"a zero byte in an argument", {.executable = helperPath, .arguments = {"ok", "a\0b"s}}},
+      {"an endless argument", {.executable = helperPath, .arguments = {std::string(std::size_t{1} << 20, 'x')}}},
+      {"a missing directory", {.executable = helperPath, .workingDirectory = "/no/such/folder"}},
+      {"a zero byte in the directory", {.executable = helperPath, .workingDirectory = "/tmp\0x"s}},
+      {"a variable without a name", {.executable = helperPath, .environment = Environment{{"", "x"}}}},
+      {"a name with an equals sign", {.executable = helperPath, .environment = Environment{{"A=B", "x"}}}},
+      {"a zero byte in a variable", {.executable = helperPath, .environment = Environment{{"A", "x\0y"s}}}},
+      {"a closed input", {.executable = helperPath, .standardInput = closed}},
+      {"a closed output", {.executable = helperPath, .standardOutput = FileHandle()}},
+      {"a closed error stream", {.executable = helperPath, .standardError = FileHandle::openForReading("/no/such")}},
   };
   for (const Case& c : cases) {
     const std::ptrdiff_t descriptors = openDescriptors();
@@ -65,17 +65,12 @@ TEST_F(LaunchTest, FailsForWhatCannotBeStarted) {
 }
 
 TEST_F(LaunchTest, HandsOverArgumentsAsTheyAre) {
-  EXPECT_EQ(outputOf({
-                .arguments = {"arguments", "", "two words", "ä\n$HOME"}
-  }),
+  EXPECT_EQ(outputOf({.arguments = {"arguments", "", "two words", "ä\n$HOME"}}),
             KZM_CHILD_HELPER "\narguments\n\ntwo words\nä\n$HOME\n");
 }
 
 TEST_F(LaunchTest, GivesTheHostsEnvironmentOrExactlyTheOneSet) {
-  EXPECT_EQ(outputOf({
-                .arguments = {"environment"},
-                  .environment = Environment{ {"B", ""}, {"A", "1=2"}}
-  }),
+  EXPECT_EQ(outputOf({.arguments = {"environment"}, .environment = Environment{{"B", ""}, {"A", "1=2"}}}),
             "A=1=2\nB=\n");
   EXPECT_EQ(outputOf({.arguments = {"environment"}, .environment = Environment{}}), "");
   EXPECT_NE(outputOf({.arguments = {"environment"}}).find("TZ="), std::string::npos);
@@ -99,10 +94,7 @@ TEST_F(LaunchTest, GivesACleanSlate) {
   sigaddset(&blocked, SIGTERM);
   sigaddset(&blocked, SIGUSR1);
   pthread_sigmask(SIG_BLOCK, &blocked, &old);
-  EXPECT_EQ(outputOf({
-                .arguments = {"descriptors", "signals", "group"}
-  }),
-            "0 1 2\nunusual\nleader\n");
+  EXPECT_EQ(outputOf({.arguments = {"descriptors", "signals", "group"}}), "0 1 2\nunusual\nleader\n");
   pthread_sigmask(SIG_SETMASK, &old, nullptr);
   std::signal(SIGPIPE, before);
   ::close(leaky);
@@ -113,13 +105,11 @@ TEST_F(LaunchTest, ConnectsPipesAndClosesTheChildsEnds) {
   const Pipe input;
   const Pipe output;
   const Pipe errors;
-  const SharedChild child = make({
-      .executable = KZM_CHILD_HELPER,
-      .arguments = {"complain", "echo"},
-      .standardInput = input,
-      .standardOutput = output,
-      .standardError = errors
-  });
+  const SharedChild child = make({.executable = KZM_CHILD_HELPER,
+                                  .arguments = {"complain", "echo"},
+                                  .standardInput = input,
+                                  .standardOutput = output,
+                                  .standardError = errors});
   ASSERT_TRUE(child->launch());
   EXPECT_FALSE(input.readingEnd().isOpen());
   EXPECT_FALSE(output.writingEnd().isOpen());
@@ -133,12 +123,10 @@ TEST_F(LaunchTest, ConnectsPipesAndClosesTheChildsEnds) {
 
 TEST_F(LaunchTest, TwoStreamsMayShareAPipe) {
   const Pipe both;
-  const SharedChild child = make({
-      .executable = KZM_CHILD_HELPER,
-      .arguments = {"complain", "ready"},
-      .standardOutput = both,
-      .standardError = both
-  });
+  const SharedChild child = make({.executable = KZM_CHILD_HELPER,
+                                  .arguments = {"complain", "ready"},
+                                  .standardOutput = both,
+                                  .standardError = both});
   ASSERT_TRUE(child->launch());
   EXPECT_EQ(readAll(both.readingEnd().descriptor()), "complaint\nready\n");
   finish(*child);
@@ -161,22 +149,16 @@ TEST_F(LaunchTest, ConnectsFilesAndNothing) {
   const std::string path = makeFile("input", "from a file", false);
   const std::string written = path + ".out";
   const FileHandle output = FileHandle::openForWriting(written);
-  const SharedChild child = make({
-      .executable = KZM_CHILD_HELPER,
-      .arguments = {"echo",                             "complain"},
-      .standardInput = FileHandle::openForReading(path),
-      .standardOutput = output,
-      .standardError = NullStream{                                  }
-  });
+  const SharedChild child = make({.executable = KZM_CHILD_HELPER,
+                                  .arguments = {"echo", "complain"},
+                                  .standardInput = FileHandle::openForReading(path),
+                                  .standardOutput = output,
+                                  .standardError = NullStream{}});
   ASSERT_TRUE(child->launch());
   finish(*child);
   EXPECT_TRUE(output.isOpen()) << "a file is the host's and stays open";
   EXPECT_EQ(readAll(FileHandle::openForReading(written).descriptor()), "from a file");
-  EXPECT_EQ(outputOf({
-                .arguments = {"echo",                                         "descriptors"},
-                  .standardInput = NullStream{                                              }
-  }),
-            "0 1 2\n");
+  EXPECT_EQ(outputOf({.arguments = {"echo", "descriptors"}, .standardInput = NullStream{}}), "0 1 2\n");
 }
 
 TEST_F(LaunchTest, StreamsThatSwapNumbersDoNotOverwriteOneAnother) {

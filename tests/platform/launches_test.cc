@@ -18,10 +18,10 @@ int launchMany(int count, AwaitEnd awaitEndOf) {
   int ended = 0;
   for (int number = 0; number < count; ++number) {
     const Pipe output;
-    ChildProcess child({
-        .executable = KZM_CHILD_HELPER, .arguments = {"exit", "7"},
-             .standardInput = Pipe(), .standardOutput = output
-    });
+    ChildProcess child({.executable = KZM_CHILD_HELPER,
+                        .arguments = {"exit", "7"},
+                        .standardInput = Pipe(),
+                        .standardOutput = output});
     if (!child.launch()) continue;
     readAll(output.readingEnd().descriptor());
     awaitEndOf(child);

@@ -24,19 +24,19 @@ TEST(MinMax, PassOverWhatIsNotFinite) {
     double lesser;
   };
   constexpr Case cases[] = {
-      {"the second is greater",          3.0,   5.0,   5.0,  3.0  },
-      {"the first is greater",           5.0,   3.0,   5.0,  3.0  },
-      {"negative numbers",               -3.0,  -5.0,  -3.0, -5.0 },
-      {"the ends of the range",          -kMax, kMax,  kMax, -kMax},
-      {"NaN first",                      kNan,  5.0,   5.0,  5.0  },
-      {"NaN second",                     5.0,   kNan,  5.0,  5.0  },
-      {"infinity second",                5.0,   kInf,  5.0,  5.0  },
-      {"minus infinity first",           -kInf, 3.0,   3.0,  3.0  },
-      {"minus infinity second",          -3.0,  -kInf, -3.0, -3.0 },
-      {"a finite minus zero stays one",  kNan,  -0.0,  -0.0, -0.0 },
-      {"neither: the two infinities",    kInf,  -kInf, 0.0,  0.0  },
-      {"neither: two NaNs",              kNan,  kNan,  0.0,  0.0  },
-      {"neither: positive zero results", -kInf, kNan,  0.0,  0.0  },
+      {"the second is greater", 3.0, 5.0, 5.0, 3.0},
+      {"the first is greater", 5.0, 3.0, 5.0, 3.0},
+      {"negative numbers", -3.0, -5.0, -3.0, -5.0},
+      {"the ends of the range", -kMax, kMax, kMax, -kMax},
+      {"NaN first", kNan, 5.0, 5.0, 5.0},
+      {"NaN second", 5.0, kNan, 5.0, 5.0},
+      {"infinity second", 5.0, kInf, 5.0, 5.0},
+      {"minus infinity first", -kInf, 3.0, 3.0, 3.0},
+      {"minus infinity second", -3.0, -kInf, -3.0, -3.0},
+      {"a finite minus zero stays one", kNan, -0.0, -0.0, -0.0},
+      {"neither: the two infinities", kInf, -kInf, 0.0, 0.0},
+      {"neither: two NaNs", kNan, kNan, 0.0, 0.0},
+      {"neither: positive zero results", -kInf, kNan, 0.0, 0.0},
   };
   for (const Case& c : cases) {
     EXPECT_EQ(bits(KZMMAXDouble(c.a, c.b)), bits(c.greater)) << c.why;

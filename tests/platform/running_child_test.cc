@@ -30,10 +30,8 @@ TEST_F(RunningChildTest, IsRunningIsTrueToTheMomentWithoutATurnOfTheQueue) {
 
 TEST_F(RunningChildTest, TheQueueNoticesTheEndByItself) {
   const Pipe input;
-  const SharedChild child = make({
-      .executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "5"},
-           .standardInput = input
-  });
+  const SharedChild child =
+      make({.executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "5"}, .standardInput = input});
   std::vector<ExitStatus> endings;
   child->setTerminationHandler([&](const ExitStatus& status) { endings.push_back(status); });
   ASSERT_TRUE(child->launch());
@@ -107,10 +105,7 @@ TEST_F(RunningChildTest, AReleasedChildGoesOnWithoutItsPipesAndIsCollected) {
   SharedChild child;
   {
     const Pipe input;
-    child = make({
-        .executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "4"},
-             .standardInput = input
-    });
+    child = make({.executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "4"}, .standardInput = input});
   }
   std::optional<ExitStatus> ending;
   child->setTerminationHandler([&](const ExitStatus& status) { ending = status; });
@@ -169,10 +164,8 @@ TEST_F(RunningChildTest, AHostThatIgnoresSigchldLosesTheStatusButNotTheEnd) {
 
 TEST_F(RunningChildTest, AHostThatTakesTheStatusItselfDoesNotHideTheEnd) {
   const Pipe input;
-  const SharedChild child = make({
-      .executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "6"},
-           .standardInput = input
-  });
+  const SharedChild child =
+      make({.executable = KZM_CHILD_HELPER, .arguments = {"echo", "exit", "6"}, .standardInput = input});
   ASSERT_TRUE(child->launch());
   input.writingEnd().close();
   ASSERT_EQ(::waitpid(child->processIdentifier(), nullptr, 0), child->processIdentifier());

@@ -25,11 +25,7 @@ AttributedString sample() {
 TEST(ReplaceString, TheFirstOccurrenceGetsTheTextAndTheAttributes) {
   AttributedString text = sample();
   replaceStringWithStringAttributes(text, "%@", "3", "red");
-  const Runs expected = {
-      {"3",     "red" },
-      {" of ",  "grey"},
-      {"%@ GB", "bold"}
-  };
+  const Runs expected = {{"3", "red"}, {" of ", "grey"}, {"%@ GB", "bold"}};
   EXPECT_EQ(text.runs(), expected);
   replaceStringWithStringAttributes(text, "%@", "%@", nullptr);
   EXPECT_EQ(text.text(), "3 of %@ GB") << "what was put in is not searched again";
@@ -40,12 +36,7 @@ TEST(ReplaceString, AnAttributedReplacementKeepsItsRuns) {
   AttributedString number("3", "red");
   number.append(AttributedString(".5", "blue"));
   replaceStringWithAttributedString(text, "of %@", number);
-  const Runs expected = {
-      {"%@ ", "grey"},
-      {"3",   "red" },
-      {".5",  "blue"},
-      {" GB", "bold"}
-  };
+  const Runs expected = {{"%@ ", "grey"}, {"3", "red"}, {".5", "blue"}, {" GB", "bold"}};
   EXPECT_EQ(text.runs(), expected) << "across two runs";
 }
 
@@ -71,9 +62,7 @@ TEST(ReplaceString, TheSearchIsLiteral) {
 TEST(ReplaceString, AnEmptyReplacementDeletesAndNeighboursJoin) {
   AttributedString text("1 of 2", "grey");
   replaceStringWithStringAttributes(text, " of ", "", "red");
-  EXPECT_EQ(text.runs(), (Runs{
-                             {"12", "grey"}
-  }));
+  EXPECT_EQ(text.runs(), (Runs{{"12", "grey"}}));
   replaceStringWithAttributedString(text, "12", AttributedString());
   EXPECT_TRUE(text.runs().empty());
 }
@@ -99,47 +88,50 @@ struct MatchCase {
 
 TEST(MatchForExpression, GivesTheFirstGroupOfTheFirstMatch) {
   const MatchCase cases[] = {
-      {"digits before a word in another case", "12 Files", "(\\d+) files",            "12"                                                  },
-      {"capital letters find small ones",      "x ab",     "([A-Z]{2})",              "ab"                                                  },
-      {"the first match only",                 "a1 b2",    "[a-z](\\d)",              "1"                                                   },
-      {"of two groups the first",              "k=v",      "(\\w)=(\\w)",             "k"                                                   },
-      {"an outer group counts first",          "ab",       "((a)b)",                  "ab"                                                  },
-      {"an empty group takes part",            "abc",      "()b",                     ""                                                    },
-      {"an empty text",                        "",         "(a*)",                    ""                                                    },
-      {"lines are no borders",                 "a\nb",     "a\\s(b)",                 "b"                                                   },
-      {"the caret is the text's beginning",    "a\nb",     "^(b)",                    std::nullopt                                          },
-      {"the dot stops at a line's end",        "ab\ncd",   "(.+)",                    "ab"                                                  },
-      {"sharp s and double s",                 "Straße",  "(STRASSE)",               "Straße"                                             },
-      {"final sigma",                          "ΟΔΟΣ", "(οδος)",              "ΟΔΟΣ"                                            },
-      {"the Kelvin sign",                      "\u212A",   "(k)",                     "\u212A"                                              },
-      {"the dotted capital is no i",           "İ",       "^(i)$",                   std::nullopt                                          },
-      {"beyond the first plane",               "a😀b",   "a(.)b",                   "😀"                                                },
-      {"a zero byte in the text",              "a\0b"sv,   "(\\x00b)",                std::string("\0b",                                      2)},
-      {"a zero byte in the pattern",                                      "a\0b"sv,                     "(a\0b)"sv, std::string("a\0b",                         3)},
-      {"a back-reference",                                    "xx yy",                                              "(y)\\1",                                                      "y"                                         },
-      {"one group referred to by name",                                   "abab",                                             "(?<p>ab)\\k<p>","ab"},
+      {"digits before a word in another case", "12 Files", "(\\d+) files", "12"},
+      {"capital letters find small ones", "x ab", "([A-Z]{2})", "ab"},
+      {"the first match only", "a1 b2", "[a-z](\\d)", "1"},
+      {"of two groups the first", "k=v", "(\\w)=(\\w)", "k"},
+      {"an outer group counts first", "ab", "((a)b)", "ab"},
+      {"an empty group takes part", "abc", "()b", ""},
+      {"an empty text", "", "(a*)", ""},
+      {"lines are no borders", "a\nb", "a\\s(b)", "b"},
+      {"the caret is the text's beginning", "a\nb", "^(b)", std::nullopt},
+      {"the dot stops at a line's end", "ab\ncd", "(.+)", "ab"},
+      {"sharp s and double s", "Straße", "(STRASSE)", "Straße"},
+      {"final sigma", "ΟΔΟΣ", "(οδος)", "ΟΔΟΣ"},
+      {"the Kelvin sign", "\u212A", "(k)", "\u212A"},
+      {"the dotted capital is no i", "İ", "^(i)$", std::nullopt},
+      {"beyond the first plane", "a😀b", "a(.)b", "😀"},
+      {"a zero byte in the text", "a\0b"sv, "(\\x00b)", std::string("\0b", 2)},
+      {"a zero byte in the pattern", "a\0b"sv, "(a\0b)"sv, std::string("a\0b", 3)},
+      {"a back-reference", "xx yy", "(y)\\1", "y"},
+      {"one group referred to by name", "abab", "(?<p>ab)\\k<p>", "ab"},
       {"an invalid byte is one U+FFFD",
        "a\xff"
-       "b"sv,                                            "a(.)b",                                                     "\uFFFD"                                                                                                                                },
-      {"a cut character too",                              "a\xc3"sv,                                        "a(.)$","\uFFFD"},
+       "b"sv,
+       "a(.)b", "\uFFFD"},
+      {"a cut character too", "a\xc3"sv, "a(.)$", "\uFFFD"},
       {"invalid bytes in the pattern",
        "a\xff"
-       "b"sv,                                        "(a\xff"
-       "b)"sv,                                            "a\uFFFDb"                                                                                                                                },
-      {"a surrogate in UTF-8",                            "\xed\xa0\x80"sv,                                      "(b)",std::nullopt},
-      {"the optional group took no part",                          "bc",                                    "(a)?bc",                               std::nullopt                                                                                                                                                                              },
-      {"no match",                          "abc",                                    "(d)",                      std::nullopt},
-      {"no group",                          "abc",                                    "b",                               std::nullopt                                                                                                                                                                                       },
-      {"an uncounted group",                          "abc",                                    "(?:b)",            std::nullopt},
-      {"an empty pattern",                          "abc",                                    "",                                 std::nullopt                                                                                                                                                                                                            },
-      {"unclosed group",                          "abc",                                    "(",              std::nullopt},
-      {"unclosed set",                          "abc",                                    "([",                                   std::nullopt                                                                                                                                                                                                                                 },
-      {"nothing to repeat",                          "abc",                                    "(*a)",         std::nullopt},
-      {"a lone backslash",                          "abc",                                    "(b)\\",                                    std::nullopt                                                                                                                                                                                                                                                            },
-      {"interval the wrong way",                          "aaa",                                    "(a{2,1})",   std::nullopt},
-      {"interval too large",                          "aaa",                                    "(a){0,2147483647}",                                        std::nullopt                                                                                                                                                                                                                                                                                                 },
-      {"unknown property",                          "abc",                                    "(\\p{Nonsense})",     std::nullopt},
-      {"unbounded look-behind",                          "abc",                                    "(?<=a*)(b)",                                   std::nullopt                                                                                                                                                                                                                                                                                                                               },
+       "b"sv,
+       "(a\xff"
+       "b)"sv,
+       "a\uFFFDb"},
+      {"a surrogate in UTF-8", "\xed\xa0\x80"sv, "(b)", std::nullopt},
+      {"the optional group took no part", "bc", "(a)?bc", std::nullopt},
+      {"no match", "abc", "(d)", std::nullopt},
+      {"no group", "abc", "b", std::nullopt},
+      {"an uncounted group", "abc", "(?:b)", std::nullopt},
+      {"an empty pattern", "abc", "", std::nullopt},
+      {"unclosed group", "abc", "(", std::nullopt},
+      {"unclosed set", "abc", "([", std::nullopt},
+      {"nothing to repeat", "abc", "(*a)", std::nullopt},
+      {"a lone backslash", "abc", "(b)\\", std::nullopt},
+      {"interval the wrong way", "aaa", "(a{2,1})", std::nullopt},
+      {"interval too large", "aaa", "(a){0,2147483647}", std::nullopt},
+      {"unknown property", "abc", "(\\p{Nonsense})", std::nullopt},
+      {"unbounded look-behind", "abc", "(?<=a*)(b)", std::nullopt},
   };
   for (const MatchCase& c : cases) {
     EXPECT_EQ(matchForExpression(c.text, c.pattern), c.group) << c.why;
@@ -156,8 +148,8 @@ TEST(MatchForExpression, LongTextsAreReadToTheEnd) {
 // None of these may take longer than a few seconds; most would take years without a bound.
 TEST(MatchForExpression, GivesUpWhatWouldRunAway) {
   const MatchCase cases[] = {
-      {"nested repetition", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!", "(a+)+$",               std::nullopt},
-      {"alternatives",      "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!", "(a|aa)+$",             std::nullopt},
+      {"nested repetition", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!", "(a+)+$", std::nullopt},
+      {"alternatives", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!", "(a|aa)+$", std::nullopt},
       {"nested look-ahead", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!", "((?=(a+)+$)|a)+!?\\d", std::nullopt},
   };
   for (const MatchCase& c : cases) EXPECT_EQ(matchForExpression(c.text, c.pattern), c.group) << c.why;

@@ -47,18 +47,18 @@ TEST(SystemZoneDeathTest, ComesFromTheVariable) {
     std::int64_t summer;
   };
   const Case cases[] = {
-      {"Europe/Paris",                     "Europe/Paris",           3600,   7200  },
-      {":Europe/Paris",                    "Europe/Paris",           3600,   7200  },
-      {"/usr/share/zoneinfo/Europe/Paris", "Europe/Paris",           3600,   7200  },
-      {"",                                 "UTC",                    0,      0     },
-      {":",                                "UTC",                    0,      0     },
-      {"UTC",                              "UTC",                    0,      0     },
-      {"UTC0",                             "UTC0",                   0,      0     },
-      {"CET-1CEST",                        "CET-1CEST",              3600,   7200  },
-      {"<+03>-3",                          "<+03>-3",                10800,  10800 },
-      {"EST5EDT,M3.2.0,M11.1.0",           "EST5EDT,M3.2.0,M11.1.0", -18000, -14400},
-      {"Bad/Zone",                         "Bad/Zone",               0,      0     },
-      {"/nowhere/at/all",                  "/nowhere/at/all",        0,      0     },
+      {"Europe/Paris", "Europe/Paris", 3600, 7200},
+      {":Europe/Paris", "Europe/Paris", 3600, 7200},
+      {"/usr/share/zoneinfo/Europe/Paris", "Europe/Paris", 3600, 7200},
+      {"", "UTC", 0, 0},
+      {":", "UTC", 0, 0},
+      {"UTC", "UTC", 0, 0},
+      {"UTC0", "UTC0", 0, 0},
+      {"CET-1CEST", "CET-1CEST", 3600, 7200},
+      {"<+03>-3", "<+03>-3", 10800, 10800},
+      {"EST5EDT,M3.2.0,M11.1.0", "EST5EDT,M3.2.0,M11.1.0", -18000, -14400},
+      {"Bad/Zone", "Bad/Zone", 0, 0},
+      {"/nowhere/at/all", "/nowhere/at/all", 0, 0},
   };
   for (const Case& c : cases) {
     EXPECT_EXIT(_exit(isReadAs(c.text, c.identifier, c.winter, c.summer) ? 0 : 1), testing::ExitedWithCode(0), "")
@@ -102,9 +102,9 @@ TEST(NamedZone, InstantsOfSkippedAndRepeatedLocalTimes) {
     LocalTimeInstants instants;
   };
   const Case cases[] = {
-      {"ordinary",                    "America/New_York", 1700000000, {1700018000, 1700018000, 1700018000}},
+      {"ordinary", "America/New_York", 1700000000, {1700018000, 1700018000, 1700018000}},
       {"2017-03-12 02:30 is skipped", "America/New_York", 1489285800, {1489303800, 1489302000, 1489300200}},
-      {"2017-11-05 01:30 is twice",   "America/New_York", 1509845400, {1509859800, 1509861600, 1509863400}},
+      {"2017-11-05 01:30 is twice", "America/New_York", 1509845400, {1509859800, 1509861600, 1509863400}},
   };
   for (const Case& c : cases) {
     const LocalTimeInstants found = namedZone(c.zone)->instants(c.local);

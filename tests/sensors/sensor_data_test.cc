@@ -113,26 +113,26 @@ TEST_F(SensorData, KeysStandInTheirOrder) {
 TEST_F(SensorData, TemperatureInTheUsersUnit) {
   tests::useOnlySetting(kDegrees, 1);
   const Case celsius[] = {
-      {"as it comes", SensorType::temperature, kNone,     50.5, 50.5,               0, "%@°"},
-      {"no blank",    SensorType::temperature, kSpace,    50.5, 50.5,               0, "%@°"},
-      {"reversed",    SensorType::temperature, kReverse,  50.0, 121.99999570846578, 0, "%@°"},
-      {"no decimals", SensorType::temperature, kDecimals, 50.5, 50.5,               0, "%@°"},
+      {"as it comes", SensorType::temperature, kNone, 50.5, 50.5, 0, "%@°"},
+      {"no blank", SensorType::temperature, kSpace, 50.5, 50.5, 0, "%@°"},
+      {"reversed", SensorType::temperature, kReverse, 50.0, 121.99999570846578, 0, "%@°"},
+      {"no decimals", SensorType::temperature, kDecimals, 50.5, 50.5, 0, "%@°"},
   };
   check(celsius);
   tests::useOnlySetting(kDegrees, 2);
   const Case fahrenheit[] = {
-      {"converted",        SensorType::temperature, kNone,        50.0,      121.99999570846578, 0, "%@°"},
-      {"zero",             SensorType::temperature, kSpace,       0.0,       32.0,               0, "%@°"},
-      {"reversed",         SensorType::temperature, kReverse,     50.0,      50.0,               0, "%@°"},
-      {"reversed by null", SensorType::temperature, kReverseNull, 50.0,      50.0,               0, "%@°"},
-      {"infinite",         SensorType::temperature, kNone,        kInfinity, kInfinity,          0, "%@°"},
+      {"converted", SensorType::temperature, kNone, 50.0, 121.99999570846578, 0, "%@°"},
+      {"zero", SensorType::temperature, kSpace, 0.0, 32.0, 0, "%@°"},
+      {"reversed", SensorType::temperature, kReverse, 50.0, 50.0, 0, "%@°"},
+      {"reversed by null", SensorType::temperature, kReverseNull, 50.0, 50.0, 0, "%@°"},
+      {"infinite", SensorType::temperature, kNone, kInfinity, kInfinity, 0, "%@°"},
   };
   check(fahrenheit);
   tests::useOnlySetting(kDegrees, 3);
   const Case kelvin[] = {
-      {"tight",  SensorType::temperature, kNone,    50.0, 323.15, 0, "%@K" },
-      {"spaced", SensorType::temperature, kSpace,   50.0, 323.15, 0, "%@ K"},
-      {"stays",  SensorType::temperature, kReverse, 50.0, 323.15, 0, "%@K" },
+      {"tight", SensorType::temperature, kNone, 50.0, 323.15, 0, "%@K"},
+      {"spaced", SensorType::temperature, kSpace, 50.0, 323.15, 0, "%@ K"},
+      {"stays", SensorType::temperature, kReverse, 50.0, 323.15, 0, "%@K"},
   };
   check(kelvin);
 }
@@ -144,8 +144,8 @@ TEST_F(SensorData, ATemperatureUnitOfAnotherKindIsCelsiusAndNotReversed) {
   odd["temperature"] = MeasurementUnit::knots;
   units.setUnits(odd);
   const Case cases[] = {
-      {"as it comes", SensorType::temperature, kNone,    50.0, 50.0, 0, "%@°"},
-      {"stays",       SensorType::temperature, kReverse, 50.0, 50.0, 0, "%@°"},
+      {"as it comes", SensorType::temperature, kNone, 50.0, 50.0, 0, "%@°"},
+      {"stays", SensorType::temperature, kReverse, 50.0, 50.0, 0, "%@°"},
   };
   check(cases);
   units.setUnits(before);
@@ -153,35 +153,35 @@ TEST_F(SensorData, ATemperatureUnitOfAnotherKindIsCelsiusAndNotReversed) {
 
 TEST_F(SensorData, PercentageIsCappedAboveOnly) {
   const Case cases[] = {
-      {"a fraction",           SensorType::percentage, kNone,  0.423,       42.3,                0, "%@%%"},
-      {"no blank",             SensorType::percentage, kSpace, 0.5,         50.0,                0, "%@%%"},
-      {"full",                 SensorType::percentage, kNone,  1.0,         100.0,               0, "%@%%"},
-      {"just below full",      SensorType::percentage, kNone,  below(1.0),  99.99999999999999,   0, "%@%%"},
-      {"just above full",      SensorType::percentage, kNone,  above(1.0),  100.0,               0, "%@%%"},
-      {"more than full",       SensorType::percentage, kNone,  1.5,         100.0,               0, "%@%%"},
-      {"unknown",              SensorType::percentage, kNone,  -1.0,        0.0,                 0, "%@%%"},
-      {"beside unknown",       SensorType::percentage, kNone,  below(-1.0), -100.00000000000003, 0, "%@%%"},
-      {"beside unknown",       SensorType::percentage, kNone,  above(-1.0), -99.99999999999999,  0, "%@%%"},
-      {"not capped below",     SensorType::percentage, kNone,  -0.5,        -50.0,               0, "%@%%"},
-      {"not a number is full", SensorType::percentage, kNone,  kNan,        100.0,               0, "%@%%"},
-      {"infinite is full",     SensorType::percentage, kNone,  kInfinity,   100.0,               0, "%@%%"},
-      {"infinitely empty",     SensorType::percentage, kNone,  -kInfinity,  -kInfinity,          0, "%@%%"},
+      {"a fraction", SensorType::percentage, kNone, 0.423, 42.3, 0, "%@%%"},
+      {"no blank", SensorType::percentage, kSpace, 0.5, 50.0, 0, "%@%%"},
+      {"full", SensorType::percentage, kNone, 1.0, 100.0, 0, "%@%%"},
+      {"just below full", SensorType::percentage, kNone, below(1.0), 99.99999999999999, 0, "%@%%"},
+      {"just above full", SensorType::percentage, kNone, above(1.0), 100.0, 0, "%@%%"},
+      {"more than full", SensorType::percentage, kNone, 1.5, 100.0, 0, "%@%%"},
+      {"unknown", SensorType::percentage, kNone, -1.0, 0.0, 0, "%@%%"},
+      {"beside unknown", SensorType::percentage, kNone, below(-1.0), -100.00000000000003, 0, "%@%%"},
+      {"beside unknown", SensorType::percentage, kNone, above(-1.0), -99.99999999999999, 0, "%@%%"},
+      {"not capped below", SensorType::percentage, kNone, -0.5, -50.0, 0, "%@%%"},
+      {"not a number is full", SensorType::percentage, kNone, kNan, 100.0, 0, "%@%%"},
+      {"infinite is full", SensorType::percentage, kNone, kInfinity, 100.0, 0, "%@%%"},
+      {"infinitely empty", SensorType::percentage, kNone, -kInfinity, -kInfinity, 0, "%@%%"},
   };
   check(cases);
 }
 
 TEST_F(SensorData, FanIsOffAtExactlyZero) {
   const Case cases[] = {
-      {"turning",              SensorType::fan, kNone,    1200.0,  1200.0,  0, "%@rpm" },
-      {"spaced",               SensorType::fan, kSpace,   1200.0,  1200.0,  0, "%@ rpm"},
-      {"off, though false",    SensorType::fan, kOff,     0.0,     0.0,     0, "Off"   },
-      {"off, though null",     SensorType::fan, kOffNull, 0.0,     0.0,     0, "Off"   },
-      {"off at minus zero",    SensorType::fan, kOff,     -0.0,    -0.0,    0, "Off"   },
-      {"nobody asked",         SensorType::fan, kNone,    0.0,     0.0,     0, "%@rpm" },
-      {"nobody asked, spaced", SensorType::fan, kSpace,   0.0,     0.0,     0, "%@ rpm"},
-      {"hardly turning",       SensorType::fan, kOff,     0.0001,  0.0001,  0, "%@rpm" },
-      {"the least above",      SensorType::fan, kOff,     5e-324,  5e-324,  0, "%@rpm" },
-      {"the least below",      SensorType::fan, kOff,     -5e-324, -5e-324, 0, "%@rpm" },
+      {"turning", SensorType::fan, kNone, 1200.0, 1200.0, 0, "%@rpm"},
+      {"spaced", SensorType::fan, kSpace, 1200.0, 1200.0, 0, "%@ rpm"},
+      {"off, though false", SensorType::fan, kOff, 0.0, 0.0, 0, "Off"},
+      {"off, though null", SensorType::fan, kOffNull, 0.0, 0.0, 0, "Off"},
+      {"off at minus zero", SensorType::fan, kOff, -0.0, -0.0, 0, "Off"},
+      {"nobody asked", SensorType::fan, kNone, 0.0, 0.0, 0, "%@rpm"},
+      {"nobody asked, spaced", SensorType::fan, kSpace, 0.0, 0.0, 0, "%@ rpm"},
+      {"hardly turning", SensorType::fan, kOff, 0.0001, 0.0001, 0, "%@rpm"},
+      {"the least above", SensorType::fan, kOff, 5e-324, 5e-324, 0, "%@rpm"},
+      {"the least below", SensorType::fan, kOff, -5e-324, -5e-324, 0, "%@rpm"},
   };
   check(cases);
 }
@@ -196,25 +196,25 @@ TEST_F(SensorData, SmallCurrentsPowersAndVoltagesAreInThousandths) {
   };
   const Family families[] = {
       {SensorType::current, "%@A", "%@ A", "%@mA", "%@ mA"},
-      {SensorType::power,   "%@W", "%@ W", "%@mW", "%@ mW"},
+      {SensorType::power, "%@W", "%@ W", "%@mW", "%@ mW"},
       {SensorType::voltage, "%@V", "%@ V", "%@mV", "%@ mV"},
   };
   for (const Family& f : families) {
     const Case cases[] = {
-        {"half",            f.type, kSpace, 0.5,         500.0,               0, f.milliSpaced},
-        {"half, tight",     f.type, kNone,  0.5,         500.0,               0, f.milli      },
-        {"one stays",       f.type, kSpace, 1.0,         1.0,                 1, f.baseSpaced },
-        {"minus one stays", f.type, kNone,  -1.0,        -1.0,                1, f.base       },
-        {"just below one",  f.type, kNone,  below(1.0),  999.9999999999999,   0, f.milli      },
-        {"just above one",  f.type, kNone,  above(1.0),  1.0000000000000002,  1, f.base       },
-        {"just inside",     f.type, kNone,  above(-1.0), -999.9999999999999,  0, f.milli      },
-        {"just outside",    f.type, kNone,  below(-1.0), -1.0000000000000002, 1, f.base       },
-        {"negative",        f.type, kNone,  -0.25,       -250.0,              0, f.milli      },
-        {"zero",            f.type, kSpace, 0.0,         0.0,                 0, f.baseSpaced },
-        {"minus zero",      f.type, kNone,  -0.0,        -0.0,                0, f.base       },
-        {"the least",       f.type, kNone,  5e-324,      4.94e-321,           0, f.milli      },
-        {"large",           f.type, kNone,  500.0,       500.0,               1, f.base       },
-        {"infinite",        f.type, kNone,  -kInfinity,  -kInfinity,          1, f.base       },
+        {"half", f.type, kSpace, 0.5, 500.0, 0, f.milliSpaced},
+        {"half, tight", f.type, kNone, 0.5, 500.0, 0, f.milli},
+        {"one stays", f.type, kSpace, 1.0, 1.0, 1, f.baseSpaced},
+        {"minus one stays", f.type, kNone, -1.0, -1.0, 1, f.base},
+        {"just below one", f.type, kNone, below(1.0), 999.9999999999999, 0, f.milli},
+        {"just above one", f.type, kNone, above(1.0), 1.0000000000000002, 1, f.base},
+        {"just inside", f.type, kNone, above(-1.0), -999.9999999999999, 0, f.milli},
+        {"just outside", f.type, kNone, below(-1.0), -1.0000000000000002, 1, f.base},
+        {"negative", f.type, kNone, -0.25, -250.0, 0, f.milli},
+        {"zero", f.type, kSpace, 0.0, 0.0, 0, f.baseSpaced},
+        {"minus zero", f.type, kNone, -0.0, -0.0, 0, f.base},
+        {"the least", f.type, kNone, 5e-324, 4.94e-321, 0, f.milli},
+        {"large", f.type, kNone, 500.0, 500.0, 1, f.base},
+        {"infinite", f.type, kNone, -kInfinity, -kInfinity, 1, f.base},
     };
     check(cases);
     const std::optional<Dictionary> nan = KZMUtilitiesSensorData(f.type, kNone, kNan);
@@ -235,23 +235,23 @@ TEST_F(SensorData, EachFamilyReadsItsOwnDecimalsRules) {
   const Dictionary mistyped = with("decimals-power", 3);
   const Dictionary onItself = with("decimals-voltage", Array{rule(5.0, 4)});
   const Case cases[] = {
-      {"below the first",               SensorType::voltage,   voltage,   5.0,         5.0,               2, "%@V"  },
-      {"on the first",                  SensorType::voltage,   voltage,   10.0,        10.0,              1, "%@V"  },
-      {"just below it",                 SensorType::voltage,   voltage,   below(10.0), 9.999999999999998, 2, "%@V"  },
-      {"below the second",              SensorType::voltage,   voltage,   50.0,        50.0,              1, "%@V"  },
-      {"above both",                    SensorType::voltage,   voltage,   500.0,       500.0,             1, "%@V"  },
-      {"the scaled value",              SensorType::voltage,   voltage,   0.05,        50.0,              1, "%@mV" },
-      {"scaled above both",             SensorType::voltage,   voltage,   0.5,         500.0,             0, "%@mV" },
-      {"zero matches",                  SensorType::voltage,   voltage,   0.0,         0.0,               2, "%@V"  },
-      {"of current",                    SensorType::current,   amperage,  5.0,         5.0,               2, "%@A"  },
-      {"of power",                      SensorType::power,     power,     5.0,         5.0,               2, "%@W"  },
-      {"not of another",                SensorType::current,   voltage,   5.0,         5.0,               1, "%@A"  },
-      {"not of current",                SensorType::current,   noKey,     5.0,         5.0,               1, "%@A"  },
-      {"mistyped",                      SensorType::power,     mistyped,  5.0,         5.0,               1, "%@W"  },
-      {"of frequency, scaled",          SensorType::frequency, frequency, 2400.0,      2.4,               2, "%@GHz"},
-      {"frequency above both",          SensorType::frequency, frequency, 500000.0,    500.0,             2, "%@GHz"},
-      {"frequency between",             SensorType::frequency, frequency, 50000.0,     50.0,              1, "%@GHz"},
-      {"a bound does not match itself", SensorType::voltage,   onItself,  5.0,         5.0,               1, "%@V"  },
+      {"below the first", SensorType::voltage, voltage, 5.0, 5.0, 2, "%@V"},
+      {"on the first", SensorType::voltage, voltage, 10.0, 10.0, 1, "%@V"},
+      {"just below it", SensorType::voltage, voltage, below(10.0), 9.999999999999998, 2, "%@V"},
+      {"below the second", SensorType::voltage, voltage, 50.0, 50.0, 1, "%@V"},
+      {"above both", SensorType::voltage, voltage, 500.0, 500.0, 1, "%@V"},
+      {"the scaled value", SensorType::voltage, voltage, 0.05, 50.0, 1, "%@mV"},
+      {"scaled above both", SensorType::voltage, voltage, 0.5, 500.0, 0, "%@mV"},
+      {"zero matches", SensorType::voltage, voltage, 0.0, 0.0, 2, "%@V"},
+      {"of current", SensorType::current, amperage, 5.0, 5.0, 2, "%@A"},
+      {"of power", SensorType::power, power, 5.0, 5.0, 2, "%@W"},
+      {"not of another", SensorType::current, voltage, 5.0, 5.0, 1, "%@A"},
+      {"not of current", SensorType::current, noKey, 5.0, 5.0, 1, "%@A"},
+      {"mistyped", SensorType::power, mistyped, 5.0, 5.0, 1, "%@W"},
+      {"of frequency, scaled", SensorType::frequency, frequency, 2400.0, 2.4, 2, "%@GHz"},
+      {"frequency above both", SensorType::frequency, frequency, 500000.0, 500.0, 2, "%@GHz"},
+      {"frequency between", SensorType::frequency, frequency, 50000.0, 50.0, 1, "%@GHz"},
+      {"a bound does not match itself", SensorType::voltage, onItself, 5.0, 5.0, 1, "%@V"},
   };
   check(cases);
 }
@@ -260,18 +260,18 @@ TEST_F(SensorData, TheOtherKinds) {
   Dictionary shortAndSpaced = kShort;
   shortAndSpaced.set("space", true);
   const Case cases[] = {
-      {"light",              SensorType::light,      kNone,          300.5,  300.5,  0, "%@Lux" },
-      {"light, spaced",      SensorType::light,      kSpace,         300.5,  300.5,  0, "%@ Lux"},
-      {"light, short",       SensorType::light,      kShort,         300.5,  300.5,  0, "%@Lx"  },
-      {"light, both",        SensorType::light,      shortAndSpaced, 300.5,  300.5,  0, "%@ Lx" },
-      {"frequency",          SensorType::frequency,  kNone,          2400.0, 2.4,    2, "%@GHz" },
-      {"frequency, spaced",  SensorType::frequency,  kSpace,         2400.0, 2.4,    2, "%@ GHz"},
-      {"frequency, short",   SensorType::frequency,  kShort,         2400.0, 2.4,    2, "%@G"   },
-      {"frequency, both",    SensorType::frequency,  shortAndSpaced, 2400.0, 2.4,    2, "%@ G"  },
-      {"multiplier",         SensorType::multiplier, kNone,          24.0,   24.0,   0, "%@x"   },
-      {"multiplier, spaced", SensorType::multiplier, kSpace,         24.0,   24.0,   0, "%@x"   },
-      {"capacity",           SensorType::capacity,   kNone,          5100.0, 5100.0, 0, "%@mAh" },
-      {"capacity, spaced",   SensorType::capacity,   kSpace,         5100.0, 5100.0, 0, "%@ mAh"},
+      {"light", SensorType::light, kNone, 300.5, 300.5, 0, "%@Lux"},
+      {"light, spaced", SensorType::light, kSpace, 300.5, 300.5, 0, "%@ Lux"},
+      {"light, short", SensorType::light, kShort, 300.5, 300.5, 0, "%@Lx"},
+      {"light, both", SensorType::light, shortAndSpaced, 300.5, 300.5, 0, "%@ Lx"},
+      {"frequency", SensorType::frequency, kNone, 2400.0, 2.4, 2, "%@GHz"},
+      {"frequency, spaced", SensorType::frequency, kSpace, 2400.0, 2.4, 2, "%@ GHz"},
+      {"frequency, short", SensorType::frequency, kShort, 2400.0, 2.4, 2, "%@G"},
+      {"frequency, both", SensorType::frequency, shortAndSpaced, 2400.0, 2.4, 2, "%@ G"},
+      {"multiplier", SensorType::multiplier, kNone, 24.0, 24.0, 0, "%@x"},
+      {"multiplier, spaced", SensorType::multiplier, kSpace, 24.0, 24.0, 0, "%@x"},
+      {"capacity", SensorType::capacity, kNone, 5100.0, 5100.0, 0, "%@mAh"},
+      {"capacity, spaced", SensorType::capacity, kSpace, 5100.0, 5100.0, 0, "%@ mAh"},
   };
   check(cases);
 }

@@ -12,11 +12,7 @@ namespace {
 
 TEST(Allocation, ReadingAbsentSettingsAndNumbersAllocatesNothing) {
   Store store("");
-  store.useObjects({
-      {"Weather.Global.Units.Pressure", 2       },
-      {"Sensors.Global.Degrees.Format", 1.0     },
-      {"list",                          Array{1}}
-  });
+  store.useObjects({{"Weather.Global.Units.Pressure", 2}, {"Sensors.Global.Degrees.Format", 1.0}, {"list", Array{1}}});
   EXPECT_EQ(store.find("Weather.Global.Units.Pressure"), Value(2));
   const std::size_t before = tests::allocations();
   for (int i = 0; i < 100; ++i) {

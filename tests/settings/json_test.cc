@@ -30,23 +30,23 @@ TEST(Json, TellsWhyATextHoldsNoSettings) {
   const std::string bracketsInTexts = R"({"[[\"{": ")" + std::string(200, '[') + "\"}";
   const std::string hostile(1000000, '[');
   const Case kCases[] = {
-      {"empty object",                "{}",                    ""                              },
-      {"one member",                  "{\"a\": 1}\n",          ""                              },
-      {"brackets in texts",           bracketsInTexts,         ""                              },
-      {"nothing at all",              "",                      "line 1 is not JSON"            },
-      {"only blanks",                 "  \n ",                 "line 2 is not JSON"            },
-      {"cut off",                     "{\n\"a\": 1,\n\"b\": ", "line 3 is not JSON"            },
-      {"a comma too many",            "{\n\"a\": 1,\n}",       "line 3 is not JSON"            },
-      {"something behind",            "{} {}",                 "line 1 is not JSON"            },
-      {"not UTF-8",                   "{\"a\": \"\xff\"}",     "line 1 is not JSON"            },
-      {"half a surrogate pair",       "{\"a\": \"\\ud800\"}",  "line 1 is not JSON"            },
-      {"NaN is not JSON",             "{\"a\": NaN}",          "line 1 is not JSON"            },
-      {"a number beyond the doubles", "{\"a\": 1e999}",        "it holds a number out of range"},
-      {"an array",                    "[1]",                   "it is not one JSON object"     },
-      {"a bare null",                 "null",                  "it is not one JSON object"     },
-      {"as deep as may be",           nested(64),              ""                              },
-      {"one level deeper",            nested(65),              "it nests deeper than 64 levels"},
-      {"hostile depth",               hostile,                 "it nests deeper than 64 levels"},
+      {"empty object", "{}", ""},
+      {"one member", "{\"a\": 1}\n", ""},
+      {"brackets in texts", bracketsInTexts, ""},
+      {"nothing at all", "", "line 1 is not JSON"},
+      {"only blanks", "  \n ", "line 2 is not JSON"},
+      {"cut off", "{\n\"a\": 1,\n\"b\": ", "line 3 is not JSON"},
+      {"a comma too many", "{\n\"a\": 1,\n}", "line 3 is not JSON"},
+      {"something behind", "{} {}", "line 1 is not JSON"},
+      {"not UTF-8", "{\"a\": \"\xff\"}", "line 1 is not JSON"},
+      {"half a surrogate pair", "{\"a\": \"\\ud800\"}", "line 1 is not JSON"},
+      {"NaN is not JSON", "{\"a\": NaN}", "line 1 is not JSON"},
+      {"a number beyond the doubles", "{\"a\": 1e999}", "it holds a number out of range"},
+      {"an array", "[1]", "it is not one JSON object"},
+      {"a bare null", "null", "it is not one JSON object"},
+      {"as deep as may be", nested(64), ""},
+      {"one level deeper", nested(65), "it nests deeper than 64 levels"},
+      {"hostile depth", hostile, "it nests deeper than 64 levels"},
   };
   for (const Case& row : kCases) EXPECT_EQ(parse(row.text).fault, row.fault) << row.why;
 }
@@ -56,17 +56,10 @@ TEST(Json, ReadsEveryKindOfMember) {
       parse(R"({"no": null, "yes": true, "int": -7, "big": 18446744073709551615, "real": 2.5, "text": "a\"\u00e9",)"
             R"( "list": [1, "x", null], "map": {"k": {"deep": false}}})");
   const Array list{1, "x", nullptr};
-  const Dictionary deep{
-      {"k", Dictionary{{"deep", false}}}
-  };
+  const Dictionary deep{{"k", Dictionary{{"deep", false}}}};
   const Dictionary expected{
-      {"yes",  true                  },
-      {"int",  -7                    },
-      {"big",  18446744073709551616.0},
-      {"real", 2.5                   },
-      {"text", "a\"\u00e9"           },
-      {"list", list                  },
-      {"map",  deep                  },
+      {"yes", true},  {"int", -7},   {"big", 18446744073709551616.0}, {"real", 2.5}, {"text", "a\"\u00e9"},
+      {"list", list}, {"map", deep},
   };
   EXPECT_EQ(settingsIn(parsed.object), expected);
 }
@@ -78,23 +71,21 @@ TEST(Json, RefusesWhatAFileCannotHold) {
     bool holds;
   };
   const Value nanInside = Array{1, Dictionary{{"a", std::nan("")}}};
-  const Value badKey = Dictionary{
-      {"\xff", 1}
-  };
+  const Value badKey = Dictionary{{"\xff", 1}};
   const double infinity = std::numeric_limits<double>::infinity();
   const Case kCases[] = {
-      {"null",                   nullptr,                            true },
-      {"largest double",         std::numeric_limits<double>::max(), true },
-      {"NaN",                    std::nan(""),                       false},
-      {"infinity",               infinity,                           false},
-      {"NaN inside",             nanInside,                          false},
-      {"opaque object",          std::make_shared<Object>(),         false},
-      {"opaque object inside",   Array{std::make_shared<Object>()},  false},
-      {"text that is not UTF-8", "\xc3",                             false},
-      {"key that is not UTF-8",  badKey,                             false},
-      {"as deep as may be",      nestedValue(63),                    true },
-      {"one level deeper",       nestedValue(64),                    false},
-      {"very deep",              nestedValue(2000),                  false},
+      {"null", nullptr, true},
+      {"largest double", std::numeric_limits<double>::max(), true},
+      {"NaN", std::nan(""), false},
+      {"infinity", infinity, false},
+      {"NaN inside", nanInside, false},
+      {"opaque object", std::make_shared<Object>(), false},
+      {"opaque object inside", Array{std::make_shared<Object>()}, false},
+      {"text that is not UTF-8", "\xc3", false},
+      {"key that is not UTF-8", badKey, false},
+      {"as deep as may be", nestedValue(63), true},
+      {"one level deeper", nestedValue(64), false},
+      {"very deep", nestedValue(2000), false},
   };
   for (const Case& row : kCases) EXPECT_EQ(memberFor(row.value).has_value(), row.holds) << row.why;
 }

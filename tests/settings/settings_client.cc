@@ -20,9 +20,7 @@ bool holds(const std::string& key, std::int64_t number) {
 }
 
 bool staysInMemory() {
-  KZMSettingsUseObjects({
-      {"in memory", 1}
-  });
+  KZMSettingsUseObjects({{"in memory", 1}});
   return KZMSettingsSetObjectForKeyPath(2, "also") && holds("in memory", 1) && holds("also", 2) &&
          KZMSettingsObjects().size() == 2;
 }

@@ -62,9 +62,7 @@ TEST_F(Settings, AChangeIsReadBackAtOnceAndStored) {
   EXPECT_TRUE(KZMSettingsObjectForKeyPath("a.b").isNull());
   EXPECT_TRUE(KZMSettingsSetObjectForKeyPath(3, "a.b"));
   EXPECT_EQ(KZMSettingsObjectForKeyPath("a.b"), kzm::Value(3));
-  EXPECT_EQ(KZMSettingsObjects(), (kzm::Dictionary{
-                                      {"a.b", 3}
-  }));
+  EXPECT_EQ(KZMSettingsObjects(), (kzm::Dictionary{{"a.b", 3}}));
   EXPECT_EQ(textOf(fileOfTest()), "{\n  \"a.b\": 3\n}\n");
 }
 

@@ -77,10 +77,7 @@ TEST(StoreConcurrent, MovingToMemoryAmongReadersAndWritersIsFinal) {
       if (thread == 0) {
         EXPECT_TRUE(store.set(1, "a"));
       }
-      if (thread == 1)
-        store.useObjects({
-            {"b", 2}
-        });
+      if (thread == 1) store.useObjects({{"b", 2}});
       for (int i = 0; i < 100; ++i) (void)store.find("a");
     });
     EXPECT_EQ(store.find("b"), Value(2));

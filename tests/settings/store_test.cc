@@ -45,21 +45,21 @@ TEST_F(StoreTest, WithoutAFileThereAreNoSettingsAndReadingMakesNone) {
 
 TEST_F(StoreTest, EveryKindOfValueComesBackFromTheFile) {
   const Dictionary kValues{
-      {"true",     true                                            },
-      {"false",    false                                           },
-      {"zero",     0                                               },
-      {"least",    std::numeric_limits<std::int64_t>::min()        },
-      {"greatest", std::numeric_limits<std::int64_t>::max()        },
-      {"one",      1.0                                             },
-      {"minus",    -0.0                                            },
-      {"huge",     1e300                                           },
-      {"tiny",     5e-324                                          },
-      {"tenth",    0.1                                             },
-      {"",         "the empty key"                                 },
-      {"text",     "\"quoted\" \\ \n\t\x01 Grad \u00b0C \U0001f321"},
-      {"nul",      std::string("a\0b",                               3)},
-      {"list",          Array{1, 1.0, true, nullptr, "x", Array{}}                                                    },
-      {"map",          Dictionary{{"a", Dictionary{{"b", 2}}}} },
+      {"true", true},
+      {"false", false},
+      {"zero", 0},
+      {"least", std::numeric_limits<std::int64_t>::min()},
+      {"greatest", std::numeric_limits<std::int64_t>::max()},
+      {"one", 1.0},
+      {"minus", -0.0},
+      {"huge", 1e300},
+      {"tiny", 5e-324},
+      {"tenth", 0.1},
+      {"", "the empty key"},
+      {"text", "\"quoted\" \\ \n\t\x01 Grad \u00b0C \U0001f321"},
+      {"nul", std::string("a\0b", 3)},
+      {"list", Array{1, 1.0, true, nullptr, "x", Array{}}},
+      {"map", Dictionary{{"a", Dictionary{{"b", 2}}}}},
   };
   for (const Dictionary::Entry& entry : kValues) EXPECT_TRUE(store_.set(entry.value, entry.key)) << entry.key;
   Store again(path_);
@@ -139,11 +139,11 @@ TEST_F(StoreTest, AnUnusablePlaceNeitherHangsNorIsOverwritten) {
     const char* fault;
   };
   constexpr Case kCases[] = {
-      {"a pipe nobody writes to", [](const char* path) { return mkfifo(path, 0600); },             "it is not a regular file"},
-      {"a directory",             [](const char* path) { return mkdir(path, 0700); },              "it is not a regular file"},
-      {"a device",                [](const char* path) { return symlink("/dev/zero", path); },     "it is not a regular file"},
-      {"a link to itself",        [](const char* path) { return symlink("settings.json", path); },
-       "Too many levels of symbolic links"                                                                                   },
+      {"a pipe nobody writes to", [](const char* path) { return mkfifo(path, 0600); }, "it is not a regular file"},
+      {"a directory", [](const char* path) { return mkdir(path, 0700); }, "it is not a regular file"},
+      {"a device", [](const char* path) { return symlink("/dev/zero", path); }, "it is not a regular file"},
+      {"a link to itself", [](const char* path) { return symlink("settings.json", path); },
+       "Too many levels of symbolic links"},
   };
   fs::create_directories(scratch_.path("KZMUtilities"));
   for (const Case& row : kCases) {
@@ -243,18 +243,14 @@ TEST_F(StoreTest, AChangeIsRefusedWhileAnotherProcessKeepsTheLock) {
 TEST_F(StoreTest, ObjectsInMemoryReplaceTheFileForGood) {
   scratch_.write(kFile, R"({"a": 1, "b": 2})");
   EXPECT_EQ(store_.find("a"), Value(1));
-  store_.useObjects({
-      {"c", 3}
-  });
+  store_.useObjects({{"c", 3}});
   EXPECT_EQ(store_.find("a"), Value());
   EXPECT_EQ(store_.find("c"), Value(3));
   EXPECT_TRUE(store_.set(4, "a"));
   EXPECT_TRUE(store_.set(nullptr, "c"));
   EXPECT_FALSE(store_.set(std::nan(""), "a"));
   scratch_.write(kFile, R"({"b": 5})");
-  EXPECT_EQ(store_.objects(), (Dictionary{
-                                  {"a", 4}
-  }));
+  EXPECT_EQ(store_.objects(), (Dictionary{{"a", 4}}));
   EXPECT_EQ(scratch_.read(kFile), R"({"b": 5})");
 }
 

@@ -15,18 +15,18 @@ constexpr std::int64_t kInches = 3;
 
 TEST(WeatherPressure, InTheUsersUnit) {
   const UnitCase cases[] = {
-      {"hectopascals",        kHectopascals, kSpaced,            1013.25,    "1,013 hPa" },
-      {"hectopascals, tight", kHectopascals, kUnits,             1013.25,    "1,013hPa"  },
-      {"hectopascals, alone", kHectopascals, kNone,              1013.25,    "1,013"     },
-      {"half to even",        kHectopascals, withDecimals(true), 1013.25,    "1,013.2hPa"},
-      {"millibars",           kMillibars,    kSpaced,            1013.25,    "1,013 mb"  },
-      {"millibars, tight",    kMillibars,    kUnits,             1013.25,    "1,013mb"   },
-      {"millibars, alone",    kMillibars,    kNone,              1013.25,    "1,013"     },
-      {"millibars, a digit",  kMillibars,    withDecimals(1),    1013.27,    "1,013.3mb" },
-      {"no digit needed",     kMillibars,    withDecimals(1),    1013.0,     "1,013mb"   },
-      {"not a number",        kHectopascals, kSpaced,            kNan,       "NaN hPa"   },
-      {"infinite",            kMillibars,    kSpaced,            -kInfinity, "-∞ mb"   },
-      {"negative zero",       kHectopascals, kUnits,             -0.0,       "-0hPa"     },
+      {"hectopascals", kHectopascals, kSpaced, 1013.25, "1,013 hPa"},
+      {"hectopascals, tight", kHectopascals, kUnits, 1013.25, "1,013hPa"},
+      {"hectopascals, alone", kHectopascals, kNone, 1013.25, "1,013"},
+      {"half to even", kHectopascals, withDecimals(true), 1013.25, "1,013.2hPa"},
+      {"millibars", kMillibars, kSpaced, 1013.25, "1,013 mb"},
+      {"millibars, tight", kMillibars, kUnits, 1013.25, "1,013mb"},
+      {"millibars, alone", kMillibars, kNone, 1013.25, "1,013"},
+      {"millibars, a digit", kMillibars, withDecimals(1), 1013.27, "1,013.3mb"},
+      {"no digit needed", kMillibars, withDecimals(1), 1013.0, "1,013mb"},
+      {"not a number", kHectopascals, kSpaced, kNan, "NaN hPa"},
+      {"infinite", kMillibars, kSpaced, -kInfinity, "-∞ mb"},
+      {"negative zero", kHectopascals, kUnits, -0.0, "-0hPa"},
   };
   for (const UnitCase& c : cases) {
     tests::useOnlySetting(kSetting, c.code);

@@ -20,13 +20,8 @@ inline double below(double value) { return std::nextafter(value, -kInfinity); }
 inline double above(double value) { return std::nextafter(value, kInfinity); }
 
 inline const Dictionary kNone;
-inline const Dictionary kUnits{
-    {"units", true}
-};
-inline const Dictionary kSpaced{
-    {"units", true},
-    {"space", true}
-};
+inline const Dictionary kUnits{{"units", true}};
+inline const Dictionary kSpaced{{"units", true}, {"space", true}};
 
 /// Options with decimals, and the unit shown.
 inline Dictionary withDecimals(Value decimals) {

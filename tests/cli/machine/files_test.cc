@@ -49,15 +49,15 @@ TEST(Files, CountsAreWholeNumbersAndNothingElse) {
     std::optional<std::uint64_t> count;
   };
   constexpr Case kCases[] = {
-      {"0",                    0         },
+      {"0", 0},
       {"18446744073709551615", UINT64_MAX},
-      {"18446744073709551616", {}        },
-      {"",                     {}        },
-      {"-1",                   {}        },
-      {"+1",                   {}        },
-      {"1.5",                  {}        },
-      {"12x",                  {}        },
-      {" 1",                   {}        },
+      {"18446744073709551616", {}},
+      {"", {}},
+      {"-1", {}},
+      {"+1", {}},
+      {"1.5", {}},
+      {"12x", {}},
+      {" 1", {}},
   };
   for (const Case& row : kCases) EXPECT_EQ(countIn(row.text), row.count) << row.text;
 }
@@ -68,18 +68,8 @@ TEST(Files, NumbersAreFiniteAndAloneInTheirFile) {
     std::optional<double> number;
   };
   constexpr Case kCases[] = {
-      {"42000\n", 42000.0},
-      {" -5 ",    -5.0   },
-      {"0.25\n",  0.25   },
-      {"",        {}     },
-      {"\n",      {}     },
-      {"nan",     {}     },
-      {"inf",     {}     },
-      {"1e999",   {}     },
-      {"0x10",    {}     },
-      {"1 2",     {}     },
-      {"1,5",     {}     },
-      {"N/A",     {}     },
+      {"42000\n", 42000.0}, {" -5 ", -5.0}, {"0.25\n", 0.25}, {"", {}},    {"\n", {}},  {"nan", {}},
+      {"inf", {}},          {"1e999", {}},  {"0x10", {}},     {"1 2", {}}, {"1,5", {}}, {"N/A", {}},
   };
   for (const Case& row : kCases) EXPECT_EQ(numberIn(row.text), row.number) << row.text;
 }
@@ -91,27 +81,30 @@ TEST(Files, ShownTextHoldsNothingThatSteersATerminal) {
     const char* shown;
   };
   constexpr Case kCases[] = {
-      {"plain",                        "Core 0",                       "Core 0"                      },
-      {"blanks at the ends",           "  a b \n",                     "a b"                         },
-      {"escape sequence",              "\x1b[2Ja\x07",                 "[2Ja"                        },
+      {"plain", "Core 0", "Core 0"},
+      {"blanks at the ends", "  a b \n", "a b"},
+      {"escape sequence", "\x1b[2Ja\x07", "[2Ja"},
       {"C1 control in two bytes",
        "a\xc2\x9b"
-       "31mb",                                                         "a31mb"                       },
+       "31mb",
+       "a31mb"},
       {"C1 control in one byte",
        "a\x9b"
-       "31mb",                                                         "a31mb"                       },
+       "31mb",
+       "a31mb"},
       {"delete",
        "a\x7f"
-       "b",                                                            "ab"                          },
+       "b",
+       "ab"},
       {"letters of any language stay", "W\u00e4rme \u6e29 \U0001f321", "W\u00e4rme \u6e29 \U0001f321"},
-      {"not UTF-8",                    "a\xff\xc3(b",                  "a(b"                         },
-      {"cut off",                      "a\xe2\x82",                    "a"                           },
-      {"overlong",                     "\xc0\x9b\xe0\x80\x9b[",        "["                           },
-      {"surrogate",                    "a\xed\xa0\x80",                "a"                           },
-      {"beyond the last",              "a\xf4\x90\x80\x80",            "a"                           },
-      {"direction override",           "a\u202eb\u2066c\u200f",        "abc"                         },
-      {"line separator",               "a\u2028b",                     "ab"                          },
-      {"nothing left",                 "\x1b\x07 ",                    ""                            },
+      {"not UTF-8", "a\xff\xc3(b", "a(b"},
+      {"cut off", "a\xe2\x82", "a"},
+      {"overlong", "\xc0\x9b\xe0\x80\x9b[", "["},
+      {"surrogate", "a\xed\xa0\x80", "a"},
+      {"beyond the last", "a\xf4\x90\x80\x80", "a"},
+      {"direction override", "a\u202eb\u2066c\u200f", "abc"},
+      {"line separator", "a\u2028b", "ab"},
+      {"nothing left", "\x1b\x07 ", ""},
   };
   for (const Case& row : kCases) EXPECT_EQ(shownText(row.text), row.shown) << row.why;
 }

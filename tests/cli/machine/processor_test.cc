@@ -37,26 +37,21 @@ TEST(Processor, LoadIsTheBusyPartOfTheTimeBetween) {
     std::optional<double> busy;
   };
   const Case kCases[] = {
-      {"a quarter",              {"cpu", 100, 200}, {"cpu", 175, 300}, 0.25},
-      {"idle",                   {"cpu", 100, 200}, {"cpu", 200, 300}, 0.0 },
-      {"busy",                   {"cpu", 100, 200}, {"cpu", 100, 300}, 1.0 },
-      {"idle time stepped back", {"cpu", 100, 200}, {"cpu", 90, 300},  1.0 },
-      {"more idle than time",    {"cpu", 100, 200}, {"cpu", 250, 300}, 0.0 },
-      {"no time passed",         {"cpu", 100, 200}, {"cpu", 100, 200}, {}  },
-      {"a reset",                {"cpu", 100, 200}, {"cpu", 10, 20},   {}  },
-      {"it just came",           {"cpu1", 1, 2},    {"cpu", 100, 200}, {}  },
+      {"a quarter", {"cpu", 100, 200}, {"cpu", 175, 300}, 0.25},
+      {"idle", {"cpu", 100, 200}, {"cpu", 200, 300}, 0.0},
+      {"busy", {"cpu", 100, 200}, {"cpu", 100, 300}, 1.0},
+      {"idle time stepped back", {"cpu", 100, 200}, {"cpu", 90, 300}, 1.0},
+      {"more idle than time", {"cpu", 100, 200}, {"cpu", 250, 300}, 0.0},
+      {"no time passed", {"cpu", 100, 200}, {"cpu", 100, 200}, {}},
+      {"a reset", {"cpu", 100, 200}, {"cpu", 10, 20}, {}},
+      {"it just came", {"cpu1", 1, 2}, {"cpu", 100, 200}, {}},
   };
   for (const Case& row : kCases) {
     const std::vector<ProcessorLoad> loads = loadBetween({row.earlier}, {row.later});
     ASSERT_EQ(loads.size(), 1U) << row.why;
     EXPECT_EQ(loads[0].busy, row.busy) << row.why;
   }
-  EXPECT_TRUE(loadBetween(
-                  {
-                      {"cpu", 1, 2}
-  },
-                  {})
-                  .empty());
+  EXPECT_TRUE(loadBetween({{"cpu", 1, 2}}, {}).empty());
 }
 
 TEST(Processor, LoadAveragesAreThreeNumbersOrNothing) {
@@ -67,11 +62,11 @@ TEST(Processor, LoadAveragesAreThreeNumbersOrNothing) {
   };
   const Case kCases[] = {
       {"0.25 1.50 12.00 1/200 4242\n", Averages{0.25, 1.5, 12}},
-      {"0.25 1.50\n",                  {}                     },
-      {"0.25 x 12.00",                 {}                     },
-      {"0.25 -1 12.00",                {}                     },
-      {"nan inf 1",                    {}                     },
-      {"",                             {}                     },
+      {"0.25 1.50\n", {}},
+      {"0.25 x 12.00", {}},
+      {"0.25 -1 12.00", {}},
+      {"nan inf 1", {}},
+      {"", {}},
   };
   for (const Case& row : kCases) {
     const tests::ScratchDirectory scratch;

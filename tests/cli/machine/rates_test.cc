@@ -18,22 +18,22 @@ TEST(Rates, AreBytesOverSecondsOrUnknown) {
     std::optional<double> rate;
   };
   constexpr Case kCases[] = {
-      {"nothing moved",               500,        500,            1,    0.0        },
-      {"per second",                  500,        1500,           2,    500.0      },
-      {"a fraction of a second",      0,          100,            0.5,  200.0      },
-      {"no time passed",              0,          100,            0,    {}         },
-      {"time went back",              0,          100,            -1,   {}         },
-      {"time is unknown",             0,          100,            NAN,  {}         },
-      {"32 bits wrap",                4294967000, 704,            1,    1000.0     },
-      {"32 bits wrap at their end",   4294967295, 0,              1,    1.0        },
-      {"as fast as may wrap",         4294967295, 249999999,      1,    250000000.0},
-      {"too fast: a reset",           4294967295, 250000000,      1,    {}         },
-      {"a reset",                     1000000000, 5,              1,    {}         },
-      {"a reset beyond 32 bits",      4294967296, 5,              1,    {}         },
-      {"as fast as may be",           0,          10000000000000, 1,    1e13       },
-      {"garbage",                     0,          UINT64_MAX,     1,    {}         },
-      {"garbage back",                UINT64_MAX, 0,              1,    {}         },
-      {"a tiny while gives no giant", 0,          1000000,        1e-9, {}         },
+      {"nothing moved", 500, 500, 1, 0.0},
+      {"per second", 500, 1500, 2, 500.0},
+      {"a fraction of a second", 0, 100, 0.5, 200.0},
+      {"no time passed", 0, 100, 0, {}},
+      {"time went back", 0, 100, -1, {}},
+      {"time is unknown", 0, 100, NAN, {}},
+      {"32 bits wrap", 4294967000, 704, 1, 1000.0},
+      {"32 bits wrap at their end", 4294967295, 0, 1, 1.0},
+      {"as fast as may wrap", 4294967295, 249999999, 1, 250000000.0},
+      {"too fast: a reset", 4294967295, 250000000, 1, {}},
+      {"a reset", 1000000000, 5, 1, {}},
+      {"a reset beyond 32 bits", 4294967296, 5, 1, {}},
+      {"as fast as may be", 0, 10000000000000, 1, 1e13},
+      {"garbage", 0, UINT64_MAX, 1, {}},
+      {"garbage back", UINT64_MAX, 0, 1, {}},
+      {"a tiny while gives no giant", 0, 1000000, 1e-9, {}},
   };
   for (const Case& row : kCases) {
     const std::vector<Rate> rates =
@@ -52,12 +52,8 @@ TEST(Rates, BothDirectionsAreApart) {
 }
 
 TEST(Rates, WhatAppearsHasNoRateYetAndWhatVanishesIsGone) {
-  const Sample earlier{
-      0, {{"eth0", 1, 1}, {"usb0", 1, 1}}
-  };
-  const Sample later{
-      1, {{"wlan0", 900, 900}, {"eth0", 2, 3}}
-  };
+  const Sample earlier{0, {{"eth0", 1, 1}, {"usb0", 1, 1}}};
+  const Sample later{1, {{"wlan0", 900, 900}, {"eth0", 2, 3}}};
   const std::vector<Rate> rates = ratesBetween(earlier, later);
   ASSERT_EQ(rates.size(), 2U);
   EXPECT_EQ(rates[0].name, "wlan0");

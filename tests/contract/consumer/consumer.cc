@@ -6,13 +6,8 @@
 
 int main() {
   kzm::setCurrentLocale("en_US");
-  KZMSettingsUseObjects({
-      {"Weather.Global.Units.Pressure", 2}
-  });
-  const kzm::Dictionary options{
-      {"bandwidthformat", 2   },
-      {"space",           true}
-  };
+  KZMSettingsUseObjects({{"Weather.Global.Units.Pressure", 2}});
+  const kzm::Dictionary options{{"bandwidthformat", 2}, {"space", true}};
   const std::string text = KZMUtilitiesFormatBandwidth(options, 1500000.0);
   std::cout << text << '\n';
   return text == "11 Mb/s" && KZMSettingsObjectForKeyPath("Weather.Global.Units.Pressure") == kzm::Value(2) ? 0 : 1;

@@ -1,0 +1,31 @@
+# How each of the libraries is made.
+
+# kzm_library(NAME OBJECTS TARGET... [LIBRARIES ...] [PUBLIC_LIBRARIES ...] [VERSION_SCRIPT FILE]): a library of these
+# object libraries, shared or static. LIBRARIES are those that its code calls and its headers do not show.
+function(kzm_library name)
+  cmake_parse_arguments(ARG "" "VERSION_SCRIPT" "OBJECTS;LIBRARIES;PUBLIC_LIBRARIES" ${ARGN})
+  add_library(${name})
+  add_library(KZMUtilities::${name} ALIAS ${name})
+  foreach(objects ${ARG_OBJECTS})
+    target_sources(${name} PRIVATE $<TARGET_OBJECTS:${objects}>)
+  endforeach()
+  target_link_libraries(${name} PUBLIC ${ARG_PUBLIC_LIBRARIES} PRIVATE ${ARG_LIBRARIES})
+  target_include_directories(${name} PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  target_compile_features(${name} INTERFACE cxx_std_20)
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  if(BUILD_SHARED_LIBS)
+    # Ending threads call into the libraries, so they stay loaded once they are (nodelete).
+    target_link_options(${name} PRIVATE -Wl,-z,defs -Wl,-z,nodelete -Wl,--as-needed
+      -Wl,--version-script=${ARG_VERSION_SCRIPT})
+    set_target_properties(${name} PROPERTIES LINK_DEPENDS ${ARG_VERSION_SCRIPT})
+  endif()
+endfunction()
+
+# kzm_precompile(TARGET HEADER...): the headers that most sources of the target include, compiled once for all of them.
+function(kzm_precompile target)
+  if(KZM_PRECOMPILED_HEADERS)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()

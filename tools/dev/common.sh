@@ -1,0 +1,67 @@
+# shellcheck shell=bash
+# What the verbs of ./dev share: messages, the installation of packages, configuring, building and testing.
+
+jobs=$(nproc)
+
+say() { printf '\033[1m==>\033[0m %s\n' "$*" >&2; }
+fail() { printf 'dev: %s\n' "$*" >&2; exit 1; }
+refuse() { printf 'dev: %s\n' "$*" >&2; exit 2; }
+
+# The Debian packages that each purpose needs.
+compiler=(g++)
+case ${CXX:-} in *clang*) compiler=(clang) ;; esac
+packages_build=("${compiler[@]}" cmake ninja-build pkg-config
+    libicu-dev libglib2.0-dev libcairo2-dev libcctz-dev nlohmann-json3-dev tzdata)
+packages_test=("${packages_build[@]}" libgtest-dev)
+packages_bench=("${packages_build[@]}" libbenchmark-dev)
+packages_all=("${packages_test[@]}" libbenchmark-dev libpango1.0-dev fonts-dejavu-core fish zsh)
+packages_check=("${packages_all[@]}" clang-format clang-tidy)
+
+# need PACKAGE...: installs those that are not there yet.
+need() {
+    command -v dpkg-query >/dev/null || fail "this script installs Debian packages, and this system has no dpkg"
+    local package missing=() as_root=()
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || fail "not installed: ${missing[*]}; become root or install sudo first"
+        as_root=(sudo)
+    fi
+    say "Installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq --error-on=any >/dev/null 2>&1 ||
+        fail "not installed: ${missing[*]}; the package lists cannot be fetched: is there a network?"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null 2>&1 ||
+        fail "not installed: ${missing[*]}; apt-get install says why"
+}
+
+# configure PRESET [-DOPTION=VALUE...]
+configure() {
+    local preset=$1 log
+    shift
+    log=$(mktemp)
+    cmake --preset "$preset" "$@" >"$log" 2>&1 || { cat "$log" >&2; rm -f "$log"; fail "the configuration failed"; }
+    rm -f "$log"
+}
+
+# build PRESET [TARGET...]: tells how far it is.
+build() {
+    local preset=$1
+    shift
+    NINJA_STATUS='[%p of %t steps, %e s] ' cmake --build --preset "$preset" -j "$jobs" ${1:+--target "$@"} >&2 ||
+        fail "the build failed"
+}
+
+# run_tests PRESET [CTEST ARGUMENT...]
+run_tests() {
+    local preset=$1
+    shift
+    ctest --test-dir "build/$preset" --output-on-failure -j "$jobs" "$@"
+}
+
+# Everything that can be built, with what it needs; for the verbs that look at all sources.
+configure_all() {
+    configure "$1" -DKZM_BUILD_TESTS=ON -DKZM_BUILD_EXAMPLES=ON -DKZM_BUILD_BENCHMARKS=ON -DKZM_ALL_TESTS=ON
+}
