@@ -4,7 +4,7 @@
 function(kzm_more_tests name reason)
   if(KZM_ALL_TESTS)
     add_test(NAME ${name} COMMAND ${ARGN} WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 1200)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 1200 ENVIRONMENT "CMAKE_GENERATOR=${CMAKE_GENERATOR}")
   else()
     add_test(NAME ${name} COMMAND sh -c "echo 'left out: ${reason}; ./dev test --all runs it'; exit 77")
     set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77)

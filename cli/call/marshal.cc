@@ -56,9 +56,9 @@ TimePoint Argument<TimePoint>::read(const Json& json) {
 }
 
 TimeZone Argument<TimeZone>::read(const Json& json) {
-  const std::string name = Argument<std::string_view>::read(json);
-  const std::optional<TimeZone> zone = TimeZone::named(name);
-  if (!zone.has_value()) throw InputError("no time zone is named \"" + name + "\"");
+  const std::string identifier = Argument<std::string_view>::read(json);
+  const std::optional<TimeZone> zone = TimeZone::named(identifier);
+  if (!zone.has_value()) throw InputError("no time zone is named \"" + identifier + "\"");
   return *zone;
 }
 

@@ -12,8 +12,8 @@ struct Target {
 };
 
 constexpr Flag<Target> kFlags[] = {
-    {"--loud", "", "makes noise", [](Target& target, std::string_view, std::string_view) { target.loud = true; }},
-    {"--name", "NAME", "what it is called",
+    {{"--loud", "", "makes noise"}, [](Target& target, std::string_view, std::string_view) { target.loud = true; }},
+    {{"--name", "NAME", "what it is called"},
      [](Target& target, std::string_view option, std::string_view value) {
        if (value.empty()) throw InputError("is empty");
        target.name = value;

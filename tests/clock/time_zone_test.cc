@@ -53,7 +53,7 @@ TEST(TimeZone, AnyNumberHasAnOffset) {
 }
 
 TEST(TimeZone, NamesAreThoseOfZoneFilesOnly) {
-  for (const char* name : {"UTC", "GMT", "Europe/Paris", "America/Argentina/Buenos_Aires", "Etc/GMT-14", "EST5EDT"}) {
+  for (const char* name : {"UTC", "GMT", "Europe/Paris", "America/Argentina/Buenos_Aires", "Etc/GMT-14"}) {
     const std::optional<TimeZone> found = TimeZone::named(name);
     ASSERT_TRUE(found.has_value()) << name;
     EXPECT_EQ(found->identifier(), name);
