@@ -17,12 +17,12 @@ prepare_root() {
     touch "$cache/$root/ready"
 }
 
-# in_root ROOT FOLDER RECIPE ARGUMENTS: runs tools/matrix/recipes/RECIPE in the folder, with nothing of this machine's
+# in_root ROOT FOLDER SCRIPT ARGUMENTS: runs the script, named from the folder, there, with nothing of this machine's
 # environment. The mounts are gone when it ends.
 in_root() {
-    local root=$1 folder=$2 recipe=$3 arguments=$4
+    local root=$1 folder=$2 script=$3 arguments=$4
     unshare --mount --propagation private bash -euc '
-        root=$1 folder=$2 recipe=$3 arguments=$4
+        root=$1 folder=$2 script=$3 arguments=$4
         bind_device() { touch "$root/dev/$1" && mount --bind "/dev/$1" "$root/dev/$1"; }
         case $root in
             *-bare) for device in null zero full random urandom; do bind_device $device; done ;;
@@ -34,6 +34,6 @@ in_root() {
         esac
         exec chroot "$root" env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 TERM=dumb \
             DEBIAN_FRONTEND=noninteractive bash -euo pipefail -c \
-            "cd $folder && . tools/matrix/recipes/$recipe" "$recipe" "$arguments"
-    ' in_root "$cache/$root" "$folder" "$recipe" "$arguments"
+            "cd $folder && . ./$script" "$script" "$arguments"
+    ' in_root "$cache/$root" "$folder" "$script" "$arguments"
 }
