@@ -179,13 +179,26 @@ std::optional<std::string_view> templateOf(std::string_view key) {
 
 struct Slots {
   int numbers = 0;   // %@
-  int percents = 0;  // %%
+  int percents = 0;  // %%, or a percent sign of another script
   bool operator==(const Slots&) const = default;
 };
 
+/// What a text may say instead of the "%%" of its key.
+constexpr std::string_view kPercentSigns[] = {
+    "\u066A",  // Arabic
+};
+
+int percentSignsIn(std::string_view text) {
+  int count = 0;
+  for (const std::string_view sign : kPercentSigns) {
+    for (std::size_t at = text.find(sign); at != std::string_view::npos; at = text.find(sign, at + 1)) ++count;
+  }
+  return count;
+}
+
 /// What a template has to be filled in; nothing when it holds a "%" that is none of the two.
 std::optional<Slots> slotsOf(std::string_view text) {
-  Slots slots;
+  Slots slots{.percents = percentSignsIn(text)};
   for (std::size_t at = text.find('%'); at != std::string_view::npos; at = text.find('%', at + 2)) {
     const char directive = at + 1 < text.size() ? text[at + 1] : '\0';
     if (directive != '@' && directive != '%') return std::nullopt;

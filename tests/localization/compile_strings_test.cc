@@ -86,6 +86,10 @@ constexpr BadTable kBadTables[] = {
     {"no percent sign", "\"Units.A.%@%%\" = \"%@\";", "1: the text of \"Units.A.%@%%\" has other slots than its key"},
     {"a percent sign too many", "\"Units.A.%@ km\" = \"%@%%\";",
      "1: the text of \"Units.A.%@ km\" has other slots than its key"},
+    {"two percent signs", "\"Units.A.%@%%\" = \"%@%%٪\";",
+     "1: the text of \"Units.A.%@%%\" has other slots than its key"},
+    {"another script's, for nothing", "\"Units.A.%@ km\" = \"%@٪\";",
+     "1: the text of \"Units.A.%@ km\" has other slots than its key"},
     {"another directive", "\"Units.A.%@ km\" = \"%@ %d\";",
      "1: a \"%\" other than %@ and %% in the text of \"Units.A.%@ km\""},
     {"a numbered slot", "\"Units.A.%@ km\" = \"%1$@ km\";",
@@ -200,6 +204,15 @@ const ResourceBundle* bundleWithIdentifier(std::string_view identifier) noexcept
 
 }  // namespace kzm
 )");
+}
+
+TEST_F(CompileStrings, APercentSignMayBeThatOfAnotherScriptAndBeAnywhere) {
+  write("en.lproj/T.strings", "\"Units.A.%@%%\" = \"%@%%\";");
+  for (const char* text : {"%@%%", "%@\u00A0%%", "%%%@", "%@\u066A", "\u066A%@"}) {
+    write("ar.lproj/T.strings", "\"Units.A.%@%%\" = \"" + std::string(text) + "\";");
+    EXPECT_EQ(compile("en.lproj/T.strings ar.lproj/T.strings").output, "");
+    EXPECT_NE(written().find("{\"Units.A.%@%%\", \"" + std::string(text) + "\"}"), std::string::npos) << text;
+  }
 }
 
 }  // namespace
