@@ -1,7 +1,9 @@
 // The library's own string tables as they were embedded: what stands in every language, and what each one says.
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <map>
 #include <set>
 #include <string>
@@ -54,6 +56,14 @@ TEST(StringTables, ThereIsOneForEveryFolder) {
     EXPECT_TRUE(languages.emplace(table.language).second) << table.language;
   }
   EXPECT_EQ(languages, languagesOfFolders());
+}
+
+TEST(StringTables, EveryLanguageIsInTheDocuments) {
+  std::ifstream file(KZM_SOURCES "/docs/languages.md");
+  const std::string document{std::istreambuf_iterator<char>(file), {}};
+  for (const std::string& language : languagesOfFolders()) {
+    EXPECT_NE(document.find("`" + language + "`"), std::string::npos) << language;
+  }
 }
 
 TEST(StringTables, EveryLanguageHasAllRowsOfAllFamilies) {
@@ -157,6 +167,22 @@ constexpr TextCase kTexts[] = {
     {"ar_AE", "Units.Weather.%@%%", "%@%%"},
     {"ar_SA", "Units.Weather.%@%%", "%@٪"},
     {"en_GB", "Units.Weather.%@ miles", "%@ miles"},
+    {"nn_NO", "Units.Weather.North East", "Nordaust"},
+    {"be_BY", "Units.Network.%@ Mb/s", "%@ Мбіт/с"},
+    {"kk_KZ", "Units.Space.%@ MB", "%@ МБ"},
+    {"ky_KG", "Units.Weather.%@ km/h", "%@ км/саат"},
+    {"ka_GE", "Units.Network.%@ Mb/s", "%@ მბიტი/წმ"},
+    {"hy_AM", "Units.Sensors.%@ V", "%@ Վ"},
+    {"mn_MN", "Units.Weather.North", "Хойд"},
+    {"ta_IN", "Units.Weather.South West", "தென்மேற்கு"},
+    {"pa_IN", "Units.Weather.East", "ਪੂਰਬ"},
+    {"si_LK", "Units.Memory.%@ MB", "මෙබ %@"},
+    {"si_LK", "Units.Memory.%@MB", "මෙබ%@"},
+    {"sw_KE", "Units.Network.%@ KB/s", "KB/s %@"},
+    {"tk_TM", "Units.Sensors.%@ W", "%@ W"},
+    {"mk_MK", "Units.Weather.%@%%", "%@\u00A0%%"},
+    {"fil_PH", "Units.Weather.%@ Days", "%@ araw"},
+    {"tl_PH", "Units.Weather.%@ Days", "%@ araw"},
     {"xx fr", "Units.Weather.West", "Ouest"},
     {"gsw_CH", "Units.Weather.%@ Days", "%@ Tg."},
     {"xx", "Units.Weather.West", "West"},
