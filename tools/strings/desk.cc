@@ -167,6 +167,8 @@ int run(const Arguments& arguments) {
   if (faults.empty() && catalog.find(kDevelopmentLanguage, kTable) == nullptr) {
     throw Failure(folder.string() + " has no table of the development language");
   }
+  // A check tells all faults; the other verbs need tables that can be taken apart.
+  if (faults.empty() && verb->run != check) faults = structureFaults(catalog);
   return faults.empty() ? verb->run(catalog, folder, {arguments.begin() + 2, arguments.end()}) : tell(faults);
 }
 

@@ -42,6 +42,9 @@ void checkWording(const Table& table, Report& report);
 /// That words are translated and texts can be read and cut as the library does.
 void checkTexts(const Table& table, Report& report);
 
+/// The faults of structure of all tables: without these, every key can be taken apart and has a text.
+[[nodiscard]] Faults structureFaults(const Catalog& catalog);
+
 /// All rules that need no Unicode data, for all tables; the rules that build on others follow those that hold.
 [[nodiscard]] Faults plainFaults(const Catalog& catalog);
 

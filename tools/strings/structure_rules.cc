@@ -110,4 +110,14 @@ void checkStructure(const Catalog& catalog, const Table& table, Report& report) 
   }
 }
 
+Faults structureFaults(const Catalog& catalog) {
+  Faults faults;
+  for (const Table& table : catalog.tables) {
+    Report report(table);
+    checkStructure(catalog, table, report);
+    faults.insert(faults.end(), report.faults().begin(), report.faults().end());
+  }
+  return faults;
+}
+
 }  // namespace kzm::strings

@@ -100,6 +100,15 @@ TEST_F(Desk, WhatItCannotDoIsOneLineAndAnExitCode) {
   }
 }
 
+TEST_F(Desk, TablesThatCannotBeTakenApartAreToldByEveryVerb) {
+  write("r/it.lproj/KZMUtilities.strings", "/* source: own; reviewer: none */\n\"Off\" = \"Spenta\";\n");
+  for (const char* arguments : {"r check", "r report", "r report it", "r export it it.po", "r import it it.po"}) {
+    const tests::Outcome outcome = desk(arguments);
+    EXPECT_EQ(outcome.exitCode, 1) << arguments;
+    EXPECT_TRUE(outcome.output.starts_with("r/it.lproj/KZMUtilities.strings:2: the key \"Off\" is not")) << arguments;
+  }
+}
+
 TEST_F(Desk, WithoutAVerbItSaysHowItIsUsed) {
   for (const char* arguments : {"", "r", "r paint", "r export", "r check a b", "r export de"}) {
     const tests::Outcome outcome = desk(arguments);
