@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kNobody = "none";
 constexpr int kLanguageWidth = 12;
-constexpr int kCountWidth = 10;
+constexpr int kCountWidth = 12;
 
 struct Counts {
   std::size_t english = 0;
@@ -50,7 +50,7 @@ void reportAll(std::ostream& out, const Catalog& catalog) {
     return out << std::right << std::setw(kCountWidth) << content;
   };
   out << std::left << std::setw(kLanguageWidth) << "language";
-  for (const char* heading : {"texts", "English", "reviewed", "differing"}) column(heading);
+  for (const char* heading : {"translated", "English", "reviewed", "differing"}) column(heading);
   out << "  sources\n";
   for (const Table& table : catalog.tables) {
     const Counts counts = countsOf(table);

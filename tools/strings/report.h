@@ -8,7 +8,7 @@
 
 namespace kzm::strings {
 
-/// One line for each table: how many texts it has, how many of them are the English ones, how many somebody has
+/// One line for each table: how many texts it has itself, how many of these are the English ones, how many somebody has
 /// reviewed, how many differ from Unicode's unit data, and how many come from each source.
 void reportAll(std::ostream& out, const Catalog& catalog);
 
