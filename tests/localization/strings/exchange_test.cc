@@ -207,5 +207,31 @@ TEST(Import, ATextNeedsATranslator) {
   EXPECT_EQ(tests::lines(imported("de", po).faults), "1: the header does not say Last-Translator");
 }
 
+TEST(Exchange, OfTheLibrarysOwnTablesChangesNothing) {
+  Faults faults;
+  const Catalog own = readCatalog(tablePaths(KZM_SOURCES "/resources"), faults);
+  ASSERT_EQ(tests::lines(faults), "");
+  for (const Table& table : own.tables) {
+    if (table.language == kDevelopmentLanguage) continue;
+    std::ostringstream out;
+    writeCatalog(out, own, table.language, table.name);
+    const Import result = importCatalog(own, table.language, table.name, "x.po", readMessages("x.po", out.str()));
+    EXPECT_EQ(tests::lines(result.faults), "") << table.language;
+    EXPECT_EQ(result.content, table.content) << table.language;
+  }
+}
+
+// The directions have one hint, at the first of them.
+bool isDirection(std::string_view text) {
+  return text.starts_with("North") || text.starts_with("South") || text == "East" || text == "West";
+}
+
+TEST(Exchange, TheLibrarysOwnRowsHaveHintsForTranslators) {
+  for (const Entry& entry : readTable(KZM_SOURCES "/resources/en.lproj/KZMUtilities.strings").entries) {
+    EXPECT_FALSE(entry.section.empty()) << entry.key;
+    EXPECT_TRUE(!entry.hint.empty() || isDirection(entry.text)) << entry.key;
+  }
+}
+
 }  // namespace
 }  // namespace kzm::strings
