@@ -2,12 +2,34 @@
 # broken one stops the build with its file and line. When cross-compiling, the program runs under the toolchain's
 # emulator, or KZM_COMPILE_STRINGS names one that this machine can run.
 set(KZM_COMPILE_STRINGS "" CACHE FILEPATH "A kzm_compile_strings to use instead of the one that is built")
-add_executable(kzm_compile_strings ${PROJECT_SOURCE_DIR}/tools/compile_strings.cc)
-target_link_libraries(kzm_compile_strings PRIVATE kzm_warnings)
-set_target_properties(kzm_compile_strings PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tools)
 
-# Adds to `target` the source that tools/compile_strings writes from every <language>.lproj folder below this one.
-function(kzm_compile_strings target development_language)
+# The tables and the rules that need no Unicode data: what runs during a build is made of this alone, and so needs no
+# library of the machine that the build is for.
+add_library(kzm_strings STATIC)
+foreach(source allowed catalog cpp_source key note structure_rules table text_rules utf8 wording_rules)
+  target_sources(kzm_strings PRIVATE ${PROJECT_SOURCE_DIR}/tools/strings/${source}.cc)
+endforeach()
+target_include_directories(kzm_strings PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(kzm_strings PRIVATE kzm_warnings)
+
+add_executable(kzm_compile_strings ${PROJECT_SOURCE_DIR}/tools/strings/compile_strings.cc)
+target_link_libraries(kzm_compile_strings PRIVATE kzm_strings kzm_warnings)
+
+# The translator's desk: all rules, and what else a translator needs. Built for who asks for it.
+add_library(kzm_desk STATIC EXCLUDE_FROM_ALL)
+foreach(source export import open_data po report unicode_rules)
+  target_sources(kzm_desk PRIVATE ${PROJECT_SOURCE_DIR}/tools/strings/${source}.cc)
+endforeach()
+target_link_libraries(kzm_desk PUBLIC kzm_strings ICU::uc ICU::i18n PRIVATE kzm_warnings)
+
+add_executable(kzm_strings_desk EXCLUDE_FROM_ALL ${PROJECT_SOURCE_DIR}/tools/strings/desk.cc)
+target_link_libraries(kzm_strings_desk PRIVATE kzm_desk kzm_warnings)
+
+set_target_properties(kzm_compile_strings kzm_strings_desk PROPERTIES
+  RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tools)
+
+# Adds to `target` the source that kzm_compile_strings writes from every <language>.lproj folder below this one.
+function(kzm_compile_strings target)
   file(GLOB tables CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.lproj/*.strings)
   set(output ${CMAKE_CURRENT_BINARY_DIR}/strings.cc)
   set(compiler kzm_compile_strings)
@@ -15,7 +37,7 @@ function(kzm_compile_strings target development_language)
     set(compiler ${KZM_COMPILE_STRINGS})
   endif()
   add_custom_command(OUTPUT ${output}
-    COMMAND ${compiler} ${development_language} ${output} ${tables}
+    COMMAND ${compiler} ${output} ${tables}
     DEPENDS ${compiler} ${tables}
     COMMENT "Checking and embedding the string tables"
     VERBATIM)

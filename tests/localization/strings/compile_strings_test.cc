@@ -1,0 +1,102 @@
+// The program that embeds the string tables.
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "tests/localization/strings/folder.h"
+
+namespace kzm {
+namespace {
+
+class CompileStrings : public tests::FolderTest {
+ protected:
+  tests::Outcome compile(const std::string& tables) { return run("'" KZM_COMPILE_STRINGS "' out.cc " + tables); }
+};
+
+TEST_F(CompileStrings, FaultsAreToldALineEachAndNothingIsWritten) {
+  write("en.lproj/T.strings",
+        "/* source: own; reviewer: none */\n\"Units.A.%@ km\" = \"%@ km\";\n\"Units.A.Off\" = \"Off\";\n");
+  write("de.lproj/T.strings",
+        "/* source: own; reviewer: none */\n\"Units.A.%@ km\" = \"km\";\n\"Units.A.Off\" = \"%@\";\n");
+  const tests::Outcome outcome = compile("de.lproj/T.strings en.lproj/T.strings");
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.output,
+            "de.lproj/T.strings:2: the text of \"Units.A.%@ km\" has other slots than its key\n"
+            "de.lproj/T.strings:3: the text of \"Units.A.Off\" has other slots than its key\n");
+  EXPECT_FALSE(exists("out.cc"));
+}
+
+TEST_F(CompileStrings, FilesThatAreNotThereOrNotTablesAreTold) {
+  write("en.lproj/T.strings", "/* source: own; reviewer: none */\n\"Units.A.Off\" = \"Off\";\n");
+  write("de/T.strings", "");
+  EXPECT_EQ(compile("fr.lproj/T.strings").output, "fr.lproj/T.strings: cannot be read\n");
+  EXPECT_EQ(compile("de/T.strings").output, "de/T.strings: not of the form <language>.lproj/<name>.strings\n");
+  EXPECT_EQ(run("'" KZM_COMPILE_STRINGS "' /no/such/folder/out.cc en.lproj/T.strings").output,
+            "/no/such/folder/out.cc: cannot be written\n");
+}
+
+TEST_F(CompileStrings, WithoutTablesItSaysHowItIsUsed) {
+  const tests::Outcome outcome = compile("");
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.output, "usage: kzm_compile_strings OUTPUT TABLE...\n");
+}
+
+TEST_F(CompileStrings, TablesAreWrittenSortedByKeyAndLayersWithTheRowsOfTheirParents) {
+  write("en.lproj/T.strings",
+        "/* source: own; reviewer: none */\n\"Units.A.Off\" = \"Off\";\n\"Units.A.%@\\\"\" = \"%@\\\"\";\n"
+        "\"Units.A.%@%%\" = \"%@%%\";\n\"Units.A.%@ \\\\\" = \"%@ \\\\\";\n");
+  write("fr.lproj/T.strings",
+        "/* source: own; reviewer: none */\n\"Units.A.Off\" = \"Arrêt\";\n\"Units.A.%@\\\"\" = \"″%@\";\n"
+        "\"Units.A.%@%%\" = \"%@\u00A0%%\";\n\"Units.A.%@ \\\\\" = \"\\\\ %@\";\n");
+  write("fr-CH.lproj/T.strings", "/* source: own; reviewer: none */\n\"Units.A.%@%%\" = \"%@%%\";\n");
+  const tests::Outcome outcome = compile("en.lproj/T.strings fr.lproj/T.strings fr-CH.lproj/T.strings");
+  EXPECT_EQ(outcome.output, "");
+  ASSERT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(read("out.cc"), R"(// Written by tools/strings from the string tables; changes belong there.
+#include <KZMUtilities/resources.h>
+
+namespace kzm {
+namespace {
+
+constexpr LocalizedText kTexts0[] = {
+    {"Units.A.%@ \\", "%@ \\"},
+    {"Units.A.%@\"", "%@\""},
+    {"Units.A.%@%%", "%@%%"},
+    {"Units.A.Off", "Off"},
+};
+
+constexpr LocalizedText kTexts1[] = {
+    {"Units.A.%@ \\", "\\ %@"},
+    {"Units.A.%@\"", "″%@"},
+    {"Units.A.%@%%", "%@ %%"},
+    {"Units.A.Off", "Arrêt"},
+};
+
+constexpr LocalizedText kTexts2[] = {
+    {"Units.A.%@ \\", "\\ %@"},
+    {"Units.A.%@\"", "″%@"},
+    {"Units.A.%@%%", "%@%%"},
+    {"Units.A.Off", "Arrêt"},
+};
+
+constexpr StringTable kTables[] = {
+    {"en", "T", kTexts0},
+    {"fr", "T", kTexts1},
+    {"fr-CH", "T", kTexts2},
+};
+
+constexpr ResourceBundle kBundle{kBundleIdentifier, "en", kTables};
+
+}  // namespace
+
+const ResourceBundle* bundleWithIdentifier(std::string_view identifier) noexcept {
+  return identifier == kBundleIdentifier ? &kBundle : nullptr;
+}
+
+}  // namespace kzm
+)");
+}
+
+}  // namespace
+}  // namespace kzm
