@@ -3,62 +3,60 @@
 #include <KZMUtilities/bytes.h>
 
 #include "bytes/rate_ladders.h"
-#include "bytes/rendering.h"
 #include "bytes/scaling.h"
-#include "core/options.h"
-#include "core/reading.h"
 
 namespace kzm::bytes {
 namespace {
 
-// Deliberate: the units without "/s" bear the per-second hints all the same.
+// Deliberate: the units without "/s" have the per-second hints all the same
+// (Lookups.BandwidthUnitsWithoutPerSecondHaveItsHintsAllTheSame).
 // clang-format off
-//   level        style                       template   translator's hint
-constexpr ByteUnit kUnits[] = {
-    {Level::giga, Style::briefSpaced,         "%@ G",    "gigabyte"     },
-    {Level::mega, Style::briefSpaced,         "%@ M",    "megabyte"     },
-    {Level::kilo, Style::briefSpaced,         "%@ K",    "kilobyte"     },
-    {Level::giga, Style::brief,               "%@G",     "gigabyte"     },
-    {Level::mega, Style::brief,               "%@M",     "megabyte"     },
-    {Level::kilo, Style::brief,               "%@K",     "kilobyte"     },
-    {Level::giga, Style::bitsSpaced,          "%@ Gb",   "gigabits/sec" },
-    {Level::mega, Style::bitsSpaced,          "%@ Mb",   "megabits/sec" },
-    {Level::kilo, Style::bitsSpaced,          "%@ Kb",   "kilobits/sec" },
-    {Level::giga, Style::bytesSpaced,         "%@ GB",   "gigabytes/sec"},
-    {Level::mega, Style::bytesSpaced,         "%@ MB",   "megabytes/sec"},
-    {Level::kilo, Style::bytesSpaced,         "%@ KB",   "kilobytes/sec"},
-    {Level::giga, Style::bitsTight,           "%@Gb",    "gigabits/sec" },
-    {Level::mega, Style::bitsTight,           "%@Mb",    "megabits/sec" },
-    {Level::kilo, Style::bitsTight,           "%@Kb",    "kilobits/sec" },
-    {Level::giga, Style::bytesTight,          "%@GB",    "gigabytes/sec"},
-    {Level::mega, Style::bytesTight,          "%@MB",    "megabytes/sec"},
-    {Level::kilo, Style::bytesTight,          "%@KB",    "kilobytes/sec"},
-    {Level::giga, Style::bitsPerSecondSpaced, "%@ Gb/s", "gigabits/sec" },
-    {Level::mega, Style::bitsPerSecondSpaced, "%@ Mb/s", "megabits/sec" },
-    {Level::kilo, Style::bitsPerSecondSpaced, "%@ Kb/s", "kilobits/sec" },
-    {Level::giga, Style::spaced,              "%@ GB/s", "gigabytes/sec"},
-    {Level::mega, Style::spaced,              "%@ MB/s", "megabytes/sec"},
-    {Level::kilo, Style::spaced,              "%@ KB/s", "kilobytes/sec"},
-    {Level::giga, Style::bitsPerSecondTight,  "%@Gb/s",  "gigabits/sec" },
-    {Level::mega, Style::bitsPerSecondTight,  "%@Mb/s",  "megabits/sec" },
-    {Level::kilo, Style::bitsPerSecondTight,  "%@Kb/s",  "kilobits/sec" },
-    {Level::giga, Style::tight,               "%@GB/s",  "gigabytes/sec"},
-    {Level::mega, Style::tight,               "%@MB/s",  "megabytes/sec"},
-    {Level::kilo, Style::tight,               "%@KB/s",  "kilobytes/sec"},
+//   form                  level          spacing                template    translator's hint
+constexpr UnitText kTexts[] = {
+    {{Form::brief,           Level::giga}, Spacing::spaced, "%@ G",     "gigabyte"},
+    {{Form::brief,           Level::mega}, Spacing::spaced, "%@ M",     "megabyte"},
+    {{Form::brief,           Level::kilo}, Spacing::spaced, "%@ K",     "kilobyte"},
+    {{Form::brief,           Level::giga}, Spacing::tight,  "%@G",      "gigabyte"},
+    {{Form::brief,           Level::mega}, Spacing::tight,  "%@M",      "megabyte"},
+    {{Form::brief,           Level::kilo}, Spacing::tight,  "%@K",      "kilobyte"},
+    {{Form::bits,            Level::giga}, Spacing::spaced, "%@ Gb",    "gigabits/sec"},
+    {{Form::bits,            Level::mega}, Spacing::spaced, "%@ Mb",    "megabits/sec"},
+    {{Form::bits,            Level::kilo}, Spacing::spaced, "%@ Kb",    "kilobits/sec"},
+    {{Form::bytes,           Level::giga}, Spacing::spaced, "%@ GB",    "gigabytes/sec"},
+    {{Form::bytes,           Level::mega}, Spacing::spaced, "%@ MB",    "megabytes/sec"},
+    {{Form::bytes,           Level::kilo}, Spacing::spaced, "%@ KB",    "kilobytes/sec"},
+    {{Form::bits,            Level::giga}, Spacing::tight,  "%@Gb",     "gigabits/sec"},
+    {{Form::bits,            Level::mega}, Spacing::tight,  "%@Mb",     "megabits/sec"},
+    {{Form::bits,            Level::kilo}, Spacing::tight,  "%@Kb",     "kilobits/sec"},
+    {{Form::bytes,           Level::giga}, Spacing::tight,  "%@GB",     "gigabytes/sec"},
+    {{Form::bytes,           Level::mega}, Spacing::tight,  "%@MB",     "megabytes/sec"},
+    {{Form::bytes,           Level::kilo}, Spacing::tight,  "%@KB",     "kilobytes/sec"},
+    {{Form::bitsPerSecond,   Level::giga}, Spacing::spaced, "%@ Gb/s",  "gigabits/sec"},
+    {{Form::bitsPerSecond,   Level::mega}, Spacing::spaced, "%@ Mb/s",  "megabits/sec"},
+    {{Form::bitsPerSecond,   Level::kilo}, Spacing::spaced, "%@ Kb/s",  "kilobits/sec"},
+    {{Form::bytesPerSecond,  Level::giga}, Spacing::spaced, "%@ GB/s",  "gigabytes/sec"},
+    {{Form::bytesPerSecond,  Level::mega}, Spacing::spaced, "%@ MB/s",  "megabytes/sec"},
+    {{Form::bytesPerSecond,  Level::kilo}, Spacing::spaced, "%@ KB/s",  "kilobytes/sec"},
+    {{Form::bitsPerSecond,   Level::giga}, Spacing::tight,  "%@Gb/s",   "gigabits/sec"},
+    {{Form::bitsPerSecond,   Level::mega}, Spacing::tight,  "%@Mb/s",   "megabits/sec"},
+    {{Form::bitsPerSecond,   Level::kilo}, Spacing::tight,  "%@Kb/s",   "kilobits/sec"},
+    {{Form::bytesPerSecond,  Level::giga}, Spacing::tight,  "%@GB/s",   "gigabytes/sec"},
+    {{Form::bytesPerSecond,  Level::mega}, Spacing::tight,  "%@MB/s",   "megabytes/sec"},
+    {{Form::bytesPerSecond,  Level::kilo}, Spacing::tight,  "%@KB/s",   "kilobytes/sec"},
 };
 // clang-format on
-constexpr auto kRows = core::unitRows(kUnits);
+constexpr auto kRows = core::unitRows(kTexts);
+constexpr UnitIndex kIndex = unitIndex(kTexts);
 static_assert(core::wellFormed(kRows));
 
-// The styles of each unit size: "unitsize" 1, 2 and 3.
-// clang-format off
-//   bytes tight        bytes spaced        bits tight                 bits spaced
-constexpr Style kStylesOfSize[][4] = {
-    {Style::brief,      Style::briefSpaced, Style::brief,              Style::briefSpaced        },
-    {Style::bytesTight, Style::bytesSpaced, Style::bitsTight,          Style::bitsSpaced         },
-    {Style::tight,      Style::spaced,      Style::bitsPerSecondTight, Style::bitsPerSecondSpaced},
+constexpr core::UnitTable kTable{"Localizations-Units-Network", "Units.Network.", kRows};
+
+// The forms of each unit size: "unitsize" 1, 2 and 3.
+constexpr Form kFormsOfSize[][2] = {
+    {Form::brief, Form::brief},
+    {Form::bytes, Form::bits},
+    {Form::bytesPerSecond, Form::bitsPerSecond},
 };
-// clang-format on
 
 // What the format codes 0 to 3 show, and the code that "reverse-type" makes of them. Any other code shows as 0.
 // Deliberate: the swap is one-way, 3 stays 3 and never turns back into 1; any other code turns into 3.
@@ -78,9 +76,6 @@ constexpr Format kFormats[] = {
 // clang-format on
 constexpr Format kOtherFormat{false, Level::kilo, 3};
 
-constexpr Scale kBytes = times(1.0);
-constexpr Scale kBits = times(8.0);
-
 const Format& formatWithCode(std::int64_t code) {
   return code >= 0 && code < std::ssize(kFormats) ? kFormats[code] : kOtherFormat;
 }
@@ -91,46 +86,44 @@ const Format& formatOf(const Dictionary& options) {
   return options.contains(core::kReverseType) ? formatWithCode(format.reversed) : format;
 }
 
-Style styleOf(const Dictionary& options, bool bits) {
+Form formOf(const Dictionary& options, bool bits) {
   static constexpr Key kUnitSize = "unitsize";
   constexpr std::int64_t kBrief = 1;
   constexpr std::int64_t kPerSecond = 3;
   std::int64_t size = options.contains(core::kShort) ? kBrief : core::readInteger(options.find(kUnitSize));
   if (size < kBrief || size > kPerSecond) size = kPerSecond;
-  const bool spaced = core::readBoolean(options.find(core::kSpace));
-  return kStylesOfSize[size - 1][(bits ? 2 : 0) + (spaced ? 1 : 0)];
+  return kFormsOfSize[size - 1][bits ? 1 : 0];
 }
 
-constexpr ByteFamily family(Scale toBase) {
-  return {{core::UnitFamily::bandwidth, kRows}, unitIndex(kUnits), toBase, core::DigitRule::exactly};
-}
-constexpr ByteFamily kInBytes = family(kBytes);
-constexpr ByteFamily kInBits = family(kBits);
-
-Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
+core::Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
+  constexpr double kBitsPerByte = 8.0;
   const Format& format = formatOf(options);
-  const Ladder ladder = rateLadder(options, format.lowest);
-  return scaled(format.bits ? kInBits : kInBytes, ladder, styleOf(options, format.bits), options, bytesPerSecond);
+  const Style style{formOf(options, format.bits), core::readSpacing(options)};
+  return scaled(rateLadder(options, format.lowest), kIndex, style, core::Digits::exactly, options,
+                format.bits ? bytesPerSecond * kBitsPerByte : bytesPerSecond);
 }
 
 // Deliberate: two styles of one text differ when there are no decimals. The plain one groups thousands in the locale's
-// way, the attributed one never does.
-std::string attributedNumber(const Reading& reading) {
-  return reading.decimals <= 0 ? core::plainWhole(reading.value) : localizedNumber(reading).string();
+// way, the attributed one never does (Bandwidth.AttributedWholeNumbersAreNotGrouped).
+core::Reading withPlainWhole(core::Reading reading) {
+  if (reading.amount.decimals <= 0) reading.amount.digits = core::Digits::plain;
+  return reading;
 }
 
 }  // namespace
 }  // namespace kzm::bytes
 
 kzm::Dictionary KZMUtilitiesBandwidthData(const kzm::Dictionary& options, double bytesPerSecond) {
-  return kzm::bytes::dataOf(kzm::bytes::bandwidth(options, bytesPerSecond));
+  using namespace kzm::bytes;
+  return kzm::core::data<kTable>(bandwidth(options, bytesPerSecond));
 }
 
 std::string KZMUtilitiesFormatBandwidth(const kzm::Dictionary& options, double bytesPerSecond) {
-  return kzm::bytes::plainText(kzm::bytes::bandwidth(options, bytesPerSecond));
+  using namespace kzm::bytes;
+  return kzm::core::text<kTable>(bandwidth(options, bytesPerSecond));
 }
 
 kzm::AttributedString KZMUtilitiesFormatBandwidthWithAttributes(const kzm::Dictionary& options, double bytesPerSecond) {
-  const kzm::bytes::Reading reading = kzm::bytes::bandwidth(options, bytesPerSecond);
-  return kzm::bytes::attributedText(options, reading, kzm::bytes::attributedNumber(reading));
+  using namespace kzm::bytes;
+  return kzm::core::attributedText<kTable>(withPlainWhole(bandwidth(options, bytesPerSecond)), options);
 }

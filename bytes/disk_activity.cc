@@ -1,36 +1,34 @@
 #include <KZMUtilities/bytes.h>
 
 #include "bytes/rate_ladders.h"
-#include "bytes/rendering.h"
 #include "bytes/scaling.h"
-#include "core/options.h"
-#include "core/reading.h"
 
 namespace kzm::bytes {
 namespace {
 
-// Deliberate: the hints are those of the five letters from peta to kilo, laid on the first five rows as they come.
+// Deliberate: the translator hints are wrong on purpose: the list petabyte to kilobyte is laid on the first five rows in
+// order (Lookups.ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome).
 // clang-format off
-//   level        style          template   translator's hint
-constexpr ByteUnit kUnits[] = {
-    {Level::giga, Style::brief,  "%@G",     "petabyte"},
-    {Level::mega, Style::brief,  "%@M",     "terabyte"},
-    {Level::kilo, Style::brief,  "%@K",     "gigabyte"},
-    {Level::giga, Style::spaced, "%@ GB/s", "megabyte"},
-    {Level::mega, Style::spaced, "%@ MB/s", "kilobyte"},
-    {Level::kilo, Style::spaced, "%@ KB/s", nullptr   },
-    {Level::giga, Style::tight,  "%@GB/s",  nullptr   },
-    {Level::mega, Style::tight,  "%@MB/s",  nullptr   },
-    {Level::kilo, Style::tight,  "%@KB/s",  nullptr   },
+//   form                  level           spacing                template    translator's hint
+constexpr UnitText kTexts[] = {
+    {{Form::brief,          Level::giga},  Spacing::tight,  "%@G",      "petabyte"},
+    {{Form::brief,          Level::mega},  Spacing::tight,  "%@M",      "terabyte"},
+    {{Form::brief,          Level::kilo},  Spacing::tight,  "%@K",      "gigabyte"},
+    {{Form::bytesPerSecond, Level::giga},  Spacing::spaced, "%@ GB/s",  "megabyte"},
+    {{Form::bytesPerSecond, Level::mega},  Spacing::spaced, "%@ MB/s",  "kilobyte"},
+    {{Form::bytesPerSecond, Level::kilo},  Spacing::spaced, "%@ KB/s",  nullptr},
+    {{Form::bytesPerSecond, Level::giga},  Spacing::tight,  "%@GB/s",   nullptr},
+    {{Form::bytesPerSecond, Level::mega},  Spacing::tight,  "%@MB/s",   nullptr},
+    {{Form::bytesPerSecond, Level::kilo},  Spacing::tight,  "%@KB/s",   nullptr},
 };
 // clang-format on
-constexpr auto kRows = core::unitRows(kUnits);
+constexpr auto kRows = core::unitRows(kTexts);
+constexpr UnitIndex kIndex = unitIndex(kTexts);
 static_assert(core::wellFormed(kRows));
 
-constexpr ByteFamily kDiskActivity{.table = {core::UnitFamily::diskActivity, kRows},
-                                   .index = unitIndex(kUnits),
-                                   .toBase = times(1.0),
-                                   .digits = core::DigitRule::exactly};
+// Deliberate: the keys of disk activity begin with "Units.Activity.", its cache key ends in "DiskActivity"
+// (Lookups.ActivityKeysDifferFromItsCacheKey).
+constexpr core::UnitTable kTable{"Localizations-Units-DiskActivity", "Units.Activity.", kRows};
 
 // "hide-bytes" hides rates below one kilobyte per second. NaN is not below.
 constexpr double kHiddenBelow = 1024.0;
@@ -40,27 +38,30 @@ bool isHidden(const Dictionary& options, double bytesPerSecond) {
   return bytesPerSecond < kHiddenBelow && core::readBoolean(options.find(kHideBytes));
 }
 
-Reading diskActivity(const Dictionary& options, double bytesPerSecond) {
-  const Ladder ladder = rateLadder(options, Level::kilo);
-  return scaled(kDiskActivity, ladder, wholeUnitStyle(options), options, bytesPerSecond);
+core::Reading diskActivity(const Dictionary& options, double bytesPerSecond) {
+  const Ladder& ladder = rateLadder(options, Level::kilo);
+  const Style style = wholeUnitStyle(options, Form::bytesPerSecond);
+  return scaled(ladder, kIndex, style, core::Digits::exactly, options, bytesPerSecond);
 }
 
 }  // namespace
 }  // namespace kzm::bytes
 
 kzm::Dictionary KZMUtilitiesDiskActivityData(const kzm::Dictionary& options, double bytesPerSecond) {
-  return kzm::bytes::dataOf(kzm::bytes::diskActivity(options, bytesPerSecond));
+  using namespace kzm::bytes;
+  return kzm::core::data<kTable>(diskActivity(options, bytesPerSecond));
 }
 
 std::string KZMUtilitiesFormatDiskActivity(const kzm::Dictionary& options, double bytesPerSecond) {
-  return kzm::bytes::plainText(kzm::bytes::diskActivity(options, bytesPerSecond));
+  using namespace kzm::bytes;
+  return kzm::core::text<kTable>(diskActivity(options, bytesPerSecond));
 }
 
 kzm::AttributedString KZMUtilitiesFormatDiskActivityWithAttributes(const kzm::Dictionary& options,
                                                                    double bytesPerSecond) {
-  if (kzm::bytes::isHidden(options, bytesPerSecond)) {
-    return kzm::AttributedString("-", kzm::core::attributesOf(options, kzm::core::kAttributesMain));
+  using namespace kzm::bytes;
+  if (isHidden(options, bytesPerSecond)) {
+    return kzm::AttributedString("-", kzm::core::readAttributes(options, kzm::core::kAttributesMain));
   }
-  const kzm::bytes::Reading reading = kzm::bytes::diskActivity(options, bytesPerSecond);
-  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading).string());
+  return kzm::core::attributedText<kTable>(diskActivity(options, bytesPerSecond), options);
 }

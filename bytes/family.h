@@ -3,34 +3,60 @@
 #define KZM_BYTES_FAMILY_H
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
 
 #include "core/unit_table.h"
-#include "core/warm.h"
 
 namespace kzm::bytes {
+
+using core::Spacing;
 
 enum class Level : std::uint8_t { kilo, mega, giga, tera, peta };
 inline constexpr std::size_t kLevels = 5;
 
-/// How the unit is written. The rate families use the first three for what the size families use them: bare letter
-/// ("%@G"), unit behind a blank ("%@ GB"), unit close by ("%@GB"). Bandwidth has styles of its own beside.
-enum class Style : std::uint8_t {
-  brief,
-  spaced,
-  tight,
-  briefSpaced,
-  bitsSpaced,
-  bitsTight,
-  bytesSpaced,
-  bytesTight,
-  bitsPerSecondSpaced,
-  bitsPerSecondTight,
+/// What is said of the unit. Sizes and disk activity know the bare letter ("%@G") and one full form; bandwidth has all.
+enum class Form : std::uint8_t { brief, bytes, bits, bytesPerSecond, bitsPerSecond };
+inline constexpr std::size_t kForms = 5;
+
+/// One unit: a form at a level.
+struct Unit {
+  Form form;
+  Level level;
+  constexpr explicit operator std::size_t() const noexcept {
+    return static_cast<std::size_t>(form) * kLevels + static_cast<std::size_t>(level);
+  }
 };
-inline constexpr std::size_t kStyles = 10;
+
+/// One text of a family, in the order in which it is looked up.
+struct UnitText {
+  Unit unit;
+  Spacing spacing;
+  std::string_view text;
+  const char* comment;
+};
+
+using UnitIndex = core::UnitIndex<kForms * kLevels>;
+
+/// Where the texts of each unit are. Every form that the family has goes through all of its levels.
+template <std::size_t N>
+consteval UnitIndex unitIndex(const UnitText (&texts)[N]) {
+  const UnitIndex index = core::unitIndex<kForms * kLevels>(texts);
+  const auto has = [&index](std::size_t form, std::size_t level) {
+    return index.has(static_cast<std::size_t>(Unit{static_cast<Form>(form), static_cast<Level>(level)}));
+  };
+  for (std::size_t form = 0; form < kForms; ++form) {
+    for (std::size_t level = 0; level < kLevels; ++level) {
+      const bool isWanted = has(form, static_cast<std::size_t>(Level::mega)) &&
+                            has(static_cast<std::size_t>(texts[0].unit.form), level);
+      if (has(form, level) != isWanted) throw "a form lacks a level";
+    }
+  }
+  return index;
+}
 
 /// One step of arithmetic. Multiplying and dividing stay apart: dividing by ten is not multiplying by a tenth.
 struct Scale {
@@ -45,8 +71,8 @@ struct Scale {
 constexpr Scale times(double factor) { return {Scale::Step::times, factor}; }
 constexpr Scale over(double divisor) { return {Scale::Step::over, divisor}; }
 
-/// When a rung of the ladder is taken. NaN passes only the last.
-enum class Test : std::uint8_t { atLeast, atMost, below, otherwise };
+/// When a rung of the ladder is taken. NaN is not at least anything, but neither below nor at most.
+enum class Test : std::uint8_t { atMost, below, notAtLeast, otherwise };
 
 /// One rung: the level that a value in the family's base unit lands on, and what it is shown as there.
 struct Rung {
@@ -55,52 +81,45 @@ struct Rung {
   double threshold;
   Scale shown;
 };
-using Ladder = std::span<const Rung>;
 
-/// One unit of a family, in the order in which its text is looked up.
-struct ByteUnit {
-  Level level;
-  Style style;
-  std::string_view text;
-  const char* comment;
-};
-
-/// The position of each unit in its table, by style and level; -1 where there is none.
-using UnitIndex = std::array<std::array<std::int16_t, kLevels>, kStyles>;
-
-consteval UnitIndex unitIndex(std::span<const ByteUnit> units) {
-  UnitIndex index;
-  for (auto& levels : index) levels.fill(-1);
-  for (std::size_t i = 0; i < units.size(); ++i) {
-    auto& position = index[static_cast<std::size_t>(units[i].style)][static_cast<std::size_t>(units[i].level)];
-    if (position >= 0) throw "two units for one level and style";
-    position = static_cast<std::int16_t>(i);
-  }
-  for (const auto& levels : index) {
-    for (std::size_t level = 0; level < kLevels; ++level) {
-      const bool hasStyle = levels[static_cast<std::size_t>(Level::mega)] >= 0;
-      const bool hasLevel = index[static_cast<std::size_t>(units.front().style)][level] >= 0;
-      if ((levels[level] >= 0) != (hasStyle && hasLevel)) throw "a style lacks a level";
+/// A walk up the rungs without branches: readings jump between levels, and a wrong guess of the processor costs more
+/// than all tests. As the thresholds go up, the rung that is taken is the number of those that are not.
+class Ladder {
+ public:
+  consteval explicit Ladder(std::span<const Rung> rungs) : rungs_(rungs.data()), thresholds_(rungs.size() - 1) {
+    if (rungs.back().test != Test::otherwise || rungs.size() > kLevels) throw "the last rung, and it alone, takes all";
+    nanIsLowest_ = rungs.front().test == Test::notAtLeast;
+    for (std::size_t i = 0; i < thresholds_; ++i) {
+      if (rungs[i].test == Test::otherwise) throw "only the last rung takes all";
+      if ((rungs[i].test == Test::notAtLeast) != nanIsLowest_) throw "NaN has two places";
+      if (i > 0 && (rungs[i].level <= rungs[i - 1].level || rungs[i].threshold <= rungs[i - 1].threshold)) {
+        throw "the rungs do not go up";
+      }
+      limits_[i] = rungs[i].test == Test::atMost ? nextAbove(rungs[i].threshold) : rungs[i].threshold;
     }
   }
-  return index;
-}
 
-/// A family of byte quantities.
-struct ByteFamily {
-  core::UnitTable table;
-  UnitIndex index;
-  Scale toBase;            // bytes to the unit in which the ladder's thresholds are written
-  core::DigitRule digits;  // how the result's decimals are meant
-};
-
-/// For the build's own check: a ladder ends in the one rung that takes everything.
-consteval bool wellFormed(Ladder ladder) {
-  for (std::size_t i = 0; i < ladder.size(); ++i) {
-    if ((ladder[i].test == Test::otherwise) != (i + 1 == ladder.size())) return false;
+  [[nodiscard]] const Rung& rungFor(double value) const noexcept {
+    std::size_t rung = 0;
+    for (std::size_t i = 0; i < thresholds_; ++i) {
+      rung += static_cast<std::size_t>(nanIsLowest_ ? value >= limits_[i] : !(value < limits_[i]));
+    }
+    return rungs_[rung];
   }
-  return !ladder.empty();
-}
+
+  [[nodiscard]] std::span<const Rung> rungs() const noexcept { return {rungs_, thresholds_ + 1}; }
+
+ private:
+  // "At most" a positive number is "below" the next double.
+  static consteval double nextAbove(double number) {
+    return std::bit_cast<double>(std::bit_cast<std::uint64_t>(number) + 1);
+  }
+
+  const Rung* rungs_;
+  std::size_t thresholds_;
+  bool nanIsLowest_ = false;
+  std::array<double, kLevels - 1> limits_{};
+};
 
 }  // namespace kzm::bytes
 

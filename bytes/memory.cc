@@ -1,46 +1,47 @@
 #include <KZMUtilities/bytes.h>
 
-#include "bytes/rendering.h"
 #include "bytes/scaling.h"
 #include "bytes/size_units.h"
 
 namespace kzm::bytes {
 namespace {
 
-// Deliberate: 1024 KB stays KB (at most), but 1024 MB is already 1 GB (below). NaN ends in peta.
+// Deliberate: 1024 KB stays KB (at most), but 1024 MB is already 1 GB (below). NaN ends in peta
+// (Memory.OneThousandTwentyFourKiloStayAndMegaMoveUp).
 // clang-format off
 //   level        taken when       kilobytes        shown as
-constexpr Rung kLadder[] = {
-    {Level::kilo, Test::atMost,    1024.0,          times(1.0)    },
-    {Level::mega, Test::below,     1048576.0,       times(0x1p-10)},
-    {Level::giga, Test::below,     1073741824.0,    times(0x1p-20)},
-    {Level::tera, Test::below,     1099511627776.0, times(0x1p-30)},
+constexpr Rung kRungs[] = {
+    {Level::kilo, Test::atMost,     1024.0,          times(1.0)},
+    {Level::mega, Test::below,      1048576.0,       times(0x1p-10)},
+    {Level::giga, Test::below,      1073741824.0,    times(0x1p-20)},
+    {Level::tera, Test::below,      1099511627776.0, times(0x1p-30)},
     {Level::peta, Test::otherwise, 0.0,             times(0x1p-40)},
 };
 // clang-format on
-static_assert(wellFormed(kLadder));
+constexpr Ladder kLadder{kRungs};
 
-constexpr ByteFamily kMemory{.table = {core::UnitFamily::memory, kSizeRows},
-                             .index = kSizeIndex,
-                             .toBase = times(0x1p-10),
-                             .digits = core::DigitRule::exactly};
+constexpr core::UnitTable kTable{"Localizations-Units-Memory", "Units.Memory.", kSizeRows};
+constexpr Scale kToKilobytes = times(0x1p-10);
 
-Reading memory(const Dictionary& options, double bytes) {
-  return scaled(kMemory, kLadder, wholeUnitStyle(options), options, bytes);
+core::Reading memory(const Dictionary& options, double bytes) {
+  const Style style = wholeUnitStyle(options, Form::bytes);
+  return scaled(kLadder, kSizeIndex, style, core::Digits::exactly, options, kToKilobytes(bytes));
 }
 
 }  // namespace
 }  // namespace kzm::bytes
 
 kzm::Dictionary KZMUtilitiesMemoryData(const kzm::Dictionary& options, double bytes) {
-  return kzm::bytes::dataOf(kzm::bytes::memory(options, bytes));
+  using namespace kzm::bytes;
+  return kzm::core::data<kTable>(memory(options, bytes));
 }
 
 std::string KZMUtilitiesFormatMemory(const kzm::Dictionary& options, double bytes) {
-  return kzm::bytes::plainText(kzm::bytes::memory(options, bytes));
+  using namespace kzm::bytes;
+  return kzm::core::text<kTable>(memory(options, bytes));
 }
 
 kzm::AttributedString KZMUtilitiesFormatMemoryWithAttributes(const kzm::Dictionary& options, double bytes) {
-  const kzm::bytes::Reading reading = kzm::bytes::memory(options, bytes);
-  return kzm::bytes::attributedText(options, reading, kzm::bytes::localizedNumber(reading).string());
+  using namespace kzm::bytes;
+  return kzm::core::attributedText<kTable>(memory(options, bytes), options);
 }

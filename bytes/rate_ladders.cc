@@ -1,6 +1,6 @@
 #include "bytes/rate_ladders.h"
 
-#include "core/reading.h"
+#include "core/option_values.h"
 
 namespace kzm::bytes {
 namespace {
@@ -9,46 +9,42 @@ constexpr Scale kToKilo = times(0x1p-10);
 constexpr Scale kToMega = times(0x1p-20);
 constexpr Scale kToGiga = times(0x1p-30);
 
+// NaN lands on the lowest level: it is not at least anything.
 // clang-format off
 //   level        taken when       per second    shown as
-constexpr Rung kBinary[] = {
-    {Level::giga, Test::atLeast,   1073741824.0, kToGiga},
-    {Level::mega, Test::atLeast,   1048576.0,    kToMega},
-    {Level::kilo, Test::otherwise, 0.0,          kToKilo},
+constexpr Rung kBinaryRungs[] = {
+    {Level::kilo, Test::notAtLeast, 1048576.0,    kToKilo},
+    {Level::mega, Test::notAtLeast, 1073741824.0, kToMega},
+    {Level::giga, Test::otherwise,  0.0,          kToGiga},
 };
-// clang-format on
-// clang-format off
-constexpr Rung kBinaryFromMega[] = {
-    {Level::giga, Test::atLeast,   1073741824.0, kToGiga},
-    {Level::mega, Test::otherwise, 0.0,          kToMega},
+constexpr Rung kBinaryFromMegaRungs[] = {
+    {Level::mega, Test::notAtLeast, 1073741824.0, kToMega},
+    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+};
+
+// Deliberate: an early upgrade moves the thresholds alone, the factors stay binary. 10^9 bytes show as 0.93 giga
+// (Bandwidth.EarlyUpgradeMovesTheThresholdsAlone).
+constexpr Rung kEarlyRungs[] = {
+    {Level::kilo, Test::notAtLeast, 1000000.0,    kToKilo},
+    {Level::mega, Test::notAtLeast, 1000000000.0, kToMega},
+    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+};
+constexpr Rung kEarlyFromMegaRungs[] = {
+    {Level::mega, Test::notAtLeast, 1000000000.0, kToMega},
+    {Level::giga, Test::otherwise,  0.0,          kToGiga},
 };
 // clang-format on
 
-// Deliberate: an early upgrade moves the thresholds alone, the factors stay binary. 10^9 bytes show as 0.93 giga.
-// clang-format off
-constexpr Rung kEarly[] = {
-    {Level::giga, Test::atLeast,   1000000000.0, kToGiga},
-    {Level::mega, Test::atLeast,   1000000.0,    kToMega},
-    {Level::kilo, Test::otherwise, 0.0,          kToKilo},
-};
-// clang-format on
-// clang-format off
-constexpr Rung kEarlyFromMega[] = {
-    {Level::giga, Test::atLeast,   1000000000.0, kToGiga},
-    {Level::mega, Test::otherwise, 0.0,          kToMega},
-};
-// clang-format on
-
-static_assert(wellFormed(kBinary) && wellFormed(kBinaryFromMega));
-static_assert(wellFormed(kEarly) && wellFormed(kEarlyFromMega));
+// By whether the upgrade is early.
+constexpr Ladder kFromKilo[] = {Ladder(kBinaryRungs), Ladder(kEarlyRungs)};
+constexpr Ladder kFromMega[] = {Ladder(kBinaryFromMegaRungs), Ladder(kEarlyFromMegaRungs)};
 
 }  // namespace
 
-Ladder rateLadder(const Dictionary& options, Level lowest) noexcept {
+const Ladder& rateLadder(const Dictionary& options, Level lowest) noexcept {
   static constexpr Key kEarlyUpgrade = "early-upgrade";
   const bool early = core::readBoolean(options.find(kEarlyUpgrade));
-  if (lowest == Level::mega) return early ? Ladder(kEarlyFromMega) : Ladder(kBinaryFromMega);
-  return early ? Ladder(kEarly) : Ladder(kBinary);
+  return (lowest == Level::mega ? kFromMega : kFromKilo)[early ? 1 : 0];
 }
 
 }  // namespace kzm::bytes

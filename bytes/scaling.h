@@ -8,23 +8,32 @@
 #include <KZMUtilities/dictionary.h>
 
 #include "bytes/family.h"
+#include "core/option_values.h"
+#include "core/rendering.h"
 
 namespace kzm::bytes {
 
-/// What a family makes of a quantity: what its result Dictionary holds, without the Dictionary.
-struct Reading {
-  const ByteFamily* family;
-  std::size_t unit;  // row of the family's table
-  std::int64_t decimals;
-  double value;
+/// How a unit is written.
+struct Style {
+  Form form;
+  Spacing spacing;
 };
 
-/// Walks the ladder, then the decimals rules under the key of the level reached, and takes the unit by level and style.
-[[nodiscard]] Reading scaled(const ByteFamily& family, Ladder ladder, Style style, const Dictionary& options,
-                             double quantity);
+/// Takes the rung for the value, which is in the ladder's unit, then the decimals rules under the key of the level
+/// reached, and the text by level and style.
+[[nodiscard]] inline core::Reading scaled(const Ladder& ladder, const UnitIndex& index, Style style, core::Digits digits,
+                                          const Dictionary& options, double value) {
+  static constexpr Key kDecimalsKeys[kLevels] = {"decimals-kb", "decimals-mb", "decimals-gb", "decimals-tb",
+                                                 "decimals-pb"};
+  const Rung& rung = ladder.rungFor(value);
+  const double shown = rung.shown(value);
+  const Value* rules = options.find(kDecimalsKeys[static_cast<std::size_t>(rung.level)]);
+  const auto unit = static_cast<std::size_t>(Unit{style.form, rung.level});
+  return {index.row(unit, style.spacing), {digits, core::readDecimals(rules, shown), shown}};
+}
 
-/// The style of the families with a boolean "short": it wins over "space".
-[[nodiscard]] Style wholeUnitStyle(const Dictionary& options) noexcept;
+/// The style of the families with a boolean "short", which wins over "space": `full` is what they write else.
+[[nodiscard]] Style wholeUnitStyle(const Dictionary& options, Form full) noexcept;
 
 }  // namespace kzm::bytes
 

@@ -1,4 +1,4 @@
-// The units of the two families that show sizes: disk space and memory.
+// The texts of the two families that show sizes: disk space and memory.
 #ifndef KZM_BYTES_SIZE_UNITS_H
 #define KZM_BYTES_SIZE_UNITS_H
 
@@ -7,27 +7,27 @@
 namespace kzm::bytes {
 
 // clang-format off
-//   level        style          template  translator's hint
-inline constexpr ByteUnit kSizeUnits[] = {
-    {Level::peta, Style::brief,  "%@P",   "petabyte"},
-    {Level::tera, Style::brief,  "%@T",   "terabyte"},
-    {Level::giga, Style::brief,  "%@G",   "gigabyte"},
-    {Level::mega, Style::brief,  "%@M",   "megabyte"},
-    {Level::kilo, Style::brief,  "%@K",   "kilobyte"},
-    {Level::peta, Style::spaced, "%@ PB", nullptr   },
-    {Level::tera, Style::spaced, "%@ TB", nullptr   },
-    {Level::giga, Style::spaced, "%@ GB", nullptr   },
-    {Level::mega, Style::spaced, "%@ MB", nullptr   },
-    {Level::kilo, Style::spaced, "%@ KB", nullptr   },
-    {Level::peta, Style::tight,  "%@PB",  nullptr   },
-    {Level::tera, Style::tight,  "%@TB",  nullptr   },
-    {Level::giga, Style::tight,  "%@GB",  nullptr   },
-    {Level::mega, Style::tight,  "%@MB",  nullptr   },
-    {Level::kilo, Style::tight,  "%@KB",  nullptr   },
+//   form         level           spacing                template  translator's hint
+inline constexpr UnitText kSizeTexts[] = {
+    {{Form::brief, Level::peta},  Spacing::tight,  "%@P",    "petabyte"},
+    {{Form::brief, Level::tera},  Spacing::tight,  "%@T",    "terabyte"},
+    {{Form::brief, Level::giga},  Spacing::tight,  "%@G",    "gigabyte"},
+    {{Form::brief, Level::mega},  Spacing::tight,  "%@M",    "megabyte"},
+    {{Form::brief, Level::kilo},  Spacing::tight,  "%@K",    "kilobyte"},
+    {{Form::bytes, Level::peta},  Spacing::spaced, "%@ PB",  nullptr},
+    {{Form::bytes, Level::tera},  Spacing::spaced, "%@ TB",  nullptr},
+    {{Form::bytes, Level::giga},  Spacing::spaced, "%@ GB",  nullptr},
+    {{Form::bytes, Level::mega},  Spacing::spaced, "%@ MB",  nullptr},
+    {{Form::bytes, Level::kilo},  Spacing::spaced, "%@ KB",  nullptr},
+    {{Form::bytes, Level::peta},  Spacing::tight,  "%@PB",   nullptr},
+    {{Form::bytes, Level::tera},  Spacing::tight,  "%@TB",   nullptr},
+    {{Form::bytes, Level::giga},  Spacing::tight,  "%@GB",   nullptr},
+    {{Form::bytes, Level::mega},  Spacing::tight,  "%@MB",   nullptr},
+    {{Form::bytes, Level::kilo},  Spacing::tight,  "%@KB",   nullptr},
 };
 // clang-format on
-inline constexpr auto kSizeRows = core::unitRows(kSizeUnits);
-inline constexpr UnitIndex kSizeIndex = unitIndex(kSizeUnits);
+inline constexpr auto kSizeRows = core::unitRows(kSizeTexts);
+inline constexpr UnitIndex kSizeIndex = unitIndex(kSizeTexts);
 static_assert(core::wellFormed(kSizeRows));
 
 }  // namespace kzm::bytes

@@ -21,12 +21,12 @@ TimePoint timePointOf(const Instant& instant) noexcept {
 }
 
 WallTime wallTime(std::int64_t instant, TimeZone zone) {
-  const std::int64_t local = instant + zone.zone().offset(instant);
+  const std::int64_t local = instant + zoneOf(zone).offset(instant);
   return {floorDivide(local, kSecondsInDay), floorRemainder(local, kSecondsInDay)};
 }
 
 std::int64_t instantAt(const WallTime& wall, TimeZone zone, Occurrence occurrence) {
-  const port::LocalTimeInstants found = zone.zone().instants(wall.day * kSecondsInDay + wall.second);
+  const port::LocalTimeInstants found = zoneOf(zone).instants(wall.day * kSecondsInDay + wall.second);
   if (occurrence == Occurrence::second) return std::max(found.before, found.after);
   if (occurrence == Occurrence::dayStart) return std::min(found.before, found.change);
   return found.before;

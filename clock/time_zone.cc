@@ -29,7 +29,7 @@ TimeZone TimeZone::defaultZone() {
   return chosen != nullptr ? TimeZone(*chosen) : systemZone();
 }
 
-void TimeZone::setDefaultZone(TimeZone zone) { chosenZone.store(&zone.zone(), std::memory_order_release); }
+void TimeZone::setDefaultZone(TimeZone zone) { chosenZone.store(&clock::zoneOf(zone), std::memory_order_release); }
 
 TimeZone TimeZone::systemZone() { return TimeZone(port::systemZone()); }
 
@@ -39,5 +39,7 @@ std::int64_t TimeZone::offsetFromGMT(double timePoint) const {
   const double inside = std::isnan(timePoint) ? 0.0 : std::clamp(timePoint, clock::kEarliest, clock::kLatest);
   return zone_->offset(static_cast<std::int64_t>(std::floor(inside)));
 }
+
+const port::Zone& clock::zoneOf(const TimeZone& zone) noexcept { return *zone.zone_; }
 
 }  // namespace kzm

@@ -6,6 +6,8 @@
 namespace kzm {
 namespace {
 
+constexpr std::size_t kUsualParts = 3;  // the number, and what is before and after it
+
 bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
 // The byte offsets of a range that lies inside the text and splits no character.
@@ -17,53 +19,73 @@ std::pair<std::size_t, std::size_t> wholeCharacters(std::string_view text, std::
   return {first, last};
 }
 
-// Adds a run; equal neighbours become one, and empty text is none.
-void appendRun(std::vector<AttributedString::Run>& runs, std::string_view text, const Value& attributes) {
-  if (text.empty()) return;
-  if (!runs.empty() && runs.back().attributes == attributes) {
-    runs.back().text += text;
-  } else {
-    runs.push_back({std::string(text), attributes});
-  }
-}
-
 }  // namespace
 
 AttributedString::AttributedString() noexcept = default;
 
-AttributedString::AttributedString(std::string text, Value attributes) {
-  if (!text.empty()) runs_.push_back({std::move(text), std::move(attributes)});
+AttributedString::AttributedString(std::string text, Value attributes) : text_(std::move(text)) {
+  if (!text_.empty()) parts_.emplace_back(text_.size(), std::move(attributes));
 }
 
-std::string AttributedString::text() const {
-  std::string all;
-  for (const Run& run : runs_) all += run.text;
-  return all;
+AttributedString::AttributedString(std::string text, const Value& attributes, std::size_t position, std::size_t length,
+                                   const Value& partAttributes)
+    : text_(std::move(text)) {
+  const auto [first, last] = wholeCharacters(text_, position, length);
+  if (text_.empty()) return;
+  parts_.reserve(kUsualParts);
+  if (first == last || attributes == partAttributes) {
+    parts_.emplace_back(text_.size(), attributes);
+    return;
+  }
+  if (first > 0) parts_.emplace_back(first, attributes);
+  parts_.emplace_back(last, partAttributes);
+  if (last < text_.size()) parts_.emplace_back(text_.size(), attributes);
+}
+
+// Gives the text from the last part on these attributes. Equal neighbors become one, and empty text is none.
+void AttributedString::extendTo(std::size_t end, const Value& attributes) {
+  if (end == (parts_.empty() ? 0 : parts_.back().end)) return;
+  if (!parts_.empty() && parts_.back().attributes == attributes) {
+    parts_.back().end = end;
+    return;
+  }
+  if (parts_.empty()) parts_.reserve(kUsualParts);
+  parts_.emplace_back(end, attributes);
+}
+
+void AttributedString::append(std::string_view text, const Value& attributes) {
+  text_ += text;
+  extendTo(text_.size(), attributes);
+}
+
+// Adds what lies between two offsets of the other text.
+void AttributedString::appendPart(const AttributedString& from, std::size_t first, std::size_t last) {
+  std::size_t start = 0;
+  for (const Run& run : from.runs()) {
+    const std::size_t end = start + run.text.size();
+    const std::size_t cutFirst = std::clamp(first, start, end);
+    const std::size_t cutLast = std::clamp(last, start, end);
+    append(run.text.substr(cutFirst - start, cutLast - cutFirst), run.attributes);
+    start = end;
+  }
 }
 
 void AttributedString::append(const AttributedString& other) {
-  for (const Run& run : std::vector<Run>(other.runs_)) appendRun(runs_, run.text, run.attributes);
+  const AttributedString copy = other;  // which may be this very text
+  appendPart(copy, 0, copy.text_.size());
 }
 
 void AttributedString::replace(std::size_t position, std::size_t length, const AttributedString& replacement) {
-  const auto [first, last] = wholeCharacters(text(), position, length);
+  const auto [first, last] = wholeCharacters(text_, position, length);
   AttributedString result;
-  AttributedString tail;
-  std::size_t start = 0;
-  for (const Run& run : runs_) {
-    const std::string_view text = run.text;
-    const auto within = [&](std::size_t offset) { return std::clamp(offset, start, start + text.size()) - start; };
-    appendRun(result.runs_, text.substr(0, within(first)), run.attributes);
-    appendRun(tail.runs_, text.substr(within(last)), run.attributes);
-    start += text.size();
-  }
-  result.append(replacement);
-  result.append(tail);
+  result.appendPart(*this, 0, first);
+  result.appendPart(replacement, 0, replacement.text_.size());
+  result.appendPart(*this, last, text_.size());
   *this = std::move(result);
 }
 
 bool AttributedString::replaceFirst(std::string_view target, const AttributedString& replacement) {
-  const std::size_t position = target.empty() ? std::string::npos : text().find(target);
+  const std::size_t position = target.empty() ? std::string::npos : text_.find(target);
   if (position == std::string::npos) return false;
   replace(position, target.size(), replacement);
   return true;

@@ -1,35 +1,36 @@
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include <KZMUtilities/formatters.h>
 
 #include "core/number_text.h"
+#include "core/option_values.h"
 #include "core/options.h"
-#include "core/reading.h"
+#include "core/rendering.h"
 #include "core/shared.h"
-#include "core/warm.h"
 #include "port/current_locale.h"
 
 namespace kzm {
-namespace {
+namespace core {
 
-int applied(std::int64_t digits) {
-  return static_cast<int>(std::clamp<std::int64_t>(digits, 0, core::kMostFractionDigits));
-}
+struct FormatterParts {
+  static NumberStyle style(const NumberFormatter& formatter) noexcept {
+    return decimalStyle(*formatter.symbols_, formatter.minimum_, formatter.maximum_);
+  }
+};
 
-}  // namespace
+NumberStyle styleOf(const NumberFormatter& formatter) noexcept { return FormatterParts::style(formatter); }
+
+}  // namespace core
 
 NumberFormatter::NumberFormatter(std::int64_t minimumFractionDigits, std::int64_t maximumFractionDigits)
-    : minimum_(minimumFractionDigits),
-      maximum_(maximumFractionDigits),
-      leastDigits_(applied(minimum_)),
-      mostDigits_(std::max(leastDigits_, applied(maximum_))),
-      symbols_(&port::currentNumberSymbols()) {}
+    : minimum_(minimumFractionDigits), maximum_(maximumFractionDigits), symbols_(&port::currentNumberSymbols()) {}
 
 NumberFormatter::~NumberFormatter() = default;
 
-std::string NumberFormatter::string(double value) const { return core::NumberText(*this, value).string(); }
+std::string NumberFormatter::string(double value) const {
+  return core::numberAlone(core::styleOf(*this), value);
+}
 
 }  // namespace kzm
 
@@ -51,6 +52,6 @@ std::shared_ptr<const kzm::NumberFormatter> KZMUtilitiesDecimalFormatterWithMaxi
 }
 
 std::string KZMUtilitiesFormatNumber(const kzm::Dictionary& options, double value) {
-  const std::int64_t decimals = kzm::core::readInteger(options.find(kzm::core::kDecimals));
-  return kzm::core::warmFormatter(kzm::core::DigitRule::atMost, decimals).string(value);
+  using namespace kzm::core;
+  return text(Amount{Digits::atMost, readInteger(options.find(kDecimals)), value});
 }

@@ -2,13 +2,17 @@
 #ifndef KZM_CORE_NUMBER_TEXT_H
 #define KZM_CORE_NUMBER_TEXT_H
 
+#include <algorithm>
 #include <array>
+#include <bit>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
 #include <KZMUtilities/formatters.h>
 
+#include "core/short_text.h"
 #include "port/number_symbols.h"
 
 namespace kzm::core {
@@ -16,50 +20,162 @@ namespace kzm::core {
 /// Counts of fraction digits are clamped to this when a number is written.
 inline constexpr int kMostFractionDigits = 340;
 
-/// A number rounded and laid out, whose size is known before it is written: so it goes straight to its last place.
-class NumberText {
- public:
-  /// Decimal style: at least `least` and at most `most` fraction digits, rounded half to even on the shortest decimal
-  /// that reads back to `value`. Both counts are within 0..kMostFractionDigits, `least` not above `most`.
-  NumberText(const NumberSymbols& symbols, int least, int most, double value) noexcept;
+/// How a number is written. Styles point to symbols that live forever.
+struct NumberStyle {
+  const NumberSymbols* symbols;
+  int least;  // fraction digits, within 0..kMostFractionDigits
+  int most;   // not below `least`
+  bool showsEveryDigit = false;
+};
 
-  /// As the formatter writes it.
-  NumberText(const NumberFormatter& formatter, double value) noexcept
-      : NumberText(formatter.symbols(), formatter.leastDigits(), formatter.mostDigits(), value) {}
+/// Decimal style: rounded half to even on the shortest decimal that reads back to the same double. Any counts are taken.
+[[nodiscard]] NumberStyle decimalStyle(const NumberSymbols& symbols, std::int64_t least, std::int64_t most) noexcept;
+
+/// Whole numbers without locale: "1024", "-0", "nan", "inf", "-inf", every digit of the double, halves to even.
+[[nodiscard]] NumberStyle plainStyle() noexcept;
+
+/// As the formatter writes it.
+[[nodiscard]] NumberStyle styleOf(const NumberFormatter& formatter) noexcept;
+
+/// A number of at most nine digits, rounded and laid out. Nearly every number of a monitor is one: it is found by binary
+/// arithmetic, and its size is known before it is written.
+class ShortNumber {
+ public:
+  /// Not every number can be laid out so: see isLaidOut.
+  [[gnu::always_inline]] ShortNumber(const NumberStyle& style, double value) noexcept;
+  [[nodiscard]] bool isLaidOut() const noexcept { return isLaidOut_; }
 
   /// Bytes of the text.
   [[nodiscard]] std::size_t size() const noexcept { return size_; }
-  /// Writes the text, all its bytes, and gives the place behind it.
-  char* writeTo(char* to) const noexcept;
-  [[nodiscard]] std::string string() const;
+  /// Writes the text, all its bytes, and gives the place after it.
+  [[gnu::always_inline]] char* writeTo(char* to) const noexcept;
 
  private:
-  void layOut(int least, int most, double magnitude) noexcept;
-  bool roundQuickly(int most, double magnitude) noexcept;
-  void roundExactly(int most, double magnitude) noexcept;
-  [[nodiscard]] int countSeparators() const noexcept;
-  void writeDigits(char* end) const noexcept;
-  template <class PutDigit>
-  void writeBackward(char* p, PutDigit putDigit) const noexcept;
-
-  static constexpr int kMostIntegerDigits = 309;
+  [[gnu::always_inline]] bool round(int most, double magnitude) noexcept;
+  [[gnu::always_inline]] char* putPlainDigits(char* end) const noexcept;
+  char* putLocalDigits(char* end) const noexcept;
 
   const NumberSymbols& symbols_;
-  bool isNegative_ = false;
-  const std::string* word_ = nullptr;  // what stands for the digits of a number that has none
+  std::uint32_t digits_ = 0;  // integer part and fraction together
+  bool isNegative_;
+  bool isLaidOut_;
   int integerDigits_ = 0;
   int fractionDigits_ = 0;
   int separators_ = 0;
   std::size_t size_ = 0;
+};
 
-  // The digits, integer part and fraction together: a whole number when they were found quickly, else ASCII digits.
-  std::uint64_t whole_ = 0;
-  const char* digits_ = nullptr;
+/// Any number, NaN and the infinities among them.
+class LongNumber {
+ public:
+  LongNumber(const NumberStyle& style, double value) noexcept;
+  LongNumber(const LongNumber&) = delete;
+  LongNumber& operator=(const LongNumber&) = delete;
+
+  /// Bytes of the text.
+  [[nodiscard]] std::size_t size() const noexcept { return size_; }
+  /// Writes the text, all its bytes, and gives the place after it.
+  char* writeTo(char* to) const noexcept;
+
+ private:
+  void roundExactly(int most, double magnitude) noexcept;
+  void takeEveryDigit(double magnitude) noexcept;
+  char* putDigits(char* to, const char* digits, int count) const noexcept;
+  char* putNumber(char* to) const noexcept;
+
+  static constexpr int kMostIntegerDigits = 309;
+
+  const NumberSymbols& symbols_;
+  bool isNegative_;
+  const std::string* word_ = nullptr;  // instead of digits, of a number that has none
+  const char* digits_ = nullptr;       // ASCII: integer part and fraction, without a point
+  int integerDigits_ = 0;
+  int fractionDigits_ = 0;
+  int separators_ = 0;
+  std::size_t size_ = 0;
   std::array<char, 1 + kMostIntegerDigits + kMostFractionDigits> room_;
 };
 
-/// Whole-number style without locale: "1024", "-0", "nan", "inf", "-inf", every digit of the double, halves to even.
-[[nodiscard]] std::string plainWhole(double value);
+/// What `use` makes of the number: it is called with a ShortNumber or a LongNumber.
+template <class Use>
+[[gnu::always_inline]] inline auto withNumber(const NumberStyle& style, double value, const Use& use) {
+  if (const ShortNumber number(style, value); number.isLaidOut()) [[likely]]
+    return use(number);
+  return use(LongNumber(style, value));
+}
+
+/// How many separators are in an integer part of the given length.
+[[nodiscard]] inline int countSeparators(const NumberSymbols& symbols, int integerDigits) noexcept {
+  const int beyondFirst = integerDigits - symbols.primaryGroup;
+  if (beyondFirst < symbols.minimumGroupDigits || symbols.primaryGroup == 0) return 0;
+  return (beyondFirst - 1) / symbols.secondaryGroup + 1;
+}
+
+[[nodiscard]] inline int countDigits(std::uint32_t number) noexcept {
+  int count = 1;
+  for (std::uint64_t bound = 10; number >= bound; bound *= 10) ++count;
+  return count;
+}
+
+inline ShortNumber::ShortNumber(const NumberStyle& style, double value) noexcept
+    : symbols_(*style.symbols), isNegative_(std::signbit(value)), isLaidOut_(round(style.most, std::abs(value))) {
+  if (!isLaidOut_) return;
+  fractionDigits_ = style.most;
+  for (; fractionDigits_ > style.least && digits_ % 10 == 0; digits_ /= 10) --fractionDigits_;
+  integerDigits_ = std::max(countDigits(digits_) - fractionDigits_, 1);
+  separators_ = countSeparators(symbols_, integerDigits_);
+  size_ = static_cast<std::size_t>(integerDigits_ + fractionDigits_) * symbols_.digitBytes;
+  if (separators_ > 0) size_ += static_cast<std::size_t>(separators_) * symbols_.groupSeparator.size();
+  if (fractionDigits_ > 0) size_ += symbols_.decimalSeparator.size();
+  if (isNegative_) size_ += symbols_.negativePrefix.size() + symbols_.negativeSuffix.size();
+}
+
+// Scales and rounds in binary. The product and the shortest decimal each differ from the true value by less than 2^-53
+// of it, together far less than kDoubt: so far from a tie the rounding is beyond doubt.
+inline bool ShortNumber::round(int most, double magnitude) noexcept {
+  static constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
+  constexpr double kLimit = 999999999.0;
+  constexpr double kDoubt = 0.001;
+  if (most >= static_cast<int>(std::size(kPowersOfTen))) return false;
+  const double scaled = magnitude * kPowersOfTen[most];
+  if (!(scaled < kLimit)) return false;  // NaN too
+  const auto floor = static_cast<std::int32_t>(scaled);
+  const double rest = scaled - floor;
+  if (std::abs(rest - 0.5) < kDoubt) return false;
+  digits_ = static_cast<std::uint32_t>(floor) + static_cast<std::uint32_t>(rest > 0.5);
+  return true;
+}
+
+// Writes digits in ASCII, without separators, from the last one to the first. Gives the place of the first.
+inline char* ShortNumber::putPlainDigits(char* end) const noexcept {
+  std::uint32_t rest = digits_;
+  for (int i = 0; i < fractionDigits_; ++i, rest /= 10) *--end = static_cast<char>('0' + rest % 10);
+  if (fractionDigits_ > 0) {
+    end -= symbols_.decimalSeparator.size();
+    putText(end, symbols_.decimalSeparator);
+  }
+  do {
+    *--end = static_cast<char>('0' + rest % 10);
+    rest /= 10;
+  } while (rest > 0);
+  return end;
+}
+
+inline char* ShortNumber::writeTo(char* to) const noexcept {
+  char* const after = to + size_;
+  char* end = after;
+  if (isNegative_) {
+    putText(to, symbols_.negativePrefix);
+    end -= symbols_.negativeSuffix.size();
+    putText(end, symbols_.negativeSuffix);
+  }
+  if (symbols_.digitsAreAscii && separators_ == 0) [[likely]] {
+    putPlainDigits(end);
+  } else {
+    putLocalDigits(end);
+  }
+  return after;
+}
 
 }  // namespace kzm::core
 

@@ -1,24 +1,23 @@
 #include <KZMUtilities/percentage.h>
 
-#include "core/number_text.h"
+#include "core/option_values.h"
 #include "core/options.h"
-#include "core/reading.h"
-#include "core/template.h"
-#include "core/warm.h"
+#include "core/rendering.h"
 
 namespace kzm::core {
 namespace {
 
-// Both end in one lone percent sign, which the format operation leaves as it is.
-const Template& percentageTemplate(const Dictionary& options) {
-  static const Template& tight = *new Template("%@%");
-  static const Template& spaced = *new Template("%@ %");
-  return readBoolean(options.find(kSpace)) ? spaced : tight;
+// Deliberate: both end in one lone percent sign, which the format operation leaves as it is, in every language
+// (Percentage.TheSignIsALonePercent).
+constexpr Template kTight("%@%");
+constexpr Template kSpaced("%@ %");
+
+const Template& unitOf(const Dictionary& options) {
+  return readBoolean(options.find(kSpace)) ? kSpaced : kTight;
 }
 
-NumberText percentageNumber(const Dictionary& options, double percent) {
-  const NumberFormatter& formatter = warmFormatter(DigitRule::atMost, readInteger(options.find(kDecimals)));
-  return {formatter, percent};
+Amount amountOf(const Dictionary& options, double percent) {
+  return {Digits::atMost, readInteger(options.find(kDecimals)), percent};
 }
 
 }  // namespace
@@ -26,12 +25,10 @@ NumberText percentageNumber(const Dictionary& options, double percent) {
 
 std::string KZMUtilitiesFormatPercentage(const kzm::Dictionary& options, double percent) {
   using namespace kzm::core;
-  return percentageTemplate(options).filled(percentageNumber(options, percent));
+  return text(unitOf(options), amountOf(options, percent));
 }
 
 kzm::AttributedString KZMUtilitiesFormatPercentageWithAttributes(const kzm::Dictionary& options, double percent) {
   using namespace kzm::core;
-  return percentageTemplate(options).composed(percentageNumber(options, percent).string(),
-                                              attributesOf(options, kAttributesMain),
-                                              attributesOf(options, kAttributesUnits));
+  return attributedText(unitOf(options), amountOf(options, percent), options);
 }

@@ -3,16 +3,37 @@
 #define KZM_CORE_ROWS_H
 
 #include <cstddef>
+#include <string_view>
+#include <type_traits>
 
 namespace kzm::core {
 
-/// Whether each row stands at the position that its column names, so that the column's enumerator is the row's index.
+/// Whether the value has a name in its enumeration: the compiler writes others as a number in parentheses.
+template <auto value>
+consteval bool isEnumerator() {
+  const std::string_view here = __PRETTY_FUNCTION__;
+  const std::size_t start = here.find("value = ") + std::string_view("value = ").size();
+  return here[start] != '(';
+}
+
+/// How many enumerators there are from 0 on, one after the other.
+template <class Enum, std::size_t count = 0>
+consteval std::size_t countEnumerators() {
+  if constexpr (isEnumerator<static_cast<Enum>(count)>()) {
+    return countEnumerators<Enum, count + 1>();
+  } else {
+    return count;
+  }
+}
+
+/// Whether every enumerator has its row, and each row is at the position that its column names, so that the column's
+/// enumerator is the row's index.
 template <class Row, std::size_t N, class Enum>
 consteval bool standInOrder(const Row (&rows)[N], Enum Row::*column) {
   for (std::size_t i = 0; i < N; ++i) {
     if (static_cast<std::size_t>(rows[i].*column) != i) return false;
   }
-  return true;
+  return N == countEnumerators<Enum>();
 }
 
 }  // namespace kzm::core

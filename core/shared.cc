@@ -2,12 +2,15 @@
 
 #include <utility>
 
+#include "port/never_destroyed.h"
+
 namespace kzm {
+
+constinit std::atomic<std::uint64_t> core::cacheChanges{1};
+
 namespace {
 
-constinit std::atomic<std::uint64_t> epoch{1};
-
-void countHostChange() noexcept { epoch.fetch_add(1, std::memory_order_acq_rel); }
+void countHostChange() noexcept { core::cacheChanges.fetch_add(1, std::memory_order_acq_rel); }
 
 }  // namespace
 
@@ -46,15 +49,19 @@ Value Cache::findOrMake(std::string_view key, const std::function<bool(const Val
                         const std::function<Value()>& make) {
   if (Value value = find(key); accepts(value)) return value;
   Value made = make();  // without the lock: making asks libraries that may ask us
-  const std::lock_guard lock(mutex_);
-  if (const Value* value = entries_.find(key); value != nullptr && accepts(*value)) return *value;
-  if (!made.isNull()) entries_.set(key, made);
+  bool replaces = false;
+  {
+    const std::lock_guard lock(mutex_);
+    const Value* present = entries_.find(key);
+    if (present != nullptr && accepts(*present)) return *present;
+    replaces = present != nullptr && !made.isNull();
+    if (!made.isNull()) entries_.set(key, made);
+  }
+  if (replaces) countHostChange();  // what threads hold of the former entry is good no more
   return made;
 }
 
 namespace core {
-
-std::uint64_t cacheEpoch() noexcept { return epoch.load(std::memory_order_acquire); }
 
 std::shared_ptr<const Dictionary> cachedDictionary(std::string_view key, const std::function<Dictionary()>& make) {
   const auto accepts = [](const Value& value) { return value.dictionary() != nullptr; };
@@ -65,8 +72,8 @@ std::shared_ptr<const Dictionary> cachedDictionary(std::string_view key, const s
 }  // namespace kzm
 
 KZMUtilities& KZMUtilities::shared() {
-  static KZMUtilities& instance = *new KZMUtilities;  // lives until the process ends, whoever still formats by then
-  return instance;
+  static kzm::port::NeverDestroyed<KZMUtilities> instance;
+  return *instance;
 }
 
 KZMUtilities::KZMUtilities() : cache_(std::make_shared<kzm::Cache>()) {}

@@ -13,7 +13,8 @@
 namespace kzm::core {
 
 /// Counts the changes that hosts make to caches. What a thread holds on to from the cache is good for one count.
-[[nodiscard]] std::uint64_t cacheEpoch() noexcept;
+extern constinit std::atomic<std::uint64_t> cacheChanges;
+[[nodiscard]] inline std::uint64_t cacheEpoch() noexcept { return cacheChanges.load(std::memory_order_acquire); }
 
 /// The object of class T in the shared cache; made, stored and given when there is none of that class.
 template <class T>

@@ -2,56 +2,59 @@
 
 #include <utility>
 
-#include "core/small_copy.h"
+#include "core/short_text.h"
 
 namespace kzm::core {
 namespace {
 
-constexpr std::string_view kPlaces[] = {"%@", "%1$@"};
-
-// The length of the place for the number at the start of the text, or 0.
-std::size_t placeLength(std::string_view text) {
-  for (const std::string_view place : kPlaces) {
-    if (text.starts_with(place)) return place.size();
+// The text with one percent sign for each "%%".
+std::string unescaped(std::string_view text) {
+  std::string result;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    result += text[i];
+    if (text.substr(i).starts_with("%%")) ++i;
   }
-  return 0;
+  return result;
 }
 
 }  // namespace
 
-Template::Template(std::string text) : text_(std::move(text)) {
-  std::string_view rest = text_;
-  std::string* part = &before_;
-  while (!rest.empty()) {
-    const std::size_t place = hasPlace_ ? 0 : placeLength(rest);
-    if (place > 0) {
-      hasPlace_ = true;
-      part = &after_;
-      rest.remove_prefix(place);
-      continue;
-    }
-    part->push_back(rest.front());
-    rest.remove_prefix(rest.starts_with("%%") ? 2 : 1);
-  }
+// The pieces with the number between them; says how long that is.
+[[gnu::always_inline]] inline std::string Template::written(std::string_view before, const NumberStyle& style,
+                                                            double value, std::string_view after,
+                                                            std::size_t& numberSize) {
+  return withNumber(style, value, [&](const auto& number) {
+    numberSize = number.size();
+    return writtenText(before.size() + numberSize + after.size(),
+                       [&](char* to) { putText(number.writeTo(putText(to, before)), after); });
+  });
 }
 
-std::string Template::filled(const NumberText& number) const {
-  if (!hasPlace_) return before_;
-  std::string text(before_.size() + number.size() + after_.size(), '\0');
-  putText(number.writeTo(putText(text.data(), before_)), after_);
+std::string Template::filled(const NumberStyle& style, double value) const {
+  std::size_t numberSize = 0;
+  if (!hasEscapes_ && hasPlace_) [[likely]]
+    return written(before_, style, value, after_, numberSize);
+  std::string text = unescaped(before_);
+  if (hasPlace_) text.append(numberAlone(style, value)).append(unescaped(after_));
   return text;
 }
 
-std::string Template::filled(std::string_view number) const {
-  if (!hasPlace_) return before_;
-  std::string text = before_;
-  return text.append(number).append(after_);
+std::string numberAlone(const NumberStyle& style, double value) {
+  return withNumber(style, value, [](const auto& number) {
+    return writtenText(number.size(), [&](char* to) { number.writeTo(to); });
+  });
 }
 
-AttributedString Template::composed(std::string_view number, const Value& main, const Value& units) const {
-  AttributedString result(text_, units);
-  result.replaceFirst(kPlaces[0], AttributedString(std::string(number), main));
-  return result;
+AttributedString Template::composed(const NumberStyle& style, double value, const Value& main,
+                                    const Value& units) const {
+  if (hasPlace_ && !hasEscapes_ && !isPlaceNumbered_) [[likely]] {
+    std::size_t numberSize = 0;
+    std::string text = written(before_, style, value, after_, numberSize);
+    return AttributedString(std::move(text), units, before_.size(), numberSize, main);
+  }
+  AttributedString text(std::string(text_), units);
+  text.replaceFirst(kPlace, AttributedString(numberAlone(style, value), main));
+  return text;
 }
 
 }  // namespace kzm::core

@@ -2,6 +2,7 @@
 #ifndef KZM_CORE_TEMPLATE_H
 #define KZM_CORE_TEMPLATE_H
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,28 +12,62 @@
 
 namespace kzm::core {
 
-/// A template, taken apart once so that filling it in copies three pieces. Its text is data: it may hold anything.
+/// A view of a template, taken apart so that filling in a number copies three pieces. Its text is data: it may hold
+/// anything.
 class Template {
  public:
-  explicit Template(std::string text);
+  /// No template at all: the one of a unit that a host's own table lacks.
+  constexpr Template() noexcept = default;
+  /// The text must outlive the Template.
+  constexpr explicit Template(std::string_view text) noexcept;
 
-  [[nodiscard]] const std::string& text() const noexcept { return text_; }
+  [[nodiscard]] constexpr bool isThere() const noexcept { return text_.data() != nullptr; }
+  [[nodiscard]] constexpr std::string_view text() const noexcept { return text_; }
 
   /// The format operation: the first "%@" or "%1$@" becomes the number, "%%" one percent sign, and all else stays, a
   /// lone "%" and a second "%@" too. A template without a place for the number gives its own text.
-  [[nodiscard]] std::string filled(std::string_view number) const;
-  [[nodiscard]] std::string filled(const NumberText& number) const;
+  [[nodiscard]] std::string filled(const NumberStyle& style, double value) const;
 
   /// The text exactly as it stands, in the attributes of the units, but for its first "%@", which becomes the number in
   /// the main attributes. No format operation here: "%%" stays two signs.
-  [[nodiscard]] AttributedString composed(std::string_view number, const Value& main, const Value& units) const;
+  [[nodiscard]] AttributedString composed(const NumberStyle& style, double value, const Value& main,
+                                          const Value& units) const;
 
  private:
-  std::string text_;
-  std::string before_;
-  std::string after_;
+  static std::string written(std::string_view before, const NumberStyle& style, double value, std::string_view after,
+                             std::size_t& numberSize);
+
+  std::string_view text_;
+  std::string_view before_;
+  std::string_view after_;
   bool hasPlace_ = false;
+  bool hasEscapes_ = false;       // "%%" in one of the two pieces
+  bool isPlaceNumbered_ = false;  // "%1$@"
 };
+
+inline constexpr std::string_view kPlace = "%@";
+
+/// The number without a unit.
+[[nodiscard]] std::string numberAlone(const NumberStyle& style, double value);
+
+constexpr Template::Template(std::string_view text) noexcept : text_(text), before_(text) {
+  constexpr std::string_view kNumberedPlace = "%1$@";
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] != '%') continue;
+    const std::string_view rest = text.substr(i);
+    const std::string_view place = rest.starts_with(kPlace) ? kPlace : kNumberedPlace;
+    if (rest.starts_with("%%")) {
+      hasEscapes_ = true;
+      ++i;
+    } else if (!hasPlace_ && rest.starts_with(place)) {
+      hasPlace_ = true;
+      isPlaceNumbered_ = place == kNumberedPlace;
+      before_ = text.substr(0, i);
+      after_ = rest.substr(place.size());
+      i += place.size() - 1;
+    }
+  }
+}
 
 }  // namespace kzm::core
 

@@ -1,42 +1,37 @@
-// The localized unit texts of each family, looked up once per process and kept in the shared cache.
+// The unit texts of a family of readings: what is looked up, in what order, and which row is whose.
 #ifndef KZM_CORE_UNIT_TABLE_H
 #define KZM_CORE_UNIT_TABLE_H
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <limits>
 #include <span>
+#include <string>
 #include <string_view>
-#include <vector>
-
-#include "core/template.h"
 
 namespace kzm::core {
 
-/// The families that keep a table of their unit texts.
-enum class UnitFamily : std::uint8_t { bandwidth, diskActivity, diskSpace, memory, sensors };
-inline constexpr std::size_t kUnitFamilies = 5;
+/// Whether a space is between number and unit.
+enum class Spacing : std::uint8_t { tight, spaced };
 
-/// One unit: its template, which is also the end of its localization key, and the translator's hint (may be null).
+/// One text: its template, which is also the end of its localization key, and the translator's hint (may be null).
 struct UnitRow {
   std::string_view text;
   const char* comment;
 };
 
-/// A family and its rows, in the order in which they are looked up.
+/// The texts of a family, in the order in which they are looked up.
 struct UnitTable {
-  UnitFamily family;
+  std::string_view cacheKey;   // in the shared cache; empty: looked up on every call, and not kept
+  std::string_view keyPrefix;  // of the localization keys
   std::span<const UnitRow> rows;
 };
 
-/// The texts of a table, row by row; a row that the cached table lacks is empty.
-using UnitTexts = std::vector<std::optional<Template>>;
+/// The text of one row in the user's language, looked up now.
+[[nodiscard]] std::string localizedText(const UnitTable& table, std::size_t row);
 
-/// The texts from the shared cache. On the first call all rows are looked up and stored.
-[[nodiscard]] UnitTexts unitTexts(const UnitTable& table);
-
-/// The rows of a family's own table, whose columns begin with the two of UnitRow.
+/// The rows of a family's own table, whose rows have members `text` and `comment` among others.
 template <class Row, std::size_t N>
 consteval std::array<UnitRow, N> unitRows(const Row (&rows)[N]) {
   std::array<UnitRow, N> units{};
@@ -44,20 +39,53 @@ consteval std::array<UnitRow, N> unitRows(const Row (&rows)[N]) {
   return units;
 }
 
-/// For the build's own check of a table: no template stands twice, and each has one place for the number, or none.
+/// The row of each unit, by spacing. A unit that has one form only has it in both.
+template <std::size_t Units>
+struct UnitIndex {
+  static constexpr std::uint8_t kNone = std::numeric_limits<std::uint8_t>::max();
+  std::array<std::array<std::uint8_t, 2>, Units> rows;
+
+  [[nodiscard]] constexpr bool has(std::size_t unit) const noexcept { return rows[unit][0] != kNone; }
+  [[nodiscard]] constexpr bool hasAll() const noexcept {
+    for (std::size_t unit = 0; unit < Units; ++unit) {
+      if (!has(unit)) return false;
+    }
+    return true;
+  }
+  [[nodiscard]] constexpr std::size_t row(std::size_t unit, Spacing spacing) const noexcept {
+    return rows[unit][static_cast<std::size_t>(spacing)];
+  }
+};
+
+/// Where each unit's rows are. Rows have members `spacing` and `unit`, whose number is below Units.
+template <std::size_t Units, class Row, std::size_t N>
+consteval UnitIndex<Units> unitIndex(const Row (&rows)[N]) {
+  UnitIndex<Units> index{};
+  for (auto& forms : index.rows) forms.fill(UnitIndex<Units>::kNone);
+  for (std::size_t i = 0; i < N; ++i) {
+    auto& row = index.rows[static_cast<std::size_t>(rows[i].unit)][static_cast<std::size_t>(rows[i].spacing)];
+    if (row != UnitIndex<Units>::kNone) throw "two texts for one unit and spacing";
+    row = static_cast<std::uint8_t>(i);
+  }
+  for (auto& [tight, spaced] : index.rows) {
+    if (tight == UnitIndex<Units>::kNone) tight = spaced;
+    if (spaced == UnitIndex<Units>::kNone) spaced = tight;
+  }
+  return index;
+}
+
+/// For the build's own check of a table: no template is there twice, and each has one place for the number, or none.
 consteval bool wellFormed(std::span<const UnitRow> rows) {
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const std::size_t place = rows[i].text.find("%@");
-    if (place != std::string_view::npos && rows[i].text.find('%', place + 1) != std::string_view::npos) return false;
+    const std::string_view after = place == std::string_view::npos ? std::string_view() : rows[i].text.substr(place + 2);
+    if (after.find('%') != std::string_view::npos && after != "%%") return false;
     for (std::size_t j = 0; j < i; ++j) {
       if (rows[i].text == rows[j].text) return false;
     }
   }
   return true;
 }
-
-/// The text of one unit in the user's language, without cache: prefix and template make the key.
-[[nodiscard]] std::string localizedUnit(std::string_view keyPrefix, std::string_view text, const char* comment);
 
 }  // namespace kzm::core
 

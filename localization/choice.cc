@@ -1,61 +1,59 @@
 #include "localization/choice.h"
 
 #include <atomic>
-#include <memory>
+#include <forward_list>
 #include <mutex>
 #include <unicode/localematcher.h>
 #include <vector>
 
 #include "port/environment_locale.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::localization {
 namespace {
 
-/// A choice in the chain of those made for one list of languages. The chain only ever grows, at its head.
-struct Link {
-  Choice choice;
-  const Link* next;
+/// A table for which a language was chosen.
+struct Choice {
+  const ResourceBundle* bundle;
+  std::string_view table;  // the table's own name: the one that was asked for may be gone after the call
+  Texts texts;
+  const Choice* earlier;
 };
 
-/// A list of wanted languages with the choices made for it. Lists that were replaced stay where they are, since a
-/// reader may still be inside; they stay reachable through the one that followed.
+/// Languages that are wanted, with the choices made for them. Neither lists that were replaced nor choices are ever
+/// removed: a reader may be inside.
 struct Wanted {
   std::vector<icu::Locale> languages;
-  std::atomic<const Link*> choices{nullptr};
-  const Wanted* replaced = nullptr;
+  std::forward_list<Choice> choices;
+  std::atomic<const Choice*> latest{nullptr};
 };
 
-// Never destroyed: texts are asked for up to the very end of the process, from the destructors of static objects too.
-constinit std::atomic<Wanted*> gWanted{nullptr};
-
 // Held while something is made or replaced; what is there is read without it.
-constinit std::mutex gMaking;
+constinit std::mutex making;
 
-std::unique_ptr<Wanted> wanted(std::span<const std::string> identifiers) {
-  auto list = std::make_unique<Wanted>();
+constinit std::atomic<Wanted*> latestWanted{nullptr};
+
+// Under the lock.
+Wanted& want(std::span<const std::string> identifiers) {
+  std::vector<icu::Locale> languages;
   for (const std::string& identifier : identifiers) {
     // Anything may be asked for; a name that is none is passed over.
     const std::string canonical = port::localeIdentifier(identifier);
-    if (!canonical.empty()) list->languages.emplace_back(canonical.c_str());
+    if (!canonical.empty()) languages.emplace_back(canonical.c_str());
   }
-  return list;
+  // Texts are asked for up to the very end of the process, from the destructors of static objects too.
+  static port::NeverDestroyed<std::forward_list<Wanted>> all;
+  Wanted& fresh = all->emplace_front();
+  fresh.languages = std::move(languages);
+  latestWanted.store(&fresh, std::memory_order_release);
+  return fresh;
 }
 
 Wanted& current() {
-  if (Wanted* list = gWanted.load(std::memory_order_acquire)) return *list;
-  const std::lock_guard lock(gMaking);
-  if (Wanted* list = gWanted.load(std::memory_order_acquire)) return *list;
-  Wanted* fresh = wanted(port::textLocales()).release();
-  gWanted.store(fresh, std::memory_order_release);
-  return *fresh;
-}
-
-std::vector<const StringTable*> tablesNamed(const ResourceBundle& bundle, std::string_view name) {
-  std::vector<const StringTable*> tables;
-  for (const StringTable& table : bundle.tables) {
-    if (table.name == name) tables.push_back(&table);
-  }
-  return tables;
+  if (Wanted* list = latestWanted.load(std::memory_order_acquire)) return *list;
+  const std::lock_guard lock(making);
+  if (Wanted* list = latestWanted.load(std::memory_order_acquire)) return *list;
+  return want(port::textLocales());
 }
 
 icu::Locale localeOf(std::string_view language) {
@@ -63,64 +61,62 @@ icu::Locale localeOf(std::string_view language) {
   return icu::Locale::forLanguageTag({language.data(), static_cast<std::int32_t>(language.size())}, status);
 }
 
-/// The index of the language that serves the wanted ones best; -1 when it serves none of them.
-std::int32_t bestOf(const std::vector<icu::Locale>& supported, const std::vector<icu::Locale>& languages) {
+/// The table whose language serves the wanted ones best; null when none of them does.
+const StringTable* bestOf(const std::vector<const StringTable*>& tables, const std::vector<icu::Locale>& languages) {
   using Locales = icu::Locale::RangeIterator<std::vector<icu::Locale>::const_iterator>;
+  std::vector<icu::Locale> supported;
+  for (const StringTable* table : tables) supported.push_back(localeOf(table->language));
   UErrorCode status = U_ZERO_ERROR;
   Locales offered(supported.begin(), supported.end());
   Locales desired(languages.begin(), languages.end());
   const auto matcher = icu::LocaleMatcher::Builder().setSupportedLocales(offered).setNoDefaultLocale().build(status);
-  const auto result = matcher.getBestMatchResult(desired, status);
-  return U_FAILURE(status) ? -1 : result.getSupportedIndex();
+  const std::int32_t best = matcher.getBestMatchResult(desired, status).getSupportedIndex();
+  return U_FAILURE(status) || best < 0 ? nullptr : tables[static_cast<std::size_t>(best)];
 }
 
-Choice choose(const ResourceBundle& bundle, const std::vector<const StringTable*>& tables,
+Texts textsIn(const ResourceBundle& bundle, const std::vector<const StringTable*>& tables,
               const std::vector<icu::Locale>& languages) {
-  // The name is the table's own: the one that was asked for may be gone after the call.
-  Choice choice{&bundle, tables.front()->name, {}, {}};
-  std::vector<icu::Locale> supported;
+  Texts texts;
+  if (const StringTable* best = bestOf(tables, languages)) texts.add(*best);
   for (const StringTable* table : tables) {
-    supported.push_back(localeOf(table->language));
-    if (table->language == bundle.developmentLanguage) choice.developmentTexts = table->texts;
+    if (table->language == bundle.developmentLanguage) texts.add(*table);
   }
-  const std::int32_t best = bestOf(supported, languages);
-  choice.texts = best < 0 ? choice.developmentTexts : tables[static_cast<std::size_t>(best)]->texts;
-  return choice;
+  return texts;
 }
 
 const Choice* findChoice(const Wanted& list, const ResourceBundle& bundle, std::string_view table) {
-  const Link* link = list.choices.load(std::memory_order_acquire);
-  while (link != nullptr && (link->choice.bundle != &bundle || link->choice.table != table)) link = link->next;
-  return link == nullptr ? nullptr : &link->choice;
+  const Choice* choice = list.latest.load(std::memory_order_acquire);
+  while (choice != nullptr && (choice->bundle != &bundle || choice->table != table)) choice = choice->earlier;
+  return choice;
 }
 
-const Choice* addChoice(Wanted& list, const Choice& choice) {
-  const Link* link = new Link{choice, list.choices.load(std::memory_order_acquire)};
-  list.choices.store(link, std::memory_order_release);
-  return &link->choice;
-}
-
-const Choice* makeChoice(Wanted& list, const ResourceBundle& bundle, std::string_view table) {
-  const std::vector<const StringTable*> tables = tablesNamed(bundle, table);
+const Choice* makeChoice(Wanted& list, const ResourceBundle& bundle, std::string_view name) {
+  std::vector<const StringTable*> tables;
+  for (const StringTable& table : bundle.tables) {
+    if (table.name == name) tables.push_back(&table);
+  }
   if (tables.empty()) return nullptr;
-  const std::lock_guard lock(gMaking);
-  const Choice* made = findChoice(list, bundle, table);
-  return made != nullptr ? made : addChoice(list, choose(bundle, tables, list.languages));
+  const std::lock_guard lock(making);
+  if (const Choice* made = findChoice(list, bundle, name)) return made;
+  const Choice* earlier = list.latest.load(std::memory_order_relaxed);
+  const Choice& choice = list.choices.emplace_front(
+      Choice{&bundle, tables.front()->name, textsIn(bundle, tables, list.languages), earlier});
+  list.latest.store(&choice, std::memory_order_release);
+  return &choice;
 }
 
 }  // namespace
 
-const Choice* choiceFor(const ResourceBundle& bundle, std::string_view table) {
+const Texts* textsFor(const ResourceBundle& bundle, std::string_view table) {
   Wanted& list = current();
-  const Choice* made = findChoice(list, bundle, table);
-  return made != nullptr ? made : makeChoice(list, bundle, table);
+  const Choice* choice = findChoice(list, bundle, table);
+  if (choice == nullptr) choice = makeChoice(list, bundle, table);
+  return choice != nullptr ? &choice->texts : nullptr;
 }
 
 void setLanguages(std::span<const std::string> identifiers) {
-  const std::lock_guard lock(gMaking);
-  std::unique_ptr<Wanted> fresh = wanted(identifiers);
-  fresh->replaced = gWanted.load(std::memory_order_acquire);
-  gWanted.store(fresh.release(), std::memory_order_release);
+  const std::lock_guard lock(making);
+  want(identifiers);
 }
 
 }  // namespace kzm::localization

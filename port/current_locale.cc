@@ -1,5 +1,6 @@
 #include "port/current_locale.h"
 
+#include <atomic>
 #include <map>
 #include <mutex>
 #include <utility>
@@ -7,20 +8,42 @@
 #include <KZMUtilities/formatters.h>
 
 #include "port/environment_locale.h"
+#include "port/never_destroyed.h"
 
 namespace kzm {
 namespace {
+
+// The symbols of a locale in both groupings.
+struct Symbols {
+  explicit Symbols(const std::string& locale) : usual(port::numberSymbols(locale)), byThrees(usual) {
+    byThrees.primaryGroup = byThrees.secondaryGroup = 3;
+  }
+  NumberSymbols usual;
+  NumberSymbols byThrees;
+};
 
 struct State {
   std::mutex mutex;
   std::string numbers = port::numberLocale();
   std::string measurement = port::measurementLocale();
-  std::map<std::string, NumberSymbols> symbols;  // never shrinks: formatters point into it
+  std::map<std::string, Symbols> symbols;  // never shrinks: formatters point into it
 };
 
 State& state() {
-  static State& instance = *new State;  // outlives every static object that may still format a number
-  return instance;
+  static port::NeverDestroyed<State> instance;
+  return *instance;
+}
+
+// The symbols in force, for those who only read them; null while nobody asked.
+constinit std::atomic<const Symbols*> current{nullptr};
+
+const Symbols& currentSymbols() {
+  if (const Symbols* symbols = current.load(std::memory_order_acquire)) return *symbols;
+  const std::lock_guard lock(state().mutex);
+  const std::string& locale = state().numbers;
+  const Symbols& symbols = state().symbols.try_emplace(locale, locale).first->second;
+  current.store(&symbols, std::memory_order_release);
+  return symbols;
 }
 
 }  // namespace
@@ -30,6 +53,7 @@ void setCurrentLocale(std::string_view identifier) {
   const std::lock_guard lock(state().mutex);
   state().measurement = usable;
   state().numbers = std::move(usable);
+  current.store(nullptr, std::memory_order_release);
 }
 
 std::string currentLocale() {
@@ -44,13 +68,9 @@ std::string currentMeasurementLocale() {
   return state().measurement;
 }
 
-const NumberSymbols& currentNumberSymbols() {
-  const std::lock_guard lock(state().mutex);
-  const std::string& locale = state().numbers;
-  const auto found = state().symbols.find(locale);
-  return found != state().symbols.end() ? found->second
-                                        : state().symbols.emplace(locale, numberSymbols(locale)).first->second;
-}
+const NumberSymbols& currentNumberSymbols() { return currentSymbols().usual; }
+
+const NumberSymbols& currentNumberSymbolsByThrees() { return currentSymbols().byThrees; }
 
 }  // namespace port
 }  // namespace kzm

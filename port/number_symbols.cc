@@ -17,7 +17,7 @@ std::string utf8(const icu::UnicodeString& text) {
   return bytes;
 }
 
-// What the locale writes before and behind the digit of -1.
+// What the locale writes before and after the digit of -1.
 void readNegativeAffixes(const icu::number::LocalizedNumberFormatter& formatter, NumberSymbols& symbols,
                          UErrorCode& status) {
   const std::string text = utf8(formatter.formatInt(-1, status).toString(status));
@@ -82,14 +82,21 @@ NumberSymbols numberSymbols(const std::string& localeIdentifier) {
     if (std::optional<NumberSymbols> symbols = symbolsOf(candidate)) return *std::move(symbols);
   }
   // Only a machine without any locale data comes here.
+  NumberSymbols english = plainSymbols();
+  english.groupSeparator = ",";
+  english.notANumber = "NaN";
+  english.infinity = "∞";
+  english.primaryGroup = english.secondaryGroup = 3;
+  return english;
+}
+
+NumberSymbols plainSymbols() {
   NumberSymbols plain;
   for (std::size_t digit = 0; digit < plain.digits.size(); ++digit) plain.digits[digit] = std::to_string(digit);
   plain.decimalSeparator = ".";
-  plain.groupSeparator = ",";
   plain.negativePrefix = "-";
-  plain.notANumber = "NaN";
-  plain.infinity = "∞";
-  plain.primaryGroup = plain.secondaryGroup = 3;
+  plain.notANumber = "nan";
+  plain.infinity = "inf";
   return plain;
 }
 

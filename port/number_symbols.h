@@ -22,13 +22,16 @@ struct NumberSymbols {
   std::string infinity;
   int primaryGroup = 0;        // digits in the group next to the decimal separator; 0 means no grouping
   int secondaryGroup = 0;      // digits in every further group
-  int minimumGroupDigits = 1;  // digits that must stand before the first separator for any separator to be written
+  int minimumGroupDigits = 1;  // digits before the first separator without which there is none
 };
 
 namespace port {
 
 /// The symbols of the locale; those of world English when its data cannot be had (an unusable numbering system, say).
 [[nodiscard]] NumberSymbols numberSymbols(const std::string& localeIdentifier);
+
+/// The symbols of numbers without locale, as printf writes them: no groups, "-", ".", "nan" and "inf".
+[[nodiscard]] NumberSymbols plainSymbols();
 
 }  // namespace port
 }  // namespace kzm

@@ -6,8 +6,7 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/sensors.h>
 
-#include "core/options.h"
-#include "core/reading.h"
+#include "core/option_values.h"
 #include "units/measurement_unit.h"
 
 namespace kzm::sensors {
@@ -16,7 +15,14 @@ namespace {
 constexpr Key kOff = "off";
 constexpr Key kDecimalsFrequency = "decimals-frequency";
 
-Reading temperature(const Dictionary& options, double celsius) {
+/// What a kind makes of a value.
+struct Converted {
+  Unit unit;
+  double value;
+  std::int64_t decimals = 0;  // at most
+};
+
+Converted temperature(const Dictionary& options, double celsius) {
   MeasurementUnit unit = KZMUtilitiesDefaultUnits::shared().sensorsTemperatureUnit();
   if (options.contains(core::kReverseType)) unit = units::reversed(unit);
   if (unit == MeasurementUnit::fahrenheit) return {Unit::degrees, celciusToFahrenheit(celsius)};
@@ -24,15 +30,16 @@ Reading temperature(const Dictionary& options, double celsius) {
   return {Unit::degrees, celsius};
 }
 
-// Deliberate: capped above only, -0.5 is -50; but exactly -1.0, which sources give for an unknown reading, is 0.
-Reading percentage(const Dictionary& /*options*/, double fraction) {
+// Deliberate: capped above only, -0.5 is -50; but exactly -1.0, which sources give for an unknown reading, is 0, and NaN
+// is 100 (SensorData.PercentagesAreCappedAboveOnly).
+Converted percentage(const Dictionary& /*options*/, double fraction) {
   constexpr double kUnknown = -1.0;
   if (fraction == kUnknown) return {Unit::percent, 0.0};
   const double percent = fraction * 100.0;
-  return {Unit::percent, percent < 100.0 ? percent : 100.0};  // NaN is 100
+  return {Unit::percent, percent < 100.0 ? percent : 100.0};
 }
 
-Reading fan(const Dictionary& options, double rpm) {
+Converted fan(const Dictionary& options, double rpm) {
   return {rpm == 0.0 && options.contains(kOff) ? Unit::off : Unit::rpm, rpm};
 }
 
@@ -47,18 +54,18 @@ constexpr Scaled kPower{Unit::watts, Unit::milliwatts, "decimals-power"};
 constexpr Scaled kVoltage{Unit::volts, Unit::millivolts, "decimals-voltage"};
 
 template <const Scaled& quantity>
-Reading scaled(const Dictionary& options, double value) {
-  Reading reading{quantity.base, value, value == 0.0 ? 0 : 1};
-  if (value != 0.0 && std::abs(value) < 1.0) reading = {quantity.milli, value * 1000.0, 0};
-  reading.decimals = core::readDecimals(options.find(quantity.decimals), reading.value, reading.decimals);
-  return reading;
+Converted scaled(const Dictionary& options, double value) {
+  Converted shown{quantity.base, value, value == 0.0 ? 0 : 1};
+  if (value != 0.0 && std::abs(value) < 1.0) shown = {quantity.milli, value * 1000.0, 0};
+  shown.decimals = core::readDecimals(options.find(quantity.decimals), shown.value, shown.decimals);
+  return shown;
 }
 
-Reading light(const Dictionary& options, double lux) {
+Converted light(const Dictionary& options, double lux) {
   return {core::readBoolean(options.find(core::kShort)) ? Unit::luxShort : Unit::lux, lux};
 }
 
-Reading frequency(const Dictionary& options, double megahertz) {
+Converted frequency(const Dictionary& options, double megahertz) {
   constexpr std::int64_t kDefaultDecimals = 2;
   const double gigahertz = megahertz / 1000.0;
   return {core::readBoolean(options.find(core::kShort)) ? Unit::gigahertzShort : Unit::gigahertz, gigahertz,
@@ -66,49 +73,62 @@ Reading frequency(const Dictionary& options, double megahertz) {
 }
 
 template <Unit unit>
-Reading plain(const Dictionary& /*options*/, double value) {
+Converted plain(const Dictionary& /*options*/, double value) {
   return {unit, value};
 }
 
 struct KindRow {
-  std::int64_t type;
-  Reading (*read)(const Dictionary& options, double value);
+  SensorType::Kind type;
+  Converted (*convert)(const Dictionary& options, double value);
 };
 
 // clang-format off
 constexpr KindRow kKinds[] = {
-    {SensorType::temperature, temperature                  },
-    {SensorType::percentage,  percentage                   },
-    {SensorType::fan,         fan                          },
-    {SensorType::current,     scaled<kCurrent>             },
-    {SensorType::power,       scaled<kPower>               },
-    {SensorType::voltage,     scaled<kVoltage>             },
-    {SensorType::light,       light                        },
-    {SensorType::frequency,   frequency                    },
-    {SensorType::multiplier,  plain<Unit::times>           },
+    {SensorType::temperature, temperature},
+    {SensorType::percentage,  percentage},
+    {SensorType::fan,         fan},
+    {SensorType::current,     scaled<kCurrent>},
+    {SensorType::power,       scaled<kPower>},
+    {SensorType::voltage,     scaled<kVoltage>},
+    {SensorType::light,       light},
+    {SensorType::frequency,   frequency},
+    {SensorType::multiplier,  plain<Unit::times>},
     {SensorType::capacity,    plain<Unit::milliampereHours>},
 };
 // clang-format on
 
-}  // namespace
-
-std::optional<Reading> readingOf(std::int64_t type, const Dictionary& options, double value) {
+constexpr const KindRow* rowOf(std::int64_t type) {
   for (const KindRow& kind : kKinds) {
-    if (kind.type == type) return kind.read(options, value);
+    if (kind.type == type) return &kind;
   }
-  return std::nullopt;
+  return nullptr;
 }
 
-const core::Template* unitText(const Reading& reading, const Dictionary& options) {
-  return unitText(reading.unit, core::readBoolean(options.find(core::kSpace)) ? Style::spaced : Style::tight);
+// Every kind that is published has its row.
+static_assert([]<std::size_t... type>(std::index_sequence<type...>) {
+  return ((core::isEnumerator<static_cast<SensorType::Kind>(type)>() == (rowOf(type) != nullptr)) && ...);
+}(std::make_index_sequence<256>()));
+
+}  // namespace
+
+std::optional<core::Reading> readingOf(std::int64_t type, const Dictionary& options, double value) {
+  core::prepare<kTable>();
+  const KindRow* kind = rowOf(type);
+  if (kind == nullptr) return std::nullopt;
+  const Converted shown = kind->convert(options, value);
+  const core::Amount amount{core::Digits::atMost, shown.decimals, shown.value};
+  if (shown.unit == Unit::percent) return core::Reading{kPercentRow, amount};
+  const std::size_t row = kIndex.row(static_cast<std::size_t>(shown.unit), core::readSpacing(options));
+  return core::hasText<kTable>(row) ? std::optional(core::Reading{row, amount}) : std::nullopt;
 }
 
 }  // namespace kzm::sensors
 
 std::optional<kzm::Dictionary> KZMUtilitiesSensorData(std::int64_t type, const kzm::Dictionary& options, double value) {
-  const std::optional<kzm::sensors::Reading> reading = kzm::sensors::readingOf(type, options, value);
+  using namespace kzm::sensors;
+  using namespace kzm::core;
+  const std::optional<Reading> reading = readingOf(type, options, value);
   if (!reading.has_value()) return std::nullopt;
-  const kzm::core::Template* unit = kzm::sensors::unitText(*reading, options);
-  if (unit == nullptr) return std::nullopt;
-  return kzm::Dictionary{{"decimals", reading->decimals}, {"value", reading->value}, {"format", unit->text()}};
+  return reading->row == kPercentRow ? data(kPercent, reading->amount, FormatKey::last)
+                                     : data<kTable>(*reading, FormatKey::last);
 }

@@ -2,28 +2,25 @@
 #ifndef KZM_SENSORS_SENSOR_DATA_H
 #define KZM_SENSORS_SENSOR_DATA_H
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
 #include <KZMUtilities/dictionary.h>
 
+#include "core/rendering.h"
 #include "sensors/sensor_table.h"
 
 namespace kzm::sensors {
 
-/// What a reading is shown as.
-struct Reading {
-  Unit unit;
-  double value;
-  std::int64_t decimals = 0;  // at most
-};
+/// The row of a percentage: beyond the table.
+/// Deliberate: its text is not looked up (SensorFormat.ThePercentSignIsTheSameInEveryLanguage).
+inline constexpr std::size_t kPercentRow = std::size(kTexts);
+inline constexpr core::Template kPercent("%@%%");
 
-/// Nothing for a kind that does not exist.
-[[nodiscard]] std::optional<Reading> readingOf(std::int64_t type, const Dictionary& options, double value);
-
-/// The text of the reading's unit, in the style that the options ask for; null when the shared cache's table lacks it.
-/// Good until this thread's next call.
-[[nodiscard]] const core::Template* unitText(const Reading& reading, const Dictionary& options);
+/// What a reading is shown as. Nothing for a kind that does not exist, and for a unit that a host's own table lacks. The
+/// family's texts are looked up before anything else is asked.
+[[nodiscard]] std::optional<core::Reading> readingOf(std::int64_t type, const Dictionary& options, double value);
 
 }  // namespace kzm::sensors
 

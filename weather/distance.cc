@@ -2,7 +2,6 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/weather.h>
 
-#include "core/number_text.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -11,30 +10,18 @@ namespace {
 struct DistanceRow {
   MeasurementUnit unit;
   Conversion fromKilometers;
-  Text text;
+  Unit shown;
 };
 
 // clang-format off
+//   unit                         from km    shown in; the last row serves any other unit
 constexpr DistanceRow kDistances[] = {
-    {MeasurementUnit::miles,      KmToMiles, Text::miles     },
-    {MeasurementUnit::kilometers, unchanged, Text::kilometers},
+    {MeasurementUnit::miles,      KmToMiles, Unit::miles},
+    {MeasurementUnit::kilometers, unchanged, Unit::kilometers},
 };
 // clang-format on
 
 const DistanceRow& distanceRow() { return rowFor(kDistances, KZMUtilitiesDefaultUnits::shared().distanceUnit()); }
-
-// The pattern "#,###": the locale's separators, minus and minimum grouping, but groups of three in every locale.
-NumberSymbols groupedByThree() {
-  NumberSymbols symbols = NumberFormatter(0, 0).symbols();
-  symbols.primaryGroup = 3;
-  symbols.secondaryGroup = 3;
-  return symbols;
-}
-
-core::NumberText wholeNumber(double value) {
-  static const NumberSymbols& symbols = *new NumberSymbols(groupedByThree());
-  return {symbols, 0, 0, value};
-}
 
 }  // namespace
 }  // namespace kzm::weather
@@ -42,11 +29,12 @@ core::NumberText wholeNumber(double value) {
 std::string KZMUtilitiesFormatWeatherDistance(double kilometers) {
   using namespace kzm::weather;
   const DistanceRow& row = distanceRow();
-  return filled(row.text, wholeNumber(row.fromKilometers(kilometers)));
+  return text(row.shown, {kzm::core::Digits::wholeByThrees, 0, row.fromKilometers(kilometers)});
 }
 
-// Deliberate: the number is neither converted nor grouped, only labelled with the unit of distances.
+// Deliberate: the number is neither converted nor grouped, only labeled with the unit of distances
+// (Distance.VisibilityIsLabeledOnly).
 std::string KZMUtilitiesFormatWeatherVisibility(double distance) {
   using namespace kzm::weather;
-  return textOf(distanceRow().text).filled(kzm::core::plainWhole(distance));
+  return text(distanceRow().shown, {kzm::core::Digits::plain, 0, distance});
 }

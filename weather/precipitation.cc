@@ -13,27 +13,26 @@ struct PrecipitationRow {
   MeasurementUnit unit;
   Conversion fromMillimeters;
   std::int64_t digits;
-  Text text;
+  Unit shown;
 };
 
 // clang-format off
+//   unit                          from mm    digits  shown in; the last row serves any other unit
 constexpr PrecipitationRow kRain[] = {
-    {MeasurementUnit::inches,      mmToInch,  2, Text::inches     },
-    {MeasurementUnit::millimeters, unchanged, 1, Text::millimeters},
+    {MeasurementUnit::inches,      mmToInch,  2,      Unit::inches},
+    {MeasurementUnit::millimeters, unchanged, 1,      Unit::millimeters},
 };
-// clang-format on
-// clang-format off
 constexpr PrecipitationRow kSnow[] = {
-    {MeasurementUnit::inches,      mmToInch, 2, Text::inches     },
-    {MeasurementUnit::centimeters, mmToCm,   1, Text::centimeters},
+    {MeasurementUnit::inches,      mmToInch,  2,      Unit::inches},
+    {MeasurementUnit::centimeters, mmToCm,    1,      Unit::centimeters},
 };
 // clang-format on
 
-// Deliberate: snow, too, follows the unit of rain.
+// Deliberate: snow, too, follows the unit of rain (Precipitation.SnowFollowsTheUnitOfRain).
 template <std::size_t N>
 std::string amount(const PrecipitationRow (&rows)[N], double millimeters) {
   const PrecipitationRow& row = rowFor(rows, KZMUtilitiesDefaultUnits::shared().rainUnit());
-  return filled(row.text, decimalNumber(row.digits, row.fromMillimeters(millimeters)));
+  return text(row.shown, atMost(row.digits, row.fromMillimeters(millimeters)));
 }
 
 }  // namespace

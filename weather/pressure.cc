@@ -3,20 +3,17 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/weather.h>
 
-#include "core/options.h"
-#include "core/reading.h"
+#include "core/option_values.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
 namespace {
 
-using Unit = MeasurementUnit;
-
 // What the published conversions lack; inchToMillibar divides by the same factor.
 constexpr double hectopascalsToInches(double hectopascals) noexcept { return hectopascals * 0.029529983071445; }
 
 enum class Style : std::uint8_t {
-  chosen,    // the options say whether the unit is shown, with or without a blank, and one fraction digit or none
+  chosen,    // the options say whether the unit is shown, with or without a space, and one fraction digit or none
   complete,  // always with its unit and up to two fraction digits
 };
 
@@ -24,30 +21,29 @@ struct PressureRow {
   MeasurementUnit unit;
   Conversion fromHectopascals;
   Style style;
-  Text spaced;
-  Text tight;
+  Unit shown;
 };
 
-// Deliberate: only inches of mercury take no heed of the options.
+// Deliberate: inches of mercury alone ignore the options (Pressure.InchesIgnoreTheOptions).
 // clang-format off
+//   unit                              from hPa              style            shown in; the last row serves any other unit
 constexpr PressureRow kPressures[] = {
-    {Unit::millibars,       unchanged,            Style::chosen,   Text::millibarsSpaced,    Text::millibars   },
-    {Unit::inchesOfMercury, hectopascalsToInches, Style::complete, Text::inches,             Text::inches      },
-    {Unit::hectopascals,    unchanged,            Style::chosen,   Text::hectopascalsSpaced, Text::hectopascals},
+    {MeasurementUnit::millibars,       unchanged,            Style::chosen,   Unit::millibars},
+    {MeasurementUnit::inchesOfMercury, hectopascalsToInches, Style::complete, Unit::inches},
+    {MeasurementUnit::hectopascals,    unchanged,            Style::chosen,   Unit::hectopascals},
 };
 // clang-format on
 
 constexpr std::int64_t kInchDigits = 2;
 
-// Deliberate: "decimals" is read as a boolean here: 5 means one digit.
+// Deliberate: "decimals" is read as a boolean here: 5 means one digit (Pressure.OnlyTheTruthOfDecimalsCounts).
 std::int64_t digitsOf(const PressureRow& row, const Dictionary& options) noexcept {
   if (row.style == Style::complete) return kInchDigits;
   return core::readBoolean(options.find(core::kDecimals)) ? 1 : 0;
 }
 
-Text textOf(const PressureRow& row, const Dictionary& options) noexcept {
-  if (row.style == Style::chosen && !core::readBoolean(options.find(core::kUnits))) return Text::number;
-  return core::readBoolean(options.find(core::kSpace)) ? row.spaced : row.tight;
+bool showsUnit(const PressureRow& row, const Dictionary& options) noexcept {
+  return row.style == Style::complete || core::readBoolean(options.find(core::kUnits));
 }
 
 }  // namespace
@@ -55,6 +51,8 @@ Text textOf(const PressureRow& row, const Dictionary& options) noexcept {
 
 std::string KZMUtilitiesFormatWeatherPressure(const kzm::Dictionary& options, double hectopascals) {
   using namespace kzm::weather;
+  using namespace kzm::core;
   const PressureRow& row = rowFor(kPressures, KZMUtilitiesDefaultUnits::shared().pressureUnit());
-  return filled(textOf(row, options), decimalNumber(digitsOf(row, options), row.fromHectopascals(hectopascals)));
+  const Amount amount = atMost(digitsOf(row, options), row.fromHectopascals(hectopascals));
+  return showsUnit(row, options) ? text(row.shown, readSpacing(options), amount) : text(amount);
 }

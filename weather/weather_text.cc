@@ -1,84 +1,71 @@
 #include "weather/weather_text.h"
 
-#include <algorithm>
 #include <string_view>
-#include <vector>
-
-#include <KZMUtilities/formatters.h>
 
 #include "core/rows.h"
-#include "core/unit_table.h"
 
 namespace kzm::weather {
 namespace {
 
-constexpr std::string_view kKeyPrefix = "Units.Weather.";
-
-struct TextRow {
-  Text text;
-  std::string_view key;  // behind the prefix
+struct UnitText {
+  Unit unit;
+  Spacing spacing;
+  std::string_view text;
   const char* comment;
 };
 
 // clang-format off
-constexpr TextRow kTexts[] = {
-    {Text::number,                  "%@",         nullptr },
-    {Text::degrees,                 "%@°",        nullptr },
-    {Text::kelvin,                  "%@K",        "kelvin"},
-    {Text::knotsSpaced,             "%@ knots",   nullptr },
-    {Text::knots,                   "%@knots",    nullptr },
-    {Text::milesPerHourSpaced,      "%@ mph",     nullptr },
-    {Text::milesPerHour,            "%@mph",      nullptr },
-    {Text::kilometersPerHourSpaced, "%@ km/h",    nullptr },
-    {Text::kilometersPerHour,       "%@km/h",     nullptr },
-    {Text::metersPerSecondSpaced,   "%@ m/s",     nullptr },
-    {Text::metersPerSecond,         "%@m/s",      nullptr },
-    {Text::north,                   "North",      nullptr },
-    {Text::northEast,               "North East", nullptr },
-    {Text::east,                    "East",       nullptr },
-    {Text::southEast,               "South East", nullptr },
-    {Text::south,                   "South",      nullptr },
-    {Text::southWest,               "South West", nullptr },
-    {Text::west,                    "West",       nullptr },
-    {Text::northWest,               "North West", nullptr },
-    {Text::hectopascalsSpaced,      "%@ hPa",     nullptr },
-    {Text::hectopascals,            "%@hPa",      nullptr },
-    {Text::millibarsSpaced,         "%@ mb",      nullptr },
-    {Text::millibars,               "%@mb",       nullptr },
-    {Text::inches,                  "%@\"",       nullptr },
-    {Text::miles,                   "%@ miles",   nullptr },
-    {Text::kilometers,              "%@ km",      nullptr },
-    {Text::millimeters,             "%@mm",       nullptr },
-    {Text::centimeters,             "%@cm",       nullptr },
-    {Text::days,                    "%@ Days",    nullptr },
-    {Text::percent,                 "%@%%",       nullptr },
+//   unit                     spacing          template      translator's hint
+constexpr UnitText kTexts[] = {
+    {Unit::degrees,           Spacing::tight,  "%@°",        nullptr},
+    {Unit::kelvin,            Spacing::tight,  "%@K",        "kelvin"},
+    {Unit::knots,             Spacing::spaced, "%@ knots",   nullptr},
+    {Unit::knots,             Spacing::tight,  "%@knots",    nullptr},
+    {Unit::milesPerHour,      Spacing::spaced, "%@ mph",     nullptr},
+    {Unit::milesPerHour,      Spacing::tight,  "%@mph",      nullptr},
+    {Unit::kilometersPerHour, Spacing::spaced, "%@ km/h",    nullptr},
+    {Unit::kilometersPerHour, Spacing::tight,  "%@km/h",     nullptr},
+    {Unit::metersPerSecond,   Spacing::spaced, "%@ m/s",     nullptr},
+    {Unit::metersPerSecond,   Spacing::tight,  "%@m/s",      nullptr},
+    {Unit::north,             Spacing::tight,  "North",      nullptr},
+    {Unit::northEast,         Spacing::tight,  "North East", nullptr},
+    {Unit::east,              Spacing::tight,  "East",       nullptr},
+    {Unit::southEast,         Spacing::tight,  "South East", nullptr},
+    {Unit::south,             Spacing::tight,  "South",      nullptr},
+    {Unit::southWest,         Spacing::tight,  "South West", nullptr},
+    {Unit::west,              Spacing::tight,  "West",       nullptr},
+    {Unit::northWest,         Spacing::tight,  "North West", nullptr},
+    {Unit::hectopascals,      Spacing::spaced, "%@ hPa",     nullptr},
+    {Unit::hectopascals,      Spacing::tight,  "%@hPa",      nullptr},
+    {Unit::millibars,         Spacing::spaced, "%@ mb",      nullptr},
+    {Unit::millibars,         Spacing::tight,  "%@mb",       nullptr},
+    {Unit::inches,            Spacing::tight,  "%@\"",       nullptr},
+    {Unit::miles,             Spacing::spaced, "%@ miles",   nullptr},
+    {Unit::kilometers,        Spacing::spaced, "%@ km",      nullptr},
+    {Unit::millimeters,       Spacing::tight,  "%@mm",       nullptr},
+    {Unit::centimeters,       Spacing::tight,  "%@cm",       nullptr},
+    {Unit::days,              Spacing::spaced, "%@ Days",    nullptr},
+    {Unit::percent,           Spacing::tight,  "%@%%",       nullptr},
 };
 // clang-format on
+constexpr auto kRows = core::unitRows(kTexts);
+constexpr auto kIndex = core::unitIndex<core::countEnumerators<Unit>()>(kTexts);
+static_assert(core::wellFormed(kRows) && kIndex.hasAll());
 
-static_assert(core::standInOrder(kTexts, &TextRow::text));
-
-std::vector<core::Template> lookedUp() {
-  std::vector<core::Template> texts;
-  for (const TextRow& row : kTexts) {
-    texts.emplace_back(row.text == Text::number ? std::string(row.key)
-                                                : core::localizedUnit(kKeyPrefix, row.key, row.comment));
-  }
-  return texts;
-}
+// Not kept in the shared cache: a change of the language shows in the very next call.
+constexpr core::UnitTable kTable{"", "Units.Weather.", kRows};
 
 }  // namespace
 
-const core::Template& textOf(Text text) {
-  static const std::vector<core::Template>& texts = *new std::vector<core::Template>(lookedUp());
-  return texts[static_cast<std::size_t>(text)];
+std::string localizedText(Unit unit, Spacing spacing) {
+  return core::localizedText(kTable, kIndex.row(static_cast<std::size_t>(unit), spacing));
 }
 
-core::NumberText decimalNumber(std::int64_t mostDigits, double value) {
-  static const NumberSymbols* const symbols = &NumberFormatter(0, 0).symbols();  // of the current locale; they stay
-  const auto most = static_cast<int>(std::clamp<std::int64_t>(mostDigits, 0, core::kMostFractionDigits));
-  return {*symbols, 0, most, value};
+std::string text(Unit unit, Spacing spacing, const core::Amount& amount) {
+  const std::string unitText = localizedText(unit, spacing);
+  return core::text(core::Template(unitText), amount);
 }
 
-std::string filled(Text text, const core::NumberText& number) { return textOf(text).filled(number); }
+std::string text(Unit unit, const core::Amount& amount) { return text(unit, Spacing::tight, amount); }
 
 }  // namespace kzm::weather

@@ -1,7 +1,4 @@
-// The texts of the weather family, and a number put into one of them.
-//
-// The texts of a process never change, so each is looked up once; the number style is that of the locale in force then.
-// Both are immutable and live for ever: a call in the steady state takes no lock.
+// The texts of the weather family, looked up on every call, with a number put into one of them.
 #ifndef KZM_WEATHER_WEATHER_TEXT_H
 #define KZM_WEATHER_WEATHER_TEXT_H
 
@@ -11,23 +8,18 @@
 
 #include <KZMUtilities/default_units.h>
 
-#include "core/number_text.h"
-#include "core/template.h"
+#include "core/rendering.h"
 
 namespace kzm::weather {
 
-/// The texts, in the order in which they are looked up. The first is the number alone and is not looked up.
-enum class Text : std::uint8_t {
-  number,
+using core::Spacing;
+
+enum class Unit : std::uint8_t {
   degrees,
   kelvin,
-  knotsSpaced,
   knots,
-  milesPerHourSpaced,
   milesPerHour,
-  kilometersPerHourSpaced,
   kilometersPerHour,
-  metersPerSecondSpaced,
   metersPerSecond,
   north,
   northEast,
@@ -37,9 +29,7 @@ enum class Text : std::uint8_t {
   southWest,
   west,
   northWest,
-  hectopascalsSpaced,
   hectopascals,
-  millibarsSpaced,
   millibars,
   inches,
   miles,
@@ -50,14 +40,17 @@ enum class Text : std::uint8_t {
   percent,
 };
 
-/// The text in the user's language.
-[[nodiscard]] const core::Template& textOf(Text text);
-
-/// The number in the locale's decimal style, with at most so many fraction digits, which are clamped to 0..340.
-[[nodiscard]] core::NumberText decimalNumber(std::int64_t mostDigits, double value);
+/// The text in the user's language, as it is at this call. A unit that has one form only has it in both spacings.
+[[nodiscard]] std::string localizedText(Unit unit, Spacing spacing = Spacing::tight);
 
 /// The text with the number in its place.
-[[nodiscard]] std::string filled(Text text, const core::NumberText& number);
+[[nodiscard]] std::string text(Unit unit, Spacing spacing, const core::Amount& amount);
+[[nodiscard]] std::string text(Unit unit, const core::Amount& amount);
+
+/// A number with at most that many fraction digits, in the style of the locale in force at this call.
+[[nodiscard]] constexpr core::Amount atMost(std::int64_t decimals, double value) noexcept {
+  return {core::Digits::atMostNow, decimals, value};
+}
 
 /// The row of the unit; the last row serves any other unit. Rows have a member `unit`.
 template <class Row, std::size_t N>

@@ -2,8 +2,7 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/weather.h>
 
-#include "core/options.h"
-#include "core/reading.h"
+#include "core/option_values.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -12,45 +11,45 @@ namespace {
 struct WindRow {
   MeasurementUnit unit;
   Conversion fromMetersPerSecond;
-  Text spaced;
-  Text tight;
+  Unit shown;
 };
 
 // clang-format off
+//   unit                                from m/s    shown in; the last row serves any other unit
 constexpr WindRow kWinds[] = {
-    {MeasurementUnit::knots,             mpsToKnots, Text::knotsSpaced,             Text::knots            },
-    {MeasurementUnit::milesPerHour,      mpsToMph,   Text::milesPerHourSpaced,      Text::milesPerHour     },
-    {MeasurementUnit::kilometersPerHour, mpsToKph,   Text::kilometersPerHourSpaced, Text::kilometersPerHour},
-    {MeasurementUnit::metersPerSecond,   unchanged,  Text::metersPerSecondSpaced,   Text::metersPerSecond  },
+    {MeasurementUnit::knots,             mpsToKnots, Unit::knots},
+    {MeasurementUnit::milesPerHour,      mpsToMph,   Unit::milesPerHour},
+    {MeasurementUnit::kilometersPerHour, mpsToKph,   Unit::kilometersPerHour},
+    {MeasurementUnit::metersPerSecond,   unchanged,  Unit::metersPerSecond},
 };
 // clang-format on
 
 // A sector of the compass, 45 degrees wide, and the bearing at which the next one begins.
 struct Sector {
   double endDegrees;
-  Text name;
+  Unit name;
 };
 
 // Deliberate: bearings are not brought into one turn. All below 22.5, the negative ones too, and all from 337.5 on are
-// north, and so is NaN.
+// north, and so is NaN (Wind.DirectionsAreSectorsAndOthersAreNorth).
 // clang-format off
 constexpr Sector kSectors[] = {
-    {22.5,  Text::north    },
-    {67.5,  Text::northEast},
-    {112.5, Text::east     },
-    {157.5, Text::southEast},
-    {202.5, Text::south    },
-    {247.5, Text::southWest},
-    {292.5, Text::west     },
-    {337.5, Text::northWest},
+    {22.5,  Unit::north},
+    {67.5,  Unit::northEast},
+    {112.5, Unit::east},
+    {157.5, Unit::southEast},
+    {202.5, Unit::south},
+    {247.5, Unit::southWest},
+    {292.5, Unit::west},
+    {337.5, Unit::northWest},
 };
 // clang-format on
 
-constexpr Text directionOf(double degrees) noexcept {
+constexpr Unit directionOf(double degrees) noexcept {
   for (const Sector& sector : kSectors) {
     if (degrees < sector.endDegrees) return sector.name;
   }
-  return Text::north;
+  return Unit::north;
 }
 
 }  // namespace
@@ -60,12 +59,11 @@ std::string KZMUtilitiesFormatWeatherWindSpeed(const kzm::Dictionary& options, d
   using namespace kzm::weather;
   using namespace kzm::core;
   const WindRow& row = rowFor(kWinds, KZMUtilitiesDefaultUnits::shared().windSpeedUnit());
-  const bool showsUnit = readBoolean(options.find(kUnits));
-  const Text unitText = readBoolean(options.find(kSpace)) ? row.spaced : row.tight;
-  return filled(showsUnit ? unitText : Text::number, decimalNumber(0, row.fromMetersPerSecond(metersPerSecond)));
+  const Amount amount = atMost(0, row.fromMetersPerSecond(metersPerSecond));
+  return readBoolean(options.find(kUnits)) ? text(row.shown, readSpacing(options), amount) : text(amount);
 }
 
 std::string KZMUtilitiesFormatWeatherWindDirection(double degrees) {
   using namespace kzm::weather;
-  return textOf(directionOf(degrees)).text();
+  return localizedText(directionOf(degrees));
 }

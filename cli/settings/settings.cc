@@ -10,7 +10,7 @@
 namespace kzm::cli {
 namespace {
 
-std::string described(const UnitSetting& setting) {
+std::string described(const ListedSetting& setting) {
   const std::int64_t inForce = codeInForce(setting);
   std::string text = std::string(setting.keyPath) + "  (" + std::string(setting.what) + ")\n";
   for (std::size_t code = 0; code <= setting.meanings.size(); ++code) {
@@ -29,18 +29,18 @@ std::string described(const UnitSetting& setting) {
 
 std::string list(Words /*words*/) {
   std::string text;
-  for (const UnitSetting& setting : unitSettings()) text.append(text.empty() ? "" : "\n").append(described(setting));
+  for (const ListedSetting& setting : unitSettings()) text.append(text.empty() ? "" : "\n").append(described(setting));
   return text;
 }
 
 std::string get(Words words) {
-  const UnitSetting& setting = settingAt(words[0]);
+  const ListedSetting& setting = settingAt(words[0]);
   const std::int64_t code = codeInForce(setting);
   return std::to_string(code) + " " + std::string(meaningOf(setting, code)) + "\n";
 }
 
 std::string set(Words words) {
-  const UnitSetting& setting = settingAt(words[0]);
+  const ListedSetting& setting = settingAt(words[0]);
   storeSetting(codeIn(setting, words[1]), setting.keyPath);
   return {};
 }
@@ -90,7 +90,7 @@ Description describeSettings() {
   for (const Subverb& subverb : kSubverbs) {
     Choice choice{.name = subverb.name, .help = subverb.does};
     if (subverb.words > 0) {
-      for (const UnitSetting& setting : unitSettings()) choice.operands.push_back(setting.keyPath);
+      for (const ListedSetting& setting : unitSettings()) choice.operands.push_back(setting.keyPath);
     }
     verb.usage.push_back(subverb.usage);
     verb.choices.push_back(std::move(choice));

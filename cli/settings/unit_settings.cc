@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <utility>
+#include <vector>
 
 #include <KZMSettings/KZMSettings.h>
 
@@ -11,36 +12,48 @@
 namespace kzm::cli {
 namespace {
 
-using enum MeasurementUnit;
 using Units = KZMUtilitiesDefaultUnits;
 
-constexpr MeasurementUnit kDegrees[] = {celsius, fahrenheit, kelvin};
-constexpr MeasurementUnit kSpeeds[] = {metersPerSecond, kilometersPerHour, milesPerHour, knots};
-constexpr MeasurementUnit kDistances[] = {kilometers, miles};
-constexpr MeasurementUnit kPressures[] = {hectopascals, millibars, inchesOfMercury};
-constexpr MeasurementUnit kDepths[] = {millimeters, inches};
-
+// What is measured in the units of each setting, and the order in which they are listed.
+struct Listed {
+  std::string_view keyPath;
+  std::string_view what;
+};
 // clang-format off
-const UnitSetting kSettings[] = {
-    {"Sensors.Global.Degrees.Format",      "temperature of sensors", kDegrees,   &Units::sensorsTemperatureUnit},
-    {"Weather.Global.Units.Degrees",       "temperature of the air", kDegrees,   &Units::weatherTemperatureUnit},
-    {"Weather.Global.Units.WindSpeed",     "speed of the wind",      kSpeeds,    &Units::windSpeedUnit},
-    {"Weather.Global.Units.Pressure",      "pressure of the air",    kPressures, &Units::pressureUnit},
-    {"Weather.Global.Units.Distance",      "distances",              kDistances, &Units::distanceUnit},
-    {"Weather.Global.Units.Precipitation", "rain and snow (snow in centimeters when rain is in millimeters)",
-                                                                     kDepths,    &Units::rainUnit},
+constexpr Listed kListed[] = {
+    {"Sensors.Global.Degrees.Format",      "temperature of sensors"},
+    {"Weather.Global.Units.Degrees",       "temperature of the air"},
+    {"Weather.Global.Units.WindSpeed",     "speed of the wind"},
+    {"Weather.Global.Units.Pressure",      "pressure of the air"},
+    {"Weather.Global.Units.Distance",      "distances"},
+    {"Weather.Global.Units.Precipitation", "rain and snow (snow in centimeters when rain is in millimeters)"},
 };
 // clang-format on
+
+// The library's settings, each once. One that is not listed above comes last, by its key path alone.
+std::vector<ListedSetting> listedSettings() {
+  std::vector<ListedSetting> settings;
+  const auto add = [&](std::string_view keyPath, std::string_view what) {
+    for (const UnitSetting& setting : kzm::unitSettings()) {
+      const auto isSame = [&](const ListedSetting& other) { return other.keyPath == setting.keyPath; };
+      if (setting.keyPath != keyPath || std::ranges::any_of(settings, isSame)) continue;
+      settings.push_back({setting.keyPath, what, setting.units, setting.unit});
+    }
+  };
+  for (const Listed& listed : kListed) add(listed.keyPath, listed.what);
+  for (const UnitSetting& setting : kzm::unitSettings()) add(setting.keyPath, "");
+  return settings;
+}
 
 bool isSame(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
 }
 
-std::int64_t codes(const UnitSetting& setting) { return std::ssize(setting.meanings) + 1; }
+std::int64_t codes(const ListedSetting& setting) { return std::ssize(setting.meanings) + 1; }
 
 // The setting's unit in a region that prefers the one given for everything.
-MeasurementUnit unitInRegionOf(const UnitSetting& setting, MeasurementUnit preferred) {
+MeasurementUnit unitInRegionOf(const ListedSetting& setting, MeasurementUnit preferred) {
   Units region;
   PreferredUnits units = region.units();
   for (auto& [key, unit] : units) unit = preferred;
@@ -50,18 +63,21 @@ MeasurementUnit unitInRegionOf(const UnitSetting& setting, MeasurementUnit prefe
 
 }  // namespace
 
-std::span<const UnitSetting> unitSettings() { return kSettings; }
+std::span<const ListedSetting> unitSettings() {
+  static const std::vector<ListedSetting> settings = listedSettings();
+  return settings;
+}
 
-const UnitSetting& settingAt(std::string_view keyPath) {
+const ListedSetting& settingAt(std::string_view keyPath) {
   std::string names;
-  for (const UnitSetting& setting : kSettings) {
+  for (const ListedSetting& setting : unitSettings()) {
     if (setting.keyPath == keyPath) return setting;
     names.append(names.empty() ? "" : ", ").append(setting.keyPath);
   }
   throw InputError("settings: no setting " + inQuotes(keyPath) + "; there are " + names);
 }
 
-std::int64_t codeIn(const UnitSetting& setting, std::string_view text) {
+std::int64_t codeIn(const ListedSetting& setting, std::string_view text) {
   std::string meanings;
   for (std::int64_t code = kRegionsChoice; code < codes(setting); ++code) {
     if (text == std::to_string(code) || isSame(text, meaningOf(setting, code))) return code;
@@ -72,11 +88,11 @@ std::int64_t codeIn(const UnitSetting& setting, std::string_view text) {
                    meanings);
 }
 
-std::string_view meaningOf(const UnitSetting& setting, std::int64_t code) {
+std::string_view meaningOf(const ListedSetting& setting, std::int64_t code) {
   return code == kRegionsChoice ? "region" : measurementUnitName(setting.meanings[static_cast<std::size_t>(code - 1)]);
 }
 
-std::int64_t codeInForce(const UnitSetting& setting) {
+std::int64_t codeInForce(const ListedSetting& setting) {
   // Whatever is stored, the library alone knows how it reads it. Where the answer depends on what the region prefers,
   // the region decides.
   const MeasurementUnit unit = unitInRegionOf(setting, MeasurementUnit::knots);

@@ -35,7 +35,7 @@ Dictionary sizeOptions() {
 Cell cellOf(const AttributedString& text) {
   Cell cell;
   for (const AttributedString::Run& run : text.runs()) {
-    cell.push_back({run.text, run.attributes == kStrong ? Style::strong : Style::plain});
+    cell.push_back({std::string(run.text), run.attributes == kStrong ? Style::strong : Style::plain});
   }
   return cell;
 }

@@ -15,17 +15,13 @@
 
 namespace kzm {
 
-/// One text of a string table.
-struct LocalizedText {
-  std::string_view key;
-  std::string_view text;
-};
-
-/// The texts of one table in one language, sorted by key.
+/// The texts of one table in one language. Keys and texts are two lists in the same order; in both, a zero byte ends
+/// each entry. So a table is constant data without a pointer, and one that nobody reads costs nothing.
 struct StringTable {
   std::string_view language;  // as its folder is named: "fr", "pt-BR", "zh-Hant"
   std::string_view name;      // "KZMUtilities"
-  std::span<const LocalizedText> texts;
+  std::string_view keys;      // "Units.Memory.%@ GB\0Units.Memory.%@ MB\0"
+  std::string_view texts;     // "%@ Go\0%@ Mo\0"
 };
 
 /// The string tables that a library brings along. Bundles are constants: they and all that they name live for ever.

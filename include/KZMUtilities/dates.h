@@ -28,8 +28,13 @@
 
 namespace kzm {
 
+class TimeZone;
+
 namespace port {
 class Zone;
+}
+namespace clock {
+const port::Zone& zoneOf(const TimeZone& zone) noexcept;
 }
 
 /// Seconds since 1970-01-01 00:00:00 UTC; null is no date.
@@ -64,12 +69,11 @@ class KZM_EXPORT TimeZone {
   /// The same zone by name and source.
   [[nodiscard]] friend bool operator==(const TimeZone&, const TimeZone&) = default;
 
-  /// For the library's own use: a zone that lives as long as the process.
-  explicit TimeZone(const port::Zone& zone) noexcept : zone_(&zone) {}
-  [[nodiscard]] const port::Zone& zone() const noexcept { return *zone_; }
-
  private:
-  const port::Zone* zone_;
+  friend const port::Zone& clock::zoneOf(const TimeZone& zone) noexcept;
+  explicit TimeZone(const port::Zone& zone) noexcept : zone_(&zone) {}
+
+  const port::Zone* zone_;  // lives as long as the process
 };
 
 // ----------------------------------------------------------------------------------------------- calendar fields ---

@@ -10,13 +10,11 @@
 #ifndef KZMUTILITIES_DEFAULT_UNITS_H
 #define KZMUTILITIES_DEFAULT_UNITS_H
 
-#include <array>
-#include <atomic>
-#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <map>
-#include <mutex>
+#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -90,19 +88,32 @@ class KZM_EXPORT KZMUtilitiesDefaultUnits {
   /// "Weather.Global.Units.Precipitation", the same setting: 1 centimeters, 2 inches; otherwise the preferred "snow".
   [[nodiscard]] kzm::MeasurementUnit snowUnit() const;
 
-  /// `units`: the preferred units. After `init` all six keys are there, and kelvin and knots are never among the units.
+  /// `units`: a copy of the preferred units; to change them, hand a changed copy to `setUnits:`. After `init` all six
+  /// keys are there, and kelvin and knots are never among the units.
   [[nodiscard]] kzm::PreferredUnits units() const;
 
-  /// `setUnits:` puts other preferred units in place, for the next question on. Keys that are missing are answered with
-  /// kilometersPerHour, hectopascals, celsius, kilometers, millimeters and centimeters; further keys are kept unread.
+  /// `setUnits:` puts other preferred units in place, for the next question on. An accessor whose key is missing answers
+  /// with the metric unit of its kind: kilometersPerHour, hectopascals, celsius, kilometers, millimeters or centimeters.
+  /// Further keys are kept unread.
   void setUnits(kzm::PreferredUnits units);
 
  private:
-  static constexpr std::size_t kQuantities = 6;
-
-  mutable std::mutex mutex_;
-  kzm::PreferredUnits units_;
-  std::array<std::atomic<kzm::MeasurementUnit>, kQuantities> preferred_;  // what is in units_, without the lock
+  struct State;
+  std::unique_ptr<State> state_;
 };
+
+namespace kzm {
+
+/// One setting by which the user chooses a unit.
+struct UnitSetting {
+  std::string_view keyPath;
+  std::span<const MeasurementUnit> units;                     // of the codes 1, 2, ...
+  MeasurementUnit (KZMUtilitiesDefaultUnits::*unit)() const;  // the accessor that reads it
+};
+
+/// All of them, one for each accessor: rain and snow have two rows with one key path.
+[[nodiscard]] KZM_EXPORT std::span<const UnitSetting> unitSettings() noexcept;
+
+}  // namespace kzm
 
 #endif

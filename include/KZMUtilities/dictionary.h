@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -42,66 +43,62 @@ class Key {
   std::uint32_t hash_;
 };
 
-/// A string-keyed dictionary of Values: flat, in the order in which keys were first set.
+/// A string-keyed dictionary of Values, in the order in which keys were first set.
 ///
-/// It is made for reading a handful of options many times. One of 64 slots, chosen by the key's hash, says where to
-/// look: a free slot means that the key is absent, and the entry that a taken slot names is nearly always the one asked
-/// for. Dictionaries of more than a few entries keep an index beside.
+/// It is made for reading a handful of options many times: one byte, chosen by the key's hash, tells that a key is
+/// absent or which entry has it.
 class Dictionary {
  public:
   struct Entry {
     std::string key;
     Value value;
-    std::uint32_t hash = 0;
-  };
-  struct Member {
-    std::string key;
-    Value value;
   };
 
   Dictionary() noexcept = default;
-  Dictionary(std::initializer_list<Member> members) {
-    entries_.reserve(members.size());
-    for (const Member& member : members) set(member.key, member.value);
+  Dictionary(std::initializer_list<Entry> entries) {
+    nodes_.reserve(entries.size());
+    for (const Entry& entry : entries) set(entry.key, entry.value);
   }
 
   /// The Value under the key, or null. A key is present also when its Value is null.
   [[nodiscard, gnu::always_inline]] const Value* find(const Key& key) const noexcept {
-    const std::size_t slot = slots_[key.hash() % kSlots];
-    if (slot == kFree) return nullptr;
-    if (slot < kBeyond && isAt(slot - 1, key)) [[likely]]
-      return &entries_[slot - 1].value;
-    const std::size_t position = positionOf(key);
-    return position < entries_.size() ? &entries_[position].value : nullptr;
+    const std::size_t place = placeOf(key);
+    return place != 0 ? &nodes_[place - 1].value : nullptr;
   }
 
   [[nodiscard]] bool contains(const Key& key) const noexcept { return find(key) != nullptr; }
 
-  /// Puts the Value under the key, in the place of the former one if there was one.
-  void set(const Key& key, Value value) {
-    const std::size_t position = contains(key) ? positionOf(key) : entries_.size();
-    if (position < entries_.size()) {
-      entries_[position].value = std::move(value);
+  /// Puts the Value, or what one is made of, under the key, in the place of the former one if there was one.
+  template <class V>
+    requires std::constructible_from<Value, V>
+  void set(const Key& key, V&& value) {
+    if (const std::size_t place = placeOf(key); place != 0) {
+      nodes_[place - 1].value = Value(std::forward<V>(value));
       return;
     }
-    entries_.push_back({std::string(key.text()), std::move(value), key.hash()});
-    enter(entries_.size() - 1);
+    nodes_.emplace_back(key, std::forward<V>(value));
+    if (nodes_.size() > kMostInSlots && nodes_.size() > buckets_.size()) {
+      linkAll();
+    } else {
+      link(nodes_.size());
+    }
   }
+
+  /// Makes room for the given number of entries in all.
+  void reserve(std::size_t entries) { nodes_.reserve(entries); }
 
   /// Removes the key; an absent key changes nothing.
   void remove(const Key& key) {
-    const std::size_t position = positionOf(key);
-    if (position >= entries_.size()) return;
-    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(position));
-    slots_.fill(kFree);
-    index_.clear();
-    for (std::size_t i = 0; i < entries_.size(); ++i) enter(i);
+    const auto isSame = [&key](const Node& node) { return node.key == key.text(); };
+    if (std::erase_if(nodes_, isSame) > 0) linkAll();
   }
 
-  [[nodiscard]] std::size_t size() const noexcept { return entries_.size(); }
-  [[nodiscard]] bool empty() const noexcept { return entries_.empty(); }
-  [[nodiscard]] auto begin() const noexcept { return entries_.begin(); }
-  [[nodiscard]] auto end() const noexcept { return entries_.end(); }
+  [[nodiscard]] std::size_t size() const noexcept { return nodes_.size(); }
+  [[nodiscard]] bool empty() const noexcept { return nodes_.empty(); }
+
+  /// The entries, each a `const Entry&`.
+  [[nodiscard]] auto begin() const noexcept { return nodes_.begin(); }
+  [[nodiscard]] auto end() const noexcept { return nodes_.end(); }
 
   /// Equal keys with equal Values, in any order.
   [[nodiscard]] friend bool operator==(const Dictionary& a, const Dictionary& b) {
@@ -112,12 +109,19 @@ class Dictionary {
   }
 
  private:
+  // A place is a position plus one; 0 is none. The entries of one slot or bucket are a chain.
+  struct Node : Entry {
+    template <class V>
+    Node(const Key& k, V&& v) : Entry{std::string(k.text()), Value(std::forward<V>(v))}, hash(k.hash()) {}
+    std::uint32_t hash;
+    std::uint32_t next = 0;
+  };
   static constexpr std::size_t kSlots = 64;
-  static constexpr std::uint8_t kFree = 0;
-  static constexpr std::uint8_t kBeyond = 255;  // a slot whose entry stands too far behind for a byte
-  static constexpr std::size_t kScanned = 16;   // up to so many entries a scan is faster than the index
+  static constexpr std::size_t kMostInSlots = 128;
+  static constexpr std::uint8_t kInBuckets = 255;  // a slot of a large dictionary that has entries
 
-  // Equal texts of up to 16 bytes are told by two overlapping words: calling memcmp would be most of a look-up.
+  // Texts of 4 to 16 bytes, as options have them, are compared by two overlapping words: calling memcmp would be most of
+  // a look-up.
   template <class Word>
   [[nodiscard]] static bool sameWords(const char* a, const char* b, std::size_t size) noexcept {
     Word words[4];
@@ -134,49 +138,40 @@ class Dictionary {
                          : sameWords<std::uint32_t>(a.data(), b.data(), a.size());
   }
 
-  [[nodiscard]] bool isAt(std::size_t position, const Key& key) const noexcept {
-    const Entry& entry = entries_[position];
-    return entry.hash == key.hash() && sameText(entry.key, key.text());
-  }
-
-  [[nodiscard, gnu::noinline]] std::size_t positionOf(const Key& key) const noexcept {
-    if (entries_.size() > kScanned) return positionFromIndex(key);
-    std::size_t position = 0;
-    while (position < entries_.size() && !isAt(position, key)) ++position;
-    return position;
-  }
-
-  // The index is an open-addressing table of positions plus one; 0 is a free slot.
-  [[nodiscard]] std::size_t positionFromIndex(const Key& key) const noexcept {
-    const std::size_t mask = index_.size() - 1;
-    for (std::size_t slot = key.hash() & mask; index_[slot] != 0; slot = (slot + 1) & mask) {
-      if (isAt(index_[slot] - 1, key)) return index_[slot] - 1;
+  [[nodiscard, gnu::always_inline]] std::size_t placeOf(const Key& key) const noexcept {
+    std::size_t place = slots_[key.hash() % kSlots];
+    if (place == 0) return 0;
+    if (place == kInBuckets) [[unlikely]]
+      place = buckets_[key.hash() & (buckets_.size() - 1)];
+    for (; place != 0; place = nodes_[place - 1].next) {
+      const Node& node = nodes_[place - 1];
+      if (node.hash == key.hash() && sameText(node.key, key.text())) [[likely]]
+        break;
     }
-    return entries_.size();
+    return place;
   }
 
-  // Makes the entry findable. The first entry of a slot keeps it; the others are searched for.
-  void enter(std::size_t position) {
-    std::uint8_t& slot = slots_[entries_[position].hash % kSlots];
-    if (slot == kFree) slot = static_cast<std::uint8_t>(std::min<std::size_t>(position + 1, kBeyond));
-    if (entries_.size() <= kScanned) return;
-    if (index_.size() < 2 * entries_.size()) {
-      index_.assign(std::bit_ceil(4 * entries_.size()), 0);
-      for (std::size_t i = 0; i < position; ++i) enterInIndex(i);
+  // Makes the entry findable, as the first of its chain.
+  void link(std::size_t place) {
+    Node& node = nodes_[place - 1];
+    std::uint8_t& slot = slots_[node.hash % kSlots];
+    if (buckets_.empty()) {
+      node.next = std::exchange(slot, static_cast<std::uint8_t>(place));
+    } else {
+      slot = kInBuckets;
+      node.next = std::exchange(buckets_[node.hash & (buckets_.size() - 1)], static_cast<std::uint32_t>(place));
     }
-    enterInIndex(position);
   }
 
-  void enterInIndex(std::size_t position) {
-    const std::size_t mask = index_.size() - 1;
-    std::size_t slot = entries_[position].hash & mask;
-    while (index_[slot] != 0) slot = (slot + 1) & mask;
-    index_[slot] = static_cast<std::uint32_t>(position + 1);
+  void linkAll() {
+    slots_.fill(0);
+    buckets_.assign(nodes_.size() > kMostInSlots ? std::bit_ceil(2 * nodes_.size()) : 0, 0);
+    for (std::size_t place = 1; place <= nodes_.size(); ++place) link(place);
   }
 
-  std::array<std::uint8_t, kSlots> slots_{};  // position plus one of the first entry with this hash modulo 64
-  std::vector<Entry> entries_;
-  std::vector<std::uint32_t> index_;
+  std::array<std::uint8_t, kSlots> slots_{};
+  std::vector<Node> nodes_;
+  std::vector<std::uint32_t> buckets_;  // a power of two; only of a dictionary with more than kMostInSlots entries
 };
 
 inline Value::Value(const Dictionary& members) : data_(std::make_shared<const Dictionary>(members)) {}
@@ -184,8 +179,8 @@ inline Value::Value(Dictionary&& members) : data_(std::make_shared<const Diction
 
 inline bool operator==(const Value& a, const Value& b) {
   if (a.data_.index() != b.data_.index()) return false;
-  if (const Array* elements = a.array()) return *elements == *b.array();
-  if (const Dictionary* members = a.dictionary()) return *members == *b.dictionary();
+  if (const Array* elements = a.array()) return elements == b.array() || *elements == *b.array();
+  if (const Dictionary* members = a.dictionary()) return members == b.dictionary() || *members == *b.dictionary();
   if (const Object* object = a.object()) return object->equals(*b.object());
   return a.data_ == b.data_;
 }

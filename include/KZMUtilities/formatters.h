@@ -22,6 +22,10 @@ namespace kzm {
 
 struct NumberSymbols;
 
+namespace core {
+struct FormatterParts;
+}
+
 /// A decimal-style number formatter: the locale's separators, grouping, minimum grouping, digits and minus.
 ///
 /// Numbers are rounded half to even on the shortest decimal that reads back to the same double: 2.675 with two digits
@@ -42,17 +46,12 @@ class KZM_EXPORT NumberFormatter final : public Object {
   /// The text of any double.
   [[nodiscard]] std::string string(double value) const;
 
-  // The number style and the counts as they are applied; NumberSymbols is the library's own.
-  [[nodiscard]] const NumberSymbols& symbols() const noexcept { return *symbols_; }
-  [[nodiscard]] int leastDigits() const noexcept { return leastDigits_; }
-  [[nodiscard]] int mostDigits() const noexcept { return mostDigits_; }
-
  private:
+  friend struct core::FormatterParts;
+
   std::int64_t minimum_;
   std::int64_t maximum_;
-  int leastDigits_;
-  int mostDigits_;
-  const NumberSymbols* symbols_;
+  const NumberSymbols* symbols_;  // of the locale in force when the formatter was made
 };
 
 /// A locale, known by its identifier.

@@ -1,4 +1,5 @@
 #include "tests/bytes/rows.h"
+#include "tests/support/runs.h"
 
 namespace kzm::bytes {
 namespace {
@@ -194,7 +195,7 @@ TEST(Bandwidth, TheWorkedExample) {
                            {"attributes-units", "grey"}};
   expectData({"data", {}, 0.0, "%@ Mb/s", 11.444091796875, 1}, KZMUtilitiesBandwidthData(options, 1500000.0));
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 1500000.0), "11.4 Mb/s");
-  EXPECT_EQ(KZMUtilitiesFormatBandwidthWithAttributes(options, 1500000.0).runs(),
+  EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatBandwidthWithAttributes(options, 1500000.0)),
             (Runs{{"11.4", "bold"}, {" Mb/s", "grey"}}));
 }
 
@@ -233,7 +234,7 @@ TEST(Bandwidth, WithoutDecimalsTheAttributedNumberIsNeverGrouped) {
 
 TEST(Bandwidth, AttributesAreHandedThrough) {
   const auto runs = [](const Dictionary& options) {
-    return KZMUtilitiesFormatBandwidthWithAttributes(options, 2048.0).runs();
+    return tests::runsOf(KZMUtilitiesFormatBandwidthWithAttributes(options, 2048.0));
   };
   EXPECT_EQ(runs({}), (Runs{{"2KB/s", nullptr}})) << "no attributes, one run";
   EXPECT_EQ(runs({{"attributes-main", "a"}}), (Runs{{"2", "a"}, {"KB/s", nullptr}}));

@@ -1,4 +1,5 @@
 #include "tests/bytes/rows.h"
+#include "tests/support/runs.h"
 
 namespace kzm::bytes {
 namespace {
@@ -94,7 +95,7 @@ TEST(DiskActivity, HiddenBytesAreADashInTheAttributedTextAlone) {
   };
   // clang-format on
   for (const Case& c : cases) {
-    EXPECT_EQ(KZMUtilitiesFormatDiskActivityWithAttributes(c.options, c.rate).runs(), c.runs) << c.why;
+    EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatDiskActivityWithAttributes(c.options, c.rate)), c.runs) << c.why;
   }
   const Dictionary twoDigits = with(hides, "decimals-kb", Array{rule(1, 2)});
   EXPECT_EQ(KZMUtilitiesFormatDiskActivity(twoDigits, 500.0), "0.49KB/s") << "the plain text hides nothing";
@@ -103,7 +104,7 @@ TEST(DiskActivity, HiddenBytesAreADashInTheAttributedTextAlone) {
 
 TEST(DiskActivity, TheAttributedNumberIsThatOfThePlainText) {
   const Dictionary styled{{"attributes-main", "bold"}, {"attributes-units", "grey"}};
-  EXPECT_EQ(KZMUtilitiesFormatDiskActivityWithAttributes(styled, 1047552.0).runs(),
+  EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatDiskActivityWithAttributes(styled, 1047552.0)),
             (Runs{{"1,023", "bold"}, {"KB/s", "grey"}}));
 }
 

@@ -1,4 +1,5 @@
 #include "tests/bytes/rows.h"
+#include "tests/support/runs.h"
 
 namespace kzm::bytes {
 namespace {
@@ -108,7 +109,7 @@ TEST(DiskSpace, ZerosAtTheEndAreDropped) {
 TEST(DiskSpace, TheNumberIsMainAndTheUnitIsUnit) {
   const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
   EXPECT_EQ(KZMUtilitiesFormatSpace(options, 250000000000.0), "250 GB");
-  EXPECT_EQ(KZMUtilitiesFormatSpaceWithAttributes(options, 250000000000.0).runs(),
+  EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatSpaceWithAttributes(options, 250000000000.0)),
             (Runs{{"250", "bold"}, {" GB", "grey"}}));
 }
 

@@ -1,4 +1,5 @@
 #include "tests/bytes/rows.h"
+#include "tests/support/runs.h"
 
 namespace kzm::bytes {
 namespace {
@@ -94,7 +95,7 @@ TEST(Memory, TextsInBothRenderings) {
 TEST(Memory, TheNumberIsMainAndTheUnitIsUnit) {
   const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
   EXPECT_EQ(KZMUtilitiesFormatMemory(options, 1073741824.0), "1 GB");
-  EXPECT_EQ(KZMUtilitiesFormatMemoryWithAttributes(options, 1073741824.0).runs(),
+  EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatMemoryWithAttributes(options, 1073741824.0)),
             (Runs{{"1", "bold"}, {" GB", "grey"}}));
 }
 

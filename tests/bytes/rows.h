@@ -13,9 +13,11 @@
 #include <KZMUtilities/attributed_string.h>
 #include <KZMUtilities/bytes.h>
 
+#include "tests/support/runs.h"
+
 namespace kzm::bytes {
 
-using Runs = std::vector<AttributedString::Run>;
+using tests::Runs;
 
 inline constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 inline constexpr double kInfinity = std::numeric_limits<double>::infinity();

@@ -5,11 +5,13 @@
 
 #include <KZMUtilities/attributed_string.h>
 
+#include "tests/support/runs.h"
+
 namespace kzm {
 namespace {
 
-using Run = AttributedString::Run;
-using Runs = std::vector<Run>;
+using tests::Run;
+using tests::Runs;
 
 AttributedString sample() {
   AttributedString text("11.4", "bold");
@@ -43,7 +45,7 @@ TEST(AttributedString, ReplacesRangesAndKeepsTheRest) {
   for (const Case& c : cases) {
     AttributedString text = sample();
     text.replace(c.position, c.length, c.replacement);
-    EXPECT_EQ(text.runs(), c.runs) << c.why;
+    EXPECT_EQ(tests::runsOf(text), c.runs) << c.why;
   }
 }
 
@@ -56,7 +58,7 @@ TEST(AttributedString, NeverSplitsACharacter) {
 TEST(AttributedString, ReplacesTheFirstOccurrenceOnly) {
   AttributedString text("%@ of %@", "grey");
   EXPECT_TRUE(text.replaceFirst("%@", AttributedString("3", "bold")));
-  EXPECT_EQ(text.runs(), (Runs{{"3", "bold"}, {" of %@", "grey"}}));
+  EXPECT_EQ(tests::runsOf(text), (Runs{{"3", "bold"}, {" of %@", "grey"}}));
   EXPECT_FALSE(text.replaceFirst("OF", AttributedString("x"))) << "the search is case-sensitive";
   EXPECT_FALSE(text.replaceFirst("", AttributedString("x"))) << "an empty target is not found";
 }
@@ -70,7 +72,7 @@ TEST(AttributedString, AppendsItself) {
 TEST(AttributedString, AnEmptySetIsStillASet) {
   AttributedString text("a", Dictionary{});
   text.append(AttributedString("b"));
-  EXPECT_EQ(text.runs(), (Runs{{"a", Dictionary{}}, {"b", nullptr}}));
+  EXPECT_EQ(tests::runsOf(text), (Runs{{"a", Dictionary{}}, {"b", nullptr}}));
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <string>
 #include <unicode/numberformatter.h>
 
+#include "core/template.h"
 #include "port/environment_locale.h"
 
 namespace kzm::core {
@@ -24,7 +25,7 @@ const NumberSymbols& symbolsOf(const std::string& locale) {
 }
 
 std::string text(const std::string& locale, int least, int most, double value) {
-  return NumberText(symbolsOf(locale), least, most, value).string();
+  return numberAlone(decimalStyle(symbolsOf(locale), least, most), value);
 }
 
 TEST(NumberText, RoundsHalfToEvenOnTheShortestDecimal) {
@@ -162,7 +163,7 @@ TEST(NumberText, PlainWholeNumbersHaveNoLocale) {
       {1e23, "99999999999999991611392"},
       {-1234567.0, "-1234567"},
   };
-  for (const Case& c : cases) EXPECT_EQ(plainWhole(c.value), c.text) << c.value;
+  for (const Case& c : cases) EXPECT_EQ(numberAlone(plainStyle(), c.value), c.text) << c.value;
 }
 
 // The locale library's own formatter is the reference for what a number looks like; ours is faster, and equal.

@@ -4,10 +4,12 @@
 
 #include <KZMUtilities/percentage.h>
 
+#include "tests/support/runs.h"
+
 namespace kzm {
 namespace {
 
-using Runs = std::vector<AttributedString::Run>;
+using tests::Runs;
 
 TEST(Percentage, TextsInBothRenderings) {
   struct Case {
@@ -38,13 +40,13 @@ TEST(Percentage, TextsInBothRenderings) {
 
 TEST(Percentage, TheNumberIsMainAndTheSignIsUnit) {
   const Dictionary options{{"space", true}, {"decimals", 1}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
-  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes(options, 42.25).runs(),
+  EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatPercentageWithAttributes(options, 42.25)),
             (Runs{{"42.2", "bold"}, {" %", "grey"}}));
-  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes({}, 42.25).runs(), (Runs{{"42%", nullptr}}));
-  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes({{"attributes-main", Dictionary{}}}, 5.0).runs(),
+  EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatPercentageWithAttributes({}, 42.25)), (Runs{{"42%", nullptr}}));
+  EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatPercentageWithAttributes({{"attributes-main", Dictionary{}}}, 5.0)),
             (Runs{{"5", Dictionary{}}, {"%", nullptr}}))
       << "an empty set is a set";
-  EXPECT_EQ(KZMUtilitiesFormatPercentageWithAttributes({{"attributes-main", nullptr}}, 5.0).runs(),
+  EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatPercentageWithAttributes({{"attributes-main", nullptr}}, 5.0)),
             (Runs{{"5%", nullptr}}));
 }
 

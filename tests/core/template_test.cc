@@ -1,9 +1,34 @@
 #include "core/template.h"
 
 #include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <utility>
+
+#include "tests/support/runs.h"
 
 namespace kzm::core {
 namespace {
+
+// A style whose NaN is the given text, so that anything can take the number's place.
+class Style {
+ public:
+  explicit Style(std::string number) : symbols_(port::plainSymbols()) { symbols_.notANumber = std::move(number); }
+  [[nodiscard]] NumberStyle operator()() const { return decimalStyle(symbols_, 0, 0); }
+
+ private:
+  NumberSymbols symbols_;
+};
+
+constexpr double kNumber = std::numeric_limits<double>::quiet_NaN();
+
+std::string filled(std::string_view text, const std::string& number) {
+  return Template(text).filled(Style(number)(), kNumber);
+}
+
+AttributedString composed(std::string_view text, const std::string& number, const Value& main, const Value& units) {
+  return Template(text).composed(Style(number)(), kNumber, main, units);
+}
 
 TEST(Template, FillsInTheNumber) {
   struct Case {
@@ -34,25 +59,49 @@ TEST(Template, FillsInTheNumber) {
       {"other scripts", "%@ ГБ", "٥", "٥ ГБ", "٥ ГБ"},
   };
   for (const Case& c : cases) {
-    const Template text(c.text);
-    EXPECT_EQ(text.text(), c.text);
-    EXPECT_EQ(text.filled(c.number), c.filled) << c.why;
-    EXPECT_EQ(text.composed(c.number, "main", "units").text(), c.composed) << c.why;
+    EXPECT_EQ(Template(c.text).text(), c.text);
+    EXPECT_EQ(filled(c.text, c.number), c.filled) << c.why;
+    EXPECT_EQ(composed(c.text, c.number, "main", "units").text(), c.composed) << c.why;
   }
 }
 
 TEST(Template, ComposesNumberAndUnitInTheirAttributes) {
-  using Runs = std::vector<AttributedString::Run>;
-  EXPECT_EQ(Template("%@ GB").composed("5", "main", "units").runs(), (Runs{{"5", "main"}, {" GB", "units"}}));
-  EXPECT_EQ(Template("GB %@").composed("5", "main", "units").runs(), (Runs{{"GB ", "units"}, {"5", "main"}}));
-  EXPECT_EQ(Template("%@ GB").composed("5", nullptr, nullptr).runs(), (Runs{{"5 GB", nullptr}}));
-  EXPECT_EQ(Template("%@ GB").composed("5", "same", "same").runs(), (Runs{{"5 GB", "same"}}));
-  EXPECT_EQ(Template("Off").composed("5", "main", "units").runs(), (Runs{{"Off", "units"}}));
+  using tests::Runs;
+  EXPECT_EQ(tests::runsOf(composed("%@ GB", "5", "main", "units")), (Runs{{"5", "main"}, {" GB", "units"}}));
+  EXPECT_EQ(tests::runsOf(composed("GB %@", "5", "main", "units")), (Runs{{"GB ", "units"}, {"5", "main"}}));
+  EXPECT_EQ(tests::runsOf(composed("%@ GB", "5", nullptr, nullptr)), (Runs{{"5 GB", nullptr}}));
+  EXPECT_EQ(tests::runsOf(composed("%@ GB", "5", "same", "same")), (Runs{{"5 GB", "same"}}));
+  EXPECT_EQ(tests::runsOf(composed("Off", "5", "main", "units")), (Runs{{"Off", "units"}}));
+}
+
+TEST(Template, ShortNumbersAreNoDifferent) {
+  struct Case {
+    const char* text;
+    double value;
+    const char* filled;
+  };
+  const Case cases[] = {
+      {"%@ GB", 5.0, "5 GB"},
+      {"%@", -5.0, "-5"},
+      {"GB %@", 5.0, "GB 5"},
+      {"%1$@%%", 5.0, "5%"},
+      {"%@%", 5.0, "5%"},
+      {"<%@>", 12345678.0, "<12345678>"},
+      {"1234567%@", 12345678.0, "123456712345678"},    // as much as fits in two words
+      {"12345678%@", 12345678.0, "1234567812345678"},  // and one byte more
+      {"%@1234567", 12345678.0, "123456781234567"},
+      {"%@12345678", 12345678.0, "1234567812345678"},
+      {"none", 5.0, "none"},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(Template(c.text).filled(decimalStyle(port::plainSymbols(), 0, 0), c.value), c.filled) << c.text;
+  }
 }
 
 TEST(Template, LongTextsAreNoDifferent) {
   const std::string unit(100000, 'u');
-  EXPECT_EQ(Template("%@" + unit).filled("5"), "5" + unit);
+  EXPECT_EQ(filled("%@" + unit, "5"), "5" + unit);
+  EXPECT_EQ(composed(unit + "%@", "5", "main", nullptr).text(), unit + "5");
 }
 
 }  // namespace

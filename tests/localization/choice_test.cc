@@ -13,26 +13,20 @@ namespace kzm {
 namespace {
 
 // The French table lacks a key of the English one, and has one that is not there.
-constexpr LocalizedText kEnglish[] = {
-    {"Units.Test.%@ cats", "%@ cats"},
-    {"Units.Test.%@ dogs", "%@ dogs"},
-};
-constexpr LocalizedText kFrench[] = {
-    {"Units.Test.%@ birds", "%@ oiseaux"},
-    {"Units.Test.%@ cats", "%@ chats"},
-};
-constexpr LocalizedText kGerman[] = {
-    {"Units.Test.%@ cats", "%@ Katzen"},
-    {"Units.Test.%@ dogs", "%@ Hunde"},
-};
-constexpr LocalizedText kOther[] = {
-    {"Units.Test.%@ cats", "%@ felines"},
-};
+constexpr char kCats[] = "Units.Test.%@ cats\0";
+constexpr char kCatsAndDogs[] = "Units.Test.%@ cats\0Units.Test.%@ dogs\0";
+constexpr char kBirdsAndCats[] = "Units.Test.%@ birds\0Units.Test.%@ cats\0";
+
+template <std::size_t N>
+constexpr std::string_view list(const char (&entries)[N]) {
+  return {entries, N - 1};
+}
+
 constexpr StringTable kTables[] = {
-    {"de", "Animals", kGerman},
-    {"en", "Animals", kEnglish},
-    {"en", "Other", kOther},
-    {"fr", "Animals", kFrench},
+    {"de", "Animals", list(kCatsAndDogs), list("%@ Katzen\0%@ Hunde\0")},
+    {"en", "Animals", list(kCatsAndDogs), list("%@ cats\0%@ dogs\0")},
+    {"en", "Other", list(kCats), list("%@ felines\0")},
+    {"fr", "Animals", list(kBirdsAndCats), list("%@ oiseaux\0%@ chats\0")},
 };
 constexpr ResourceBundle kBundle{"org.kzm.tests", "en", kTables};
 constexpr ResourceBundle kEmptyBundle{"org.kzm.empty", "en", {}};

@@ -9,12 +9,13 @@
 #include <KZMUtilities/text.h>
 
 #include "port/regex.h"
+#include "tests/support/runs.h"
 
 namespace kzm {
 namespace {
 
 using namespace std::string_view_literals;
-using Runs = std::vector<AttributedString::Run>;
+using tests::Runs;
 
 AttributedString sample() {
   AttributedString text("%@ of ", "grey");
@@ -26,7 +27,7 @@ TEST(ReplaceString, TheFirstOccurrenceGetsTheTextAndTheAttributes) {
   AttributedString text = sample();
   replaceStringWithStringAttributes(text, "%@", "3", "red");
   const Runs expected = {{"3", "red"}, {" of ", "grey"}, {"%@ GB", "bold"}};
-  EXPECT_EQ(text.runs(), expected);
+  EXPECT_EQ(tests::runsOf(text), expected);
   replaceStringWithStringAttributes(text, "%@", "%@", nullptr);
   EXPECT_EQ(text.text(), "3 of %@ GB") << "what was put in is not searched again";
 }
@@ -37,7 +38,7 @@ TEST(ReplaceString, AnAttributedReplacementKeepsItsRuns) {
   number.append(AttributedString(".5", "blue"));
   replaceStringWithAttributedString(text, "of %@", number);
   const Runs expected = {{"%@ ", "grey"}, {"3", "red"}, {".5", "blue"}, {" GB", "bold"}};
-  EXPECT_EQ(text.runs(), expected) << "across two runs";
+  EXPECT_EQ(tests::runsOf(text), expected) << "across two runs";
 }
 
 TEST(ReplaceString, WhatIsNotFoundChangesNothing) {
@@ -62,7 +63,7 @@ TEST(ReplaceString, TheSearchIsLiteral) {
 TEST(ReplaceString, AnEmptyReplacementDeletesAndNeighboursJoin) {
   AttributedString text("1 of 2", "grey");
   replaceStringWithStringAttributes(text, " of ", "", "red");
-  EXPECT_EQ(text.runs(), (Runs{{"12", "grey"}}));
+  EXPECT_EQ(tests::runsOf(text), (Runs{{"12", "grey"}}));
   replaceStringWithAttributedString(text, "12", AttributedString());
   EXPECT_TRUE(text.runs().empty());
 }

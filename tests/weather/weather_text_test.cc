@@ -5,8 +5,11 @@
 #include <thread>
 #include <vector>
 
+#include <KZMLocalization/KZMLocalization.h>
+#include <KZMUtilities/formatters.h>
 #include <KZMUtilities/weather.h>
 
+#include "core/rows.h"
 #include "tests/support/allocations.h"
 #include "tests/weather/weather_case.h"
 
@@ -15,49 +18,67 @@ namespace {
 
 TEST(WeatherTexts, HaveTheirEnglishText) {
   struct Case {
-    Text text;
-    const char* english;
+    Unit unit;
+    const char* spaced;
+    const char* tight;
   };
   const Case cases[] = {
-      {Text::number, "%@"},
-      {Text::degrees, "%@°"},
-      {Text::kelvin, "%@K"},
-      {Text::knotsSpaced, "%@ knots"},
-      {Text::knots, "%@knots"},
-      {Text::milesPerHourSpaced, "%@ mph"},
-      {Text::milesPerHour, "%@mph"},
-      {Text::kilometersPerHourSpaced, "%@ km/h"},
-      {Text::kilometersPerHour, "%@km/h"},
-      {Text::metersPerSecondSpaced, "%@ m/s"},
-      {Text::metersPerSecond, "%@m/s"},
-      {Text::north, "North"},
-      {Text::northEast, "North East"},
-      {Text::east, "East"},
-      {Text::southEast, "South East"},
-      {Text::south, "South"},
-      {Text::southWest, "South West"},
-      {Text::west, "West"},
-      {Text::northWest, "North West"},
-      {Text::hectopascalsSpaced, "%@ hPa"},
-      {Text::hectopascals, "%@hPa"},
-      {Text::millibarsSpaced, "%@ mb"},
-      {Text::millibars, "%@mb"},
-      {Text::inches, "%@\""},
-      {Text::miles, "%@ miles"},
-      {Text::kilometers, "%@ km"},
-      {Text::millimeters, "%@mm"},
-      {Text::centimeters, "%@cm"},
-      {Text::days, "%@ Days"},
-      {Text::percent, "%@%%"},
+      {Unit::degrees, "%@°", "%@°"},
+      {Unit::kelvin, "%@K", "%@K"},
+      {Unit::knots, "%@ knots", "%@knots"},
+      {Unit::milesPerHour, "%@ mph", "%@mph"},
+      {Unit::kilometersPerHour, "%@ km/h", "%@km/h"},
+      {Unit::metersPerSecond, "%@ m/s", "%@m/s"},
+      {Unit::north, "North", "North"},
+      {Unit::northEast, "North East", "North East"},
+      {Unit::east, "East", "East"},
+      {Unit::southEast, "South East", "South East"},
+      {Unit::south, "South", "South"},
+      {Unit::southWest, "South West", "South West"},
+      {Unit::west, "West", "West"},
+      {Unit::northWest, "North West", "North West"},
+      {Unit::hectopascals, "%@ hPa", "%@hPa"},
+      {Unit::millibars, "%@ mb", "%@mb"},
+      {Unit::inches, "%@\"", "%@\""},
+      {Unit::miles, "%@ miles", "%@ miles"},
+      {Unit::kilometers, "%@ km", "%@ km"},
+      {Unit::millimeters, "%@mm", "%@mm"},
+      {Unit::centimeters, "%@cm", "%@cm"},
+      {Unit::days, "%@ Days", "%@ Days"},
+      {Unit::percent, "%@%%", "%@%%"},
   };
-  static_assert(std::size(cases) == static_cast<std::size_t>(Text::percent) + 1);
-  for (const Case& c : cases) EXPECT_EQ(textOf(c.text).text(), c.english);
+  static_assert(std::size(cases) == core::countEnumerators<Unit>());
+  for (const Case& c : cases) {
+    EXPECT_EQ(localizedText(c.unit, Spacing::spaced), c.spaced);
+    EXPECT_EQ(localizedText(c.unit, Spacing::tight), c.tight);
+  }
 }
 
 TEST(WeatherTexts, DigitCountsAreClamped) {
-  EXPECT_EQ(decimalNumber(std::numeric_limits<std::int64_t>::min(), 1.5).string(), "2");
-  EXPECT_EQ(decimalNumber(std::numeric_limits<std::int64_t>::max(), 1.5).string(), "1.5");
-  EXPECT_EQ(decimalNumber(341, 5e-324).string(), decimalNumber(340, 5e-324).string());
+  EXPECT_EQ(core::text(atMost(std::numeric_limits<std::int64_t>::min(), 1.5)), "2");
+  EXPECT_EQ(core::text(atMost(std::numeric_limits<std::int64_t>::max(), 1.5)), "1.5");
+  EXPECT_EQ(core::text(atMost(341, 5e-324)), core::text(atMost(340, 5e-324)));
+}
+
+TEST(WeatherTexts, AChangeOfLanguageOrLocaleShowsInTheVeryNextCall) {
+  tests::useOnlySetting("Weather.Global.Units.Pressure", 1);
+  const Dictionary options{{"units", true}, {"space", true}, {"decimals", true}};
+  struct Case {
+    const char* language;
+    const char* locale;
+    const char* pressure;
+  };
+  const Case cases[] = {
+      {"ru", "ru_RU", "1\u00A0013,2 гПа"},
+      {"en", "en_US", "1,013.2 hPa"},
+      {"de", "de_CH", "1’013.2 hPa"},
+      {"en", "en_US", "1,013.2 hPa"},
+  };
+  for (const Case& c : cases) {
+    KZMLocalizationSetLanguages(std::vector<std::string>{c.language});
+    setCurrentLocale(c.locale);
+    EXPECT_EQ(KZMUtilitiesFormatWeatherPressure(options, 1013.25), c.pressure) << c.locale;
+  }
 }
 
 // One call of each family.

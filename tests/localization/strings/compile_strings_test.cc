@@ -42,7 +42,7 @@ TEST_F(CompileStrings, WithoutTablesItSaysHowItIsUsed) {
   EXPECT_EQ(outcome.output, "usage: kzm_compile_strings OUTPUT TABLE...\n");
 }
 
-TEST_F(CompileStrings, TablesAreWrittenSortedByKeyAndLayersWithTheRowsOfTheirParents) {
+TEST_F(CompileStrings, TablesAreWrittenAsListsAndLayersWithTheRowsOfTheirParents) {
   write("en.lproj/T.strings",
         "/* source: own; reviewer: none */\n\"Units.A.Off\" = \"Off\";\n\"Units.A.%@\\\"\" = \"%@\\\"\";\n"
         "\"Units.A.%@%%\" = \"%@%%\";\n\"Units.A.%@ \\\\\" = \"%@ \\\\\";\n");
@@ -59,31 +59,34 @@ TEST_F(CompileStrings, TablesAreWrittenSortedByKeyAndLayersWithTheRowsOfTheirPar
 namespace kzm {
 namespace {
 
-constexpr LocalizedText kTexts0[] = {
-    {"Units.A.%@ \\", "%@ \\"},
-    {"Units.A.%@\"", "%@\""},
-    {"Units.A.%@%%", "%@%%"},
-    {"Units.A.Off", "Off"},
-};
+constexpr char kList0[] =
+    "Units.A.Off\0"
+    "Units.A.%@\"\0"
+    "Units.A.%@%%\0"
+    "Units.A.%@ \\\0";
 
-constexpr LocalizedText kTexts1[] = {
-    {"Units.A.%@ \\", "\\ %@"},
-    {"Units.A.%@\"", "″%@"},
-    {"Units.A.%@%%", "%@ %%"},
-    {"Units.A.Off", "Arrêt"},
-};
+constexpr char kList1[] =
+    "Off\0"
+    "%@\"\0"
+    "%@%%\0"
+    "%@ \\\0";
 
-constexpr LocalizedText kTexts2[] = {
-    {"Units.A.%@ \\", "\\ %@"},
-    {"Units.A.%@\"", "″%@"},
-    {"Units.A.%@%%", "%@%%"},
-    {"Units.A.Off", "Arrêt"},
-};
+constexpr char kList2[] =
+    "Arrêt\0"
+    "″%@\0"
+    "%@ %%\0"
+    "\\ %@\0";
+
+constexpr char kList3[] =
+    "Arrêt\0"
+    "″%@\0"
+    "%@%%\0"
+    "\\ %@\0";
 
 constexpr StringTable kTables[] = {
-    {"en", "T", kTexts0},
-    {"fr", "T", kTexts1},
-    {"fr-CH", "T", kTexts2},
+    {"en", "T", {kList0, sizeof kList0 - 1}, {kList1, sizeof kList1 - 1}},
+    {"fr", "T", {kList0, sizeof kList0 - 1}, {kList2, sizeof kList2 - 1}},
+    {"fr-CH", "T", {kList0, sizeof kList0 - 1}, {kList3, sizeof kList3 - 1}},
 };
 
 constexpr ResourceBundle kBundle{kBundleIdentifier, "en", kTables};

@@ -1,4 +1,4 @@
-#include "core/reading.h"
+#include "core/option_values.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

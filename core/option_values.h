@@ -1,11 +1,14 @@
 // How options are read: as an integer, a boolean or a double, and never in vain.
-#ifndef KZM_CORE_READING_H
-#define KZM_CORE_READING_H
+#ifndef KZM_CORE_OPTION_VALUES_H
+#define KZM_CORE_OPTION_VALUES_H
 
 #include <cstdint>
 #include <string_view>
 
 #include <KZMUtilities/dictionary.h>
+
+#include "core/options.h"
+#include "core/unit_table.h"
 
 namespace kzm::core {
 
@@ -47,10 +50,18 @@ namespace kzm::core {
   return false;
 }
 
+/// The null Value.
+[[nodiscard]] const Value& noValue() noexcept;
+
 /// A set of text attributes as it was given; null when the key is absent.
-[[nodiscard]] inline Value attributesOf(const Dictionary& options, const Key& key) {
+[[nodiscard]] inline const Value& readAttributes(const Dictionary& options, const Key& key) noexcept {
   const Value* attributes = options.find(key);
-  return attributes != nullptr ? *attributes : Value();
+  return attributes != nullptr ? *attributes : noValue();
+}
+
+/// Whether "space" asks for a space between number and unit.
+[[nodiscard]] inline Spacing readSpacing(const Dictionary& options) noexcept {
+  return readBoolean(options.find(kSpace)) ? Spacing::spaced : Spacing::tight;
 }
 
 /// Walks decimals rules, dictionaries of "value" and "decimals": the first whose "value" is greater than the number

@@ -1,10 +1,10 @@
-#include "core/reading.h"
+#include "core/option_values.h"
 
 #include <charconv>
 #include <limits>
 #include <system_error>
 
-#include "core/options.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::core {
 namespace {
@@ -89,6 +89,11 @@ double doubleFromText(std::string_view text) noexcept {
 bool booleanFromText(std::string_view text) noexcept {
   text = withoutLeadingBlanks(text);
   return !text.empty() && std::string_view("YyTt123456789").find(text.front()) != std::string_view::npos;
+}
+
+const Value& noValue() noexcept {
+  static const port::NeverDestroyed<Value> null;
+  return *null;
 }
 
 std::int64_t readDecimals(const Value* rules, double number, std::int64_t fallback) noexcept {

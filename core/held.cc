@@ -1,0 +1,50 @@
+#include "core/held.h"
+
+#include <utility>
+
+#include <KZMUtilities/formatters.h>
+
+namespace kzm::core {
+namespace {
+
+// The texts in the shared cache. On the first call all rows are looked up and stored.
+std::shared_ptr<const Dictionary> cachedTexts(const UnitTable& table) {
+  return cachedDictionary(table.cacheKey, [&] {
+    Dictionary texts;
+    for (std::size_t row = 0; row < table.rows.size(); ++row) {
+      texts.set(table.rows[row].text, localizedText(table, row));
+    }
+    return texts;
+  });
+}
+
+}  // namespace
+
+NumberStyle HeldStyles::fetch(DigitRule rule, std::int64_t digits) {
+  const std::uint64_t epoch = cacheEpoch();
+  const NumberStyle style = styleOf(rule == DigitRule::exactly
+                                        ? *KZMUtilitiesDecimalFormatterWithFractions(digits, digits)
+                                        : *KZMUtilitiesDecimalFormatterWithMaximum(digits));
+  if (digits < 0 || digits >= kDigits) return style;
+  if (epoch_ != epoch) styles_ = {};
+  epoch_ = epoch;
+  return styles_[static_cast<std::size_t>(rule)][static_cast<std::size_t>(digits)] = style;
+}
+
+// Looking texts up may lead through a host's own library and back here, and the cache may change meanwhile: what was
+// made is kept under the count that it was made for.
+void HeldTexts::fetch(const UnitTable& table) {
+  const std::uint64_t epoch = cacheEpoch();
+  std::shared_ptr<const Dictionary> texts = cachedTexts(table);
+  std::vector<Template> templates(table.rows.size());
+  for (std::size_t row = 0; row < templates.size(); ++row) {
+    const Value* value = texts->find(table.rows[row].text);
+    const std::string* text = value != nullptr ? value->string() : nullptr;
+    if (text != nullptr) templates[row] = Template(*text);
+  }
+  templates_ = std::move(templates);
+  texts_ = std::move(texts);
+  epoch_ = epoch;
+}
+
+}  // namespace kzm::core
