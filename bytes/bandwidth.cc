@@ -45,11 +45,11 @@ constexpr UnitText kTexts[] = {
     {{Form::bytesPerSecond,  Level::kilo}, Spacing::tight,  "%@KB/s",   "kilobytes/sec"},
 };
 // clang-format on
-constexpr auto kRows = core::unitRows(kTexts);
+constexpr auto kRows = core::unitRows("Units.Network.", kTexts);
 constexpr UnitIndex kIndex = unitIndex(kTexts);
 static_assert(core::wellFormed(kRows));
 
-constexpr core::UnitTable kTable{"Localizations-Units-Network", "Units.Network.", kRows};
+constexpr core::UnitTable kTable{"Localizations-Units-Network", kRows};
 
 // The forms of each unit size: "unitsize" 1, 2 and 3.
 constexpr Form kFormsOfSize[][2] = {
@@ -118,7 +118,7 @@ kzm::Dictionary KZMUtilitiesBandwidthData(const kzm::Dictionary& options, double
   return kzm::core::data<kTable>(bandwidth(options, bytesPerSecond));
 }
 
-std::string KZMUtilitiesFormatBandwidth(const kzm::Dictionary& options, double bytesPerSecond) {
+[[gnu::flatten]] std::string KZMUtilitiesFormatBandwidth(const kzm::Dictionary& options, double bytesPerSecond) {
   using namespace kzm::bytes;
   return kzm::core::text<kTable>(bandwidth(options, bytesPerSecond));
 }

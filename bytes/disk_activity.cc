@@ -6,8 +6,8 @@
 namespace kzm::bytes {
 namespace {
 
-// Deliberate: the translator hints are wrong on purpose: the list petabyte to kilobyte is laid on the first five rows in
-// order (Lookups.ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome).
+// Deliberate: the translator hints are wrong on purpose: the list petabyte to kilobyte is laid on the first five rows
+// in order (Lookups.ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome).
 // clang-format off
 //   form                  level           spacing                template    translator's hint
 constexpr UnitText kTexts[] = {
@@ -22,13 +22,13 @@ constexpr UnitText kTexts[] = {
     {{Form::bytesPerSecond, Level::kilo},  Spacing::tight,  "%@KB/s",   nullptr},
 };
 // clang-format on
-constexpr auto kRows = core::unitRows(kTexts);
+constexpr auto kRows = core::unitRows("Units.Activity.", kTexts);
 constexpr UnitIndex kIndex = unitIndex(kTexts);
 static_assert(core::wellFormed(kRows));
 
 // Deliberate: the keys of disk activity begin with "Units.Activity.", its cache key ends in "DiskActivity"
 // (Lookups.ActivityKeysDifferFromItsCacheKey).
-constexpr core::UnitTable kTable{"Localizations-Units-DiskActivity", "Units.Activity.", kRows};
+constexpr core::UnitTable kTable{"Localizations-Units-DiskActivity", kRows};
 
 // "hide-bytes" hides rates below one kilobyte per second. NaN is not below.
 constexpr double kHiddenBelow = 1024.0;

@@ -21,7 +21,9 @@ constexpr Rung kRungs[] = {
 // clang-format on
 constexpr Ladder kLadder{kRungs};
 
-constexpr core::UnitTable kTable{"Localizations-Units-Space", "Units.Space.", kSizeRows};
+constexpr auto kRows = core::unitRows("Units.Space.", kSizeTexts);
+static_assert(core::wellFormed(kRows));
+constexpr core::UnitTable kTable{"Localizations-Units-Space", kRows};
 constexpr Scale kToKilobytes = over(1000.0);
 
 core::Reading diskSpace(const Dictionary& options, double bytes) {

@@ -50,8 +50,8 @@ consteval UnitIndex unitIndex(const UnitText (&texts)[N]) {
   };
   for (std::size_t form = 0; form < kForms; ++form) {
     for (std::size_t level = 0; level < kLevels; ++level) {
-      const bool isWanted = has(form, static_cast<std::size_t>(Level::mega)) &&
-                            has(static_cast<std::size_t>(texts[0].unit.form), level);
+      const bool isWanted =
+          has(form, static_cast<std::size_t>(Level::mega)) && has(static_cast<std::size_t>(texts[0].unit.form), level);
       if (has(form, level) != isWanted) throw "a form lacks a level";
     }
   }

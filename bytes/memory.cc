@@ -20,7 +20,9 @@ constexpr Rung kRungs[] = {
 // clang-format on
 constexpr Ladder kLadder{kRungs};
 
-constexpr core::UnitTable kTable{"Localizations-Units-Memory", "Units.Memory.", kSizeRows};
+constexpr auto kRows = core::unitRows("Units.Memory.", kSizeTexts);
+static_assert(core::wellFormed(kRows));
+constexpr core::UnitTable kTable{"Localizations-Units-Memory", kRows};
 constexpr Scale kToKilobytes = times(0x1p-10);
 
 core::Reading memory(const Dictionary& options, double bytes) {

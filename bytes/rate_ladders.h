@@ -5,11 +5,50 @@
 #include <KZMUtilities/dictionary.h>
 
 #include "bytes/family.h"
+#include "core/option_values.h"
 
 namespace kzm::bytes {
 
+inline constexpr Scale kToKilo = times(0x1p-10);
+inline constexpr Scale kToMega = times(0x1p-20);
+inline constexpr Scale kToGiga = times(0x1p-30);
+
+// NaN lands on the lowest level: it is not at least anything.
+// clang-format off
+//   level        taken when       per second    shown as
+inline constexpr Rung kBinaryRungs[] = {
+    {Level::kilo, Test::notAtLeast, 1048576.0,    kToKilo},
+    {Level::mega, Test::notAtLeast, 1073741824.0, kToMega},
+    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+};
+inline constexpr Rung kBinaryFromMegaRungs[] = {
+    {Level::mega, Test::notAtLeast, 1073741824.0, kToMega},
+    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+};
+
+// Deliberate: an early upgrade moves the thresholds alone, the factors stay binary. 10^9 bytes show as 0.93 giga
+// (Bandwidth.EarlyUpgradeMovesTheThresholdsAlone).
+inline constexpr Rung kEarlyRungs[] = {
+    {Level::kilo, Test::notAtLeast, 1000000.0,    kToKilo},
+    {Level::mega, Test::notAtLeast, 1000000000.0, kToMega},
+    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+};
+inline constexpr Rung kEarlyFromMegaRungs[] = {
+    {Level::mega, Test::notAtLeast, 1000000000.0, kToMega},
+    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+};
+// clang-format on
+
+// By whether the upgrade is early.
+inline constexpr Ladder kFromKilo[] = {Ladder(kBinaryRungs), Ladder(kEarlyRungs)};
+inline constexpr Ladder kFromMega[] = {Ladder(kBinaryFromMegaRungs), Ladder(kEarlyFromMegaRungs)};
+
 /// The ladder that the boolean option "early-upgrade" asks for; one that ends in mega has no kilo level.
-[[nodiscard]] const Ladder& rateLadder(const Dictionary& options, Level lowest) noexcept;
+[[nodiscard]] inline const Ladder& rateLadder(const Dictionary& options, Level lowest) noexcept {
+  static constexpr Key kEarlyUpgrade = "early-upgrade";
+  const bool early = core::readBoolean(options.find(kEarlyUpgrade));
+  return (lowest == Level::mega ? kFromMega : kFromKilo)[early ? 1 : 0];
+}
 
 }  // namespace kzm::bytes
 

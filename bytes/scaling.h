@@ -21,8 +21,9 @@ struct Style {
 
 /// Takes the rung for the value, which is in the ladder's unit, then the decimals rules under the key of the level
 /// reached, and the text by level and style.
-[[nodiscard]] inline core::Reading scaled(const Ladder& ladder, const UnitIndex& index, Style style, core::Digits digits,
-                                          const Dictionary& options, double value) {
+[[nodiscard, gnu::always_inline]] inline core::Reading scaled(const Ladder& ladder, const UnitIndex& index, Style style,
+                                                              core::Digits digits, const Dictionary& options,
+                                                              double value) {
   static constexpr Key kDecimalsKeys[kLevels] = {"decimals-kb", "decimals-mb", "decimals-gb", "decimals-tb",
                                                  "decimals-pb"};
   const Rung& rung = ladder.rungFor(value);

@@ -26,9 +26,7 @@ inline constexpr UnitText kSizeTexts[] = {
     {{Form::bytes, Level::kilo},  Spacing::tight,  "%@KB",   nullptr},
 };
 // clang-format on
-inline constexpr auto kSizeRows = core::unitRows(kSizeTexts);
 inline constexpr UnitIndex kSizeIndex = unitIndex(kSizeTexts);
-static_assert(core::wellFormed(kSizeRows));
 
 }  // namespace kzm::bytes
 

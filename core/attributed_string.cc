@@ -27,8 +27,8 @@ AttributedString::AttributedString(std::string text, Value attributes) : text_(s
   if (!text_.empty()) parts_.emplace_back(text_.size(), std::move(attributes));
 }
 
-AttributedString::AttributedString(std::string text, const Value& attributes, std::size_t position, std::size_t length,
-                                   const Value& partAttributes)
+[[gnu::flatten]] AttributedString::AttributedString(std::string text, const Value& attributes, std::size_t position,
+                                                    std::size_t length, const Value& partAttributes)
     : text_(std::move(text)) {
   const auto [first, last] = wholeCharacters(text_, position, length);
   if (text_.empty()) return;

@@ -11,9 +11,7 @@ namespace {
 std::shared_ptr<const Dictionary> cachedTexts(const UnitTable& table) {
   return cachedDictionary(table.cacheKey, [&] {
     Dictionary texts;
-    for (std::size_t row = 0; row < table.rows.size(); ++row) {
-      texts.set(table.rows[row].text, localizedText(table, row));
-    }
+    for (const UnitRow& row : table.rows) texts.set(row.text(), localizedText(row));
     return texts;
   });
 }
@@ -22,9 +20,9 @@ std::shared_ptr<const Dictionary> cachedTexts(const UnitTable& table) {
 
 NumberStyle HeldStyles::fetch(DigitRule rule, std::int64_t digits) {
   const std::uint64_t epoch = cacheEpoch();
-  const NumberStyle style = styleOf(rule == DigitRule::exactly
-                                        ? *KZMUtilitiesDecimalFormatterWithFractions(digits, digits)
-                                        : *KZMUtilitiesDecimalFormatterWithMaximum(digits));
+  const NumberStyle style =
+      styleOf(rule == DigitRule::exactly ? *KZMUtilitiesDecimalFormatterWithFractions(digits, digits)
+                                         : *KZMUtilitiesDecimalFormatterWithMaximum(digits));
   if (digits < 0 || digits >= kDigits) return style;
   if (epoch_ != epoch) styles_ = {};
   epoch_ = epoch;
@@ -38,7 +36,7 @@ void HeldTexts::fetch(const UnitTable& table) {
   std::shared_ptr<const Dictionary> texts = cachedTexts(table);
   std::vector<Template> templates(table.rows.size());
   for (std::size_t row = 0; row < templates.size(); ++row) {
-    const Value* value = texts->find(table.rows[row].text);
+    const Value* value = texts->find(table.rows[row].text());
     const std::string* text = value != nullptr ? value->string() : nullptr;
     if (text != nullptr) templates[row] = Template(*text);
   }

@@ -28,9 +28,7 @@ NumberFormatter::NumberFormatter(std::int64_t minimumFractionDigits, std::int64_
 
 NumberFormatter::~NumberFormatter() = default;
 
-std::string NumberFormatter::string(double value) const {
-  return core::numberAlone(core::styleOf(*this), value);
-}
+std::string NumberFormatter::string(double value) const { return core::numberAlone(core::styleOf(*this), value); }
 
 }  // namespace kzm
 

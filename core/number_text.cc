@@ -11,7 +11,7 @@ namespace kzm::core {
 
 NumberStyle decimalStyle(const NumberSymbols& symbols, std::int64_t least, std::int64_t most) noexcept {
   const auto applied = [](std::int64_t digits) {
-    return static_cast<int>(std::clamp<std::int64_t>(digits, 0, kMostFractionDigits));
+    return static_cast<std::int16_t>(std::clamp<std::int64_t>(digits, 0, kMostFractionDigits));
   };
   return {&symbols, applied(least), std::max(applied(least), applied(most))};
 }
@@ -22,31 +22,30 @@ NumberStyle plainStyle() noexcept {
 }
 
 // Writes digits of any script, with separators, from the last one to the first.
-char* ShortNumber::putLocalDigits(char* end) const noexcept {
-  std::uint32_t rest = digits_;
+void ShortNumber::putLocalDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits,
+                                 int fractionDigits, int separators, char* end) noexcept {
   const auto putDigit = [&] {
-    end -= symbols_.digitBytes;
-    std::memcpy(end, symbols_.digits[rest % 10].data(), symbols_.digitBytes);
-    rest /= 10;
+    end -= symbols.digitBytes;
+    std::memcpy(end, symbols.digits[digits % 10].data(), symbols.digitBytes);
+    digits /= 10;
   };
   const auto putSeparator = [&](const std::string& separator) {
     end -= separator.size();
     putText(end, separator);
   };
-  for (int i = 0; i < fractionDigits_; ++i) putDigit();
-  if (fractionDigits_ > 0) putSeparator(symbols_.decimalSeparator);
-  int left = integerDigits_;
-  int group = symbols_.primaryGroup;
-  for (int separators = separators_; separators > 0; --separators, group = symbols_.secondaryGroup) {
+  for (int i = 0; i < fractionDigits; ++i) putDigit();
+  if (fractionDigits > 0) putSeparator(symbols.decimalSeparator);
+  int left = integerDigits;
+  int group = symbols.primaryGroup;
+  for (; separators > 0; --separators, group = symbols.secondaryGroup) {
     for (int i = 0; i < group; ++i) putDigit();
     left -= group;
-    putSeparator(symbols_.groupSeparator);
+    putSeparator(symbols.groupSeparator);
   }
   for (; left > 0; --left) putDigit();
-  return end;
 }
 
-LongNumber::LongNumber(const NumberStyle& style, double value) noexcept
+LongNumber::LongNumber(NumberStyle style, double value) noexcept
     : symbols_(*style.symbols), isNegative_(std::signbit(value) && !std::isnan(value)) {
   // A computed NaN often has a sign, which means nothing.
   if (std::isfinite(value)) {
@@ -69,7 +68,8 @@ LongNumber::LongNumber(const NumberStyle& style, double value) noexcept
 }
 
 void LongNumber::takeEveryDigit(double magnitude) noexcept {
-  const char* end = std::to_chars(room_.data(), room_.data() + room_.size(), magnitude, std::chars_format::fixed, 0).ptr;
+  const char* end =
+      std::to_chars(room_.data(), room_.data() + room_.size(), magnitude, std::chars_format::fixed, 0).ptr;
   digits_ = room_.data();
   integerDigits_ = static_cast<int>(end - digits_);
 }

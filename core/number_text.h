@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string>
 
 #include <KZMUtilities/formatters.h>
@@ -23,12 +24,13 @@ inline constexpr int kMostFractionDigits = 340;
 /// How a number is written. Styles point to symbols that live forever.
 struct NumberStyle {
   const NumberSymbols* symbols;
-  int least;  // fraction digits, within 0..kMostFractionDigits
-  int most;   // not below `least`
+  std::int16_t least;  // fraction digits, within 0..kMostFractionDigits
+  std::int16_t most;   // not below `least`
   bool showsEveryDigit = false;
 };
 
-/// Decimal style: rounded half to even on the shortest decimal that reads back to the same double. Any counts are taken.
+/// Decimal style: rounded half to even on the shortest decimal that reads back to the same double. Any counts are
+/// taken.
 [[nodiscard]] NumberStyle decimalStyle(const NumberSymbols& symbols, std::int64_t least, std::int64_t most) noexcept;
 
 /// Whole numbers without locale: "1024", "-0", "nan", "inf", "-inf", every digit of the double, halves to even.
@@ -37,12 +39,12 @@ struct NumberStyle {
 /// As the formatter writes it.
 [[nodiscard]] NumberStyle styleOf(const NumberFormatter& formatter) noexcept;
 
-/// A number of at most nine digits, rounded and laid out. Nearly every number of a monitor is one: it is found by binary
-/// arithmetic, and its size is known before it is written.
+/// A number of at most nine digits, rounded and laid out. Nearly every number of a monitor is one: it is found by
+/// binary arithmetic, and its size is known before it is written.
 class ShortNumber {
  public:
   /// Not every number can be laid out so: see isLaidOut.
-  [[gnu::always_inline]] ShortNumber(const NumberStyle& style, double value) noexcept;
+  [[gnu::always_inline]] ShortNumber(NumberStyle style, double value) noexcept;
   [[nodiscard]] bool isLaidOut() const noexcept { return isLaidOut_; }
 
   /// Bytes of the text.
@@ -51,14 +53,17 @@ class ShortNumber {
   [[gnu::always_inline]] char* writeTo(char* to) const noexcept;
 
  private:
-  [[gnu::always_inline]] bool round(int most, double magnitude) noexcept;
-  [[gnu::always_inline]] char* putPlainDigits(char* end) const noexcept;
-  char* putLocalDigits(char* end) const noexcept;
+  static constexpr std::int32_t kDoubtful = -1;
+  [[gnu::always_inline]] static std::int32_t rounded(int most, double magnitude) noexcept;
+  [[gnu::always_inline]] void putPlainDigits(char* end) const noexcept;
+  // Takes no `this`, which would have to be in memory.
+  static void putLocalDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits, int fractionDigits,
+                             int separators, char* end) noexcept;
 
   const NumberSymbols& symbols_;
-  std::uint32_t digits_ = 0;  // integer part and fraction together
   bool isNegative_;
-  bool isLaidOut_;
+  bool isLaidOut_ = false;
+  std::uint32_t digits_ = 0;  // integer part and fraction together
   int integerDigits_ = 0;
   int fractionDigits_ = 0;
   int separators_ = 0;
@@ -68,7 +73,7 @@ class ShortNumber {
 /// Any number, NaN and the infinities among them.
 class LongNumber {
  public:
-  LongNumber(const NumberStyle& style, double value) noexcept;
+  LongNumber(NumberStyle style, double value) noexcept;
   LongNumber(const LongNumber&) = delete;
   LongNumber& operator=(const LongNumber&) = delete;
 
@@ -96,13 +101,15 @@ class LongNumber {
   std::array<char, 1 + kMostIntegerDigits + kMostFractionDigits> room_;
 };
 
-/// What `use` makes of the number: it is called with a ShortNumber or a LongNumber.
-template <class Use>
-[[gnu::always_inline]] inline auto withNumber(const NumberStyle& style, double value, const Use& use) {
-  if (const ShortNumber number(style, value); number.isLaidOut()) [[likely]]
-    return use(number);
-  return use(LongNumber(style, value));
-}
+/// "00", "01" and so on to "99".
+inline constexpr std::array<char, 200> kDigitPairs = [] {
+  std::array<char, 200> pairs{};
+  for (std::size_t i = 0; i < pairs.size(); ++i) {
+    const std::size_t digit = i % 2 == 0 ? i / 20 : i / 2 % 10;
+    pairs[i] = static_cast<char>('0' + digit);
+  }
+  return pairs;
+}();
 
 /// How many separators are in an integer part of the given length.
 [[nodiscard]] inline int countSeparators(const NumberSymbols& symbols, int integerDigits) noexcept {
@@ -111,15 +118,21 @@ template <class Use>
   return (beyondFirst - 1) / symbols.secondaryGroup + 1;
 }
 
+/// Decimal digits of a number of at most nine.
 [[nodiscard]] inline int countDigits(std::uint32_t number) noexcept {
-  int count = 1;
-  for (std::uint64_t bound = 10; number >= bound; bound *= 10) ++count;
-  return count;
+  static constexpr std::uint32_t kPowersOfTen[] = {1,      10,      100,      1000,      10000,
+                                                   100000, 1000000, 10000000, 100000000, 1000000000};
+  const std::uint32_t counted = number | 1U;                                   // which has as many digits; 0 has one
+  const int atLeast = static_cast<int>(std::bit_width(counted)) * 1233 >> 12;  // the logarithm of two: 1233 / 4096
+  return atLeast + (counted >= kPowersOfTen[atLeast] ? 1 : 0);
 }
 
-inline ShortNumber::ShortNumber(const NumberStyle& style, double value) noexcept
-    : symbols_(*style.symbols), isNegative_(std::signbit(value)), isLaidOut_(round(style.most, std::abs(value))) {
-  if (!isLaidOut_) return;
+inline ShortNumber::ShortNumber(NumberStyle style, double value) noexcept
+    : symbols_(*style.symbols), isNegative_(std::signbit(value)) {
+  const std::int32_t shifted = rounded(style.most, std::abs(value));
+  if (shifted == kDoubtful) return;
+  isLaidOut_ = true;
+  digits_ = static_cast<std::uint32_t>(shifted);
   fractionDigits_ = style.most;
   for (; fractionDigits_ > style.least && digits_ % 10 == 0; digits_ /= 10) --fractionDigits_;
   integerDigits_ = std::max(countDigits(digits_) - fractionDigits_, 1);
@@ -132,33 +145,31 @@ inline ShortNumber::ShortNumber(const NumberStyle& style, double value) noexcept
 
 // Scales and rounds in binary. The product and the shortest decimal each differ from the true value by less than 2^-53
 // of it, together far less than kDoubt: so far from a tie the rounding is beyond doubt.
-inline bool ShortNumber::round(int most, double magnitude) noexcept {
+inline std::int32_t ShortNumber::rounded(int most, double magnitude) noexcept {
   static constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
   constexpr double kLimit = 999999999.0;
   constexpr double kDoubt = 0.001;
-  if (most >= static_cast<int>(std::size(kPowersOfTen))) return false;
+  if (most >= static_cast<int>(std::size(kPowersOfTen))) return kDoubtful;
   const double scaled = magnitude * kPowersOfTen[most];
-  if (!(scaled < kLimit)) return false;  // NaN too
+  if (!(scaled < kLimit)) return kDoubtful;  // NaN too
   const auto floor = static_cast<std::int32_t>(scaled);
   const double rest = scaled - floor;
-  if (std::abs(rest - 0.5) < kDoubt) return false;
-  digits_ = static_cast<std::uint32_t>(floor) + static_cast<std::uint32_t>(rest > 0.5);
-  return true;
+  return std::abs(rest - 0.5) < kDoubt ? kDoubtful : floor + (rest > 0.5 ? 1 : 0);
 }
 
-// Writes digits in ASCII, without separators, from the last one to the first. Gives the place of the first.
-inline char* ShortNumber::putPlainDigits(char* end) const noexcept {
+// Writes digits in ASCII, without separators, from the last one to the first.
+inline void ShortNumber::putPlainDigits(char* end) const noexcept {
   std::uint32_t rest = digits_;
   for (int i = 0; i < fractionDigits_; ++i, rest /= 10) *--end = static_cast<char>('0' + rest % 10);
   if (fractionDigits_ > 0) {
     end -= symbols_.decimalSeparator.size();
     putText(end, symbols_.decimalSeparator);
   }
-  do {
-    *--end = static_cast<char>('0' + rest % 10);
-    rest /= 10;
-  } while (rest > 0);
-  return end;
+  for (; rest >= 10; rest /= 100) {
+    end -= 2;
+    std::memcpy(end, &kDigitPairs[rest % 100 * 2], 2);
+  }
+  if (integerDigits_ % 2 != 0) *--end = static_cast<char>('0' + rest);
 }
 
 inline char* ShortNumber::writeTo(char* to) const noexcept {
@@ -172,7 +183,7 @@ inline char* ShortNumber::writeTo(char* to) const noexcept {
   if (symbols_.digitsAreAscii && separators_ == 0) [[likely]] {
     putPlainDigits(end);
   } else {
-    putLocalDigits(end);
+    putLocalDigits(symbols_, digits_, integerDigits_, fractionDigits_, separators_, end);
   }
   return after;
 }

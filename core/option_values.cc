@@ -96,15 +96,4 @@ const Value& noValue() noexcept {
   return *null;
 }
 
-std::int64_t readDecimals(const Value* rules, double number, std::int64_t fallback) noexcept {
-  static constexpr Key kValue = "value";
-  const Array* entries = rules != nullptr ? rules->array() : nullptr;
-  if (entries == nullptr) return fallback;
-  for (const Value& entry : *entries) {
-    const Dictionary* rule = entry.dictionary();
-    if (rule != nullptr && readDouble(rule->find(kValue)) > number) return readInteger(rule->find(kDecimals));
-  }
-  return fallback;
-}
-
 }  // namespace kzm::core

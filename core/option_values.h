@@ -54,7 +54,8 @@ namespace kzm::core {
 [[nodiscard]] const Value& noValue() noexcept;
 
 /// A set of text attributes as it was given; null when the key is absent.
-[[nodiscard]] inline const Value& readAttributes(const Dictionary& options, const Key& key) noexcept {
+[[nodiscard, gnu::always_inline]] inline const Value& readAttributes(const Dictionary& options,
+                                                                     const Key& key) noexcept {
   const Value* attributes = options.find(key);
   return attributes != nullptr ? *attributes : noValue();
 }
@@ -66,7 +67,16 @@ namespace kzm::core {
 
 /// Walks decimals rules, dictionaries of "value" and "decimals": the first whose "value" is greater than the number
 /// gives its "decimals". Without such a rule, or when `rules` is no array, `fallback`. NaN matches none.
-[[nodiscard]] std::int64_t readDecimals(const Value* rules, double number, std::int64_t fallback = 0) noexcept;
+[[nodiscard]] inline std::int64_t readDecimals(const Value* rules, double number, std::int64_t fallback = 0) noexcept {
+  static constexpr Key kValue = "value";
+  const Array* entries = rules != nullptr ? rules->array() : nullptr;
+  if (entries == nullptr) return fallback;
+  for (const Value& entry : *entries) {
+    const Dictionary* rule = entry.dictionary();
+    if (rule != nullptr && readDouble(rule->find(kValue)) > number) return readInteger(rule->find(kDecimals));
+  }
+  return fallback;
+}
 
 }  // namespace kzm::core
 

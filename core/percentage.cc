@@ -12,9 +12,7 @@ namespace {
 constexpr Template kTight("%@%");
 constexpr Template kSpaced("%@ %");
 
-const Template& unitOf(const Dictionary& options) {
-  return readBoolean(options.find(kSpace)) ? kSpaced : kTight;
-}
+const Template& unitOf(const Dictionary& options) { return readBoolean(options.find(kSpace)) ? kSpaced : kTight; }
 
 Amount amountOf(const Dictionary& options, double percent) {
   return {Digits::atMost, readInteger(options.find(kDecimals)), percent};

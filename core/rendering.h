@@ -13,6 +13,7 @@
 #include "core/held.h"
 #include "core/template.h"
 #include "core/unit_table.h"
+#include "port/current_locale.h"
 
 namespace kzm::core {
 
@@ -32,11 +33,31 @@ struct Amount {
   double value;
 };
 
+/// The style in which the number is written at this call.
+[[nodiscard, gnu::always_inline]] inline NumberStyle styleOf(const Amount& amount) {
+  switch (amount.digits) {
+    case Digits::exactly:
+      return port::perThread<HeldStyles>().style(DigitRule::exactly, amount.decimals);
+    case Digits::atMost:
+      return port::perThread<HeldStyles>().style(DigitRule::atMost, amount.decimals);
+    case Digits::atMostNow:
+      return decimalStyle(port::currentNumberSymbols(), 0, amount.decimals);
+    case Digits::wholeByThrees:
+      return decimalStyle(port::currentNumberSymbolsByThrees(), 0, 0);
+    case Digits::plain:
+      break;
+  }
+  return plainStyle();
+}
+
 /// The number alone.
-[[nodiscard]] std::string text(const Amount& amount);
+[[nodiscard]] inline std::string text(const Amount& amount) { return numberAlone(styleOf(amount), amount.value); }
 
 /// The unit text with the number in its place. No text for a template that is not there.
-[[nodiscard]] std::string text(const Template& unit, const Amount& amount);
+[[nodiscard]] inline std::string text(const Template& unit, const Amount& amount) {
+  if (!unit.isThere()) return {};
+  return unit.filled(styleOf(amount), amount.value);
+}
 
 /// The same in two styles: the number in "attributes-main", all else in "attributes-units".
 [[nodiscard]] AttributedString attributedText(const Template& unit, const Amount& amount, const Dictionary& options);

@@ -36,18 +36,14 @@ namespace kzm::core {
   return to + size;
 }
 
-/// A string of the given size that `write` fills.
+/// As many bytes as std::string has room for in itself.
+inline constexpr std::size_t kOwnRoom = 15;
+
+/// A string of the given size, at most kOwnRoom, that `write` fills.
 template <class Write>
-[[gnu::always_inline]] inline std::string writtenText(std::size_t size, const Write& write) {
-  // As much as std::string has room for in itself: a string of a known size is made without a loop.
-  constexpr char kRoom[16] = {};
-  constexpr std::size_t kSize = sizeof kRoom - 1;
-  if (size > kSize) [[unlikely]] {
-    std::string text(size, '\0');
-    write(text.data());
-    return text;
-  }
-  std::string text(kRoom, kSize);
+[[gnu::always_inline]] inline std::string shortText(std::size_t size, const Write& write) {
+  constexpr char kRoom[kOwnRoom + 1] = {};
+  std::string text(kRoom, kOwnRoom);  // a known size: made without a loop
   write(text.data());
   text.erase(size);
   return text;

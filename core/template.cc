@@ -17,36 +17,63 @@ std::string unescaped(std::string_view text) {
   return result;
 }
 
-}  // namespace
-
-// The pieces with the number between them; says how long that is.
-[[gnu::always_inline]] inline std::string Template::written(std::string_view before, const NumberStyle& style,
-                                                            double value, std::string_view after,
-                                                            std::size_t& numberSize) {
-  return withNumber(style, value, [&](const auto& number) {
-    numberSize = number.size();
-    return writtenText(before.size() + numberSize + after.size(),
-                       [&](char* to) { putText(number.writeTo(putText(to, before)), after); });
-  });
+template <class Number>
+char* putPieces(char* to, std::string_view before, const Number& number, std::string_view after) {
+  if (!before.empty()) [[unlikely]]
+    to = putText(to, before);
+  return putText(number.writeTo(to), after);
 }
 
-std::string Template::filled(const NumberStyle& style, double value) const {
+template <class Number>
+std::string longText(std::string_view before, const Number& number, std::string_view after, std::size_t& numberSize) {
+  numberSize = number.size();
+  std::string text(before.size() + numberSize + after.size(), '\0');
+  putPieces(text.data(), before, number, after);
+  return text;
+}
+
+// Any number, in a text of any size.
+[[gnu::noinline]] std::string anyText(std::string_view before, NumberStyle style, double value, std::string_view after,
+                                      std::size_t& numberSize) {
+  const ShortNumber number(style, value);
+  return number.isLaidOut() ? longText(before, number, after, numberSize)
+                            : longText(before, LongNumber(style, value), after, numberSize);
+}
+
+// The pieces with the number between them; says how long that is. Nearly every text fits a string's own room: the
+// number stays in registers then.
+[[gnu::always_inline]] inline std::string written(std::string_view before, NumberStyle style, double value,
+                                                  std::string_view after, std::size_t& numberSize) {
+  const ShortNumber number(style, value);
+  const std::size_t size = before.size() + number.size() + after.size();
+  if (!number.isLaidOut() || size > kOwnRoom) [[unlikely]]
+    return anyText(before, style, value, after, numberSize);
+  numberSize = number.size();
+  return shortText(size, [&](char* to) { putPieces(to, before, number, after); });
+}
+
+}  // namespace
+
+[[gnu::flatten]] std::string Template::filled(NumberStyle style, double value) const {
   std::size_t numberSize = 0;
   if (!hasEscapes_ && hasPlace_) [[likely]]
     return written(before_, style, value, after_, numberSize);
+  return filledSlowly(style, value);
+}
+
+[[gnu::noinline, gnu::cold]] std::string Template::filledSlowly(NumberStyle style, double value) const {
   std::string text = unescaped(before_);
   if (hasPlace_) text.append(numberAlone(style, value)).append(unescaped(after_));
   return text;
 }
 
-std::string numberAlone(const NumberStyle& style, double value) {
-  return withNumber(style, value, [](const auto& number) {
-    return writtenText(number.size(), [&](char* to) { number.writeTo(to); });
-  });
+[[gnu::flatten]] std::string numberAlone(NumberStyle style, double value) {
+  std::size_t numberSize = 0;
+  return written({}, style, value, {}, numberSize);
 }
 
-AttributedString Template::composed(const NumberStyle& style, double value, const Value& main,
-                                    const Value& units) const {
+[[gnu::flatten]] AttributedString Template::composed(NumberStyle style, double value, const Value& main,
+                                                     const Value& units) const {
   if (hasPlace_ && !hasEscapes_ && !isPlaceNumbered_) [[likely]] {
     std::size_t numberSize = 0;
     std::string text = written(before_, style, value, after_, numberSize);

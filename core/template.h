@@ -26,16 +26,14 @@ class Template {
 
   /// The format operation: the first "%@" or "%1$@" becomes the number, "%%" one percent sign, and all else stays, a
   /// lone "%" and a second "%@" too. A template without a place for the number gives its own text.
-  [[nodiscard]] std::string filled(const NumberStyle& style, double value) const;
+  [[nodiscard]] std::string filled(NumberStyle style, double value) const;
 
   /// The text exactly as it stands, in the attributes of the units, but for its first "%@", which becomes the number in
   /// the main attributes. No format operation here: "%%" stays two signs.
-  [[nodiscard]] AttributedString composed(const NumberStyle& style, double value, const Value& main,
-                                          const Value& units) const;
+  [[nodiscard]] AttributedString composed(NumberStyle style, double value, const Value& main, const Value& units) const;
 
  private:
-  static std::string written(std::string_view before, const NumberStyle& style, double value, std::string_view after,
-                             std::size_t& numberSize);
+  [[nodiscard]] std::string filledSlowly(NumberStyle style, double value) const;
 
   std::string_view text_;
   std::string_view before_;
@@ -48,24 +46,25 @@ class Template {
 inline constexpr std::string_view kPlace = "%@";
 
 /// The number without a unit.
-[[nodiscard]] std::string numberAlone(const NumberStyle& style, double value);
+[[nodiscard]] std::string numberAlone(NumberStyle style, double value);
 
 constexpr Template::Template(std::string_view text) noexcept : text_(text), before_(text) {
   constexpr std::string_view kNumberedPlace = "%1$@";
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] != '%') continue;
+  for (std::size_t i = text.find('%'); i != std::string_view::npos; i = text.find('%', i + 1)) {
     const std::string_view rest = text.substr(i);
-    const std::string_view place = rest.starts_with(kPlace) ? kPlace : kNumberedPlace;
     if (rest.starts_with("%%")) {
       hasEscapes_ = true;
       ++i;
-    } else if (!hasPlace_ && rest.starts_with(place)) {
-      hasPlace_ = true;
-      isPlaceNumbered_ = place == kNumberedPlace;
-      before_ = text.substr(0, i);
-      after_ = rest.substr(place.size());
-      i += place.size() - 1;
+      continue;
     }
+    const bool isNumbered = rest.starts_with(kNumberedPlace);
+    if (hasPlace_ || !(isNumbered || rest.starts_with(kPlace))) continue;
+    const std::size_t size = isNumbered ? kNumberedPlace.size() : kPlace.size();
+    hasPlace_ = true;
+    isPlaceNumbered_ = isNumbered;
+    before_ = text.substr(0, i);
+    after_ = rest.substr(size);
+    i += size - 1;
   }
 }
 

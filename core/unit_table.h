@@ -15,27 +15,43 @@ namespace kzm::core {
 /// Whether a space is between number and unit.
 enum class Spacing : std::uint8_t { tight, spaced };
 
-/// One text: its template, which is also the end of its localization key, and the translator's hint (may be null).
-struct UnitRow {
-  std::string_view text;
-  const char* comment;
+/// One text: its localization key, which ends in its template, and the translator's hint (may be null). The compiler
+/// joins the key: put together at run time, it would cost a third of the look-up.
+class UnitRow {
+ public:
+  constexpr UnitRow() noexcept = default;
+  constexpr UnitRow(std::string_view keyPrefix, std::string_view text, const char* comment)
+      : comment_(comment), textAt_(static_cast<std::uint8_t>(keyPrefix.size())) {
+    for (const std::string_view part : {keyPrefix, text}) {
+      for (const char c : part) key_[size_++] = c;  // does not build when there is no room
+    }
+  }
+
+  [[nodiscard]] constexpr std::string_view key() const noexcept { return {key_.data(), size_}; }
+  [[nodiscard]] constexpr std::string_view text() const noexcept { return key().substr(textAt_); }
+  [[nodiscard]] constexpr const char* comment() const noexcept { return comment_; }
+
+ private:
+  const char* comment_ = nullptr;
+  std::uint8_t textAt_ = 0;
+  std::uint8_t size_ = 0;
+  std::array<char, 30> key_{};
 };
 
-/// The texts of a family, in the order in which they are looked up.
+/// The texts of a family that is kept in the shared cache, in the order in which they are looked up.
 struct UnitTable {
-  std::string_view cacheKey;   // in the shared cache; empty: looked up on every call, and not kept
-  std::string_view keyPrefix;  // of the localization keys
+  std::string_view cacheKey;
   std::span<const UnitRow> rows;
 };
 
-/// The text of one row in the user's language, looked up now.
-[[nodiscard]] std::string localizedText(const UnitTable& table, std::size_t row);
+/// The text of the row in the user's language, looked up now.
+[[nodiscard]] std::string localizedText(const UnitRow& row);
 
 /// The rows of a family's own table, whose rows have members `text` and `comment` among others.
 template <class Row, std::size_t N>
-consteval std::array<UnitRow, N> unitRows(const Row (&rows)[N]) {
-  std::array<UnitRow, N> units{};
-  for (std::size_t i = 0; i < N; ++i) units[i] = {rows[i].text, rows[i].comment};
+consteval std::array<UnitRow, N> unitRows(std::string_view keyPrefix, const Row (&rows)[N]) {
+  std::array<UnitRow, N> units;
+  for (std::size_t i = 0; i < N; ++i) units[i] = UnitRow(keyPrefix, rows[i].text, rows[i].comment);
   return units;
 }
 
@@ -77,11 +93,12 @@ consteval UnitIndex<Units> unitIndex(const Row (&rows)[N]) {
 /// For the build's own check of a table: no template is there twice, and each has one place for the number, or none.
 consteval bool wellFormed(std::span<const UnitRow> rows) {
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    const std::size_t place = rows[i].text.find("%@");
-    const std::string_view after = place == std::string_view::npos ? std::string_view() : rows[i].text.substr(place + 2);
+    const std::string_view text = rows[i].text();
+    const std::size_t place = text.find("%@");
+    const std::string_view after = place == std::string_view::npos ? std::string_view() : text.substr(place + 2);
     if (after.find('%') != std::string_view::npos && after != "%%") return false;
     for (std::size_t j = 0; j < i; ++j) {
-      if (rows[i].text == rows[j].text) return false;
+      if (text == rows[j].text()) return false;
     }
   }
   return true;

@@ -6,6 +6,8 @@
 #include <unicode/localematcher.h>
 #include <vector>
 
+#include <KZMUtilities/key.h>
+
 #include "port/environment_locale.h"
 #include "port/never_destroyed.h"
 
@@ -84,9 +86,11 @@ Texts textsIn(const ResourceBundle& bundle, const std::vector<const StringTable*
   return texts;
 }
 
-const Choice* findChoice(const Wanted& list, const ResourceBundle& bundle, std::string_view table) {
+[[gnu::always_inline]] inline const Choice* findChoice(const Wanted& list, const ResourceBundle& bundle,
+                                                       std::string_view table) {
   const Choice* choice = list.latest.load(std::memory_order_acquire);
-  while (choice != nullptr && (choice->bundle != &bundle || choice->table != table)) choice = choice->earlier;
+  while (choice != nullptr && (choice->bundle != &bundle || !internal::sameText(choice->table, table)))
+    choice = choice->earlier;
   return choice;
 }
 

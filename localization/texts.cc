@@ -4,8 +4,13 @@
 #include <cstring>
 #include <limits>
 
+#include <KZMUtilities/key.h>
+
 namespace kzm::localization {
 namespace {
+
+// Room is cheaper here than a second comparison.
+constexpr std::size_t kSlotsPerEntry = 4;
 
 // Takes the first entry off a list in which a zero byte ends each.
 std::string_view takeEntry(std::string_view& list) {
@@ -29,10 +34,10 @@ std::uint64_t hashOf(std::string_view key) noexcept {
 }  // namespace
 
 // The slot of the key, or the free one where it would be.
-std::size_t Texts::slotOf(std::string_view key) const noexcept {
+[[gnu::always_inline]] inline std::size_t Texts::slotOf(std::string_view key) const noexcept {
   const std::size_t mask = slots_.size() - 1;
   std::size_t slot = hashOf(key) & mask;
-  while (slots_[slot] != 0 && entries_[slots_[slot] - 1U].key != key) slot = (slot + 1) & mask;
+  while (slots_[slot] != 0 && !internal::sameText(entries_[slots_[slot] - 1U].key, key)) slot = (slot + 1) & mask;
   return slot;
 }
 
@@ -47,7 +52,7 @@ void Texts::add(const StringTable& table) {
   std::string_view keys = table.keys;
   std::string_view texts = table.texts;
   while (!keys.empty() && entries_.size() < std::numeric_limits<std::uint16_t>::max()) {
-    if (slots_.size() <= 2 * entries_.size()) grow();
+    if (slots_.size() <= kSlotsPerEntry * entries_.size()) grow();
     const Entry entry{takeEntry(keys), takeEntry(texts)};
     std::uint16_t& slot = slots_[slotOf(entry.key)];
     if (slot != 0) continue;

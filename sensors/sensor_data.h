@@ -18,8 +18,8 @@ namespace kzm::sensors {
 inline constexpr std::size_t kPercentRow = std::size(kTexts);
 inline constexpr core::Template kPercent("%@%%");
 
-/// What a reading is shown as. Nothing for a kind that does not exist, and for a unit that a host's own table lacks. The
-/// family's texts are looked up before anything else is asked.
+/// What a reading is shown as. Nothing for a kind that does not exist, and for a unit that a host's own table lacks.
+/// The family's texts are looked up before anything else is asked.
 [[nodiscard]] std::optional<core::Reading> readingOf(std::int64_t type, const Dictionary& options, double value);
 
 }  // namespace kzm::sensors

@@ -74,11 +74,11 @@ inline constexpr UnitText kTexts[] = {
     {"%@x",     nullptr,           Unit::times,            Spacing::tight},
 };
 // clang-format on
-inline constexpr auto kRows = core::unitRows(kTexts);
+inline constexpr auto kRows = core::unitRows("Units.Sensors.", kTexts);
 inline constexpr auto kIndex = core::unitIndex<core::countEnumerators<Unit>() - 1>(kTexts);
 static_assert(core::wellFormed(kRows) && kIndex.hasAll());
 
-inline constexpr core::UnitTable kTable{"Localizations-Units-Sensors", "Units.Sensors.", kRows};
+inline constexpr core::UnitTable kTable{"Localizations-Units-Sensors", kRows};
 
 }  // namespace kzm::sensors
 

@@ -26,7 +26,7 @@ struct PressureRow {
 
 // Deliberate: inches of mercury alone ignore the options (Pressure.InchesIgnoreTheOptions).
 // clang-format off
-//   unit                              from hPa              style            shown in; the last row serves any other unit
+//   unit                              from hPa              style            shown in; the last row serves all others
 constexpr PressureRow kPressures[] = {
     {MeasurementUnit::millibars,       unchanged,            Style::chosen,   Unit::millibars},
     {MeasurementUnit::inchesOfMercury, hectopascalsToInches, Style::complete, Unit::inches},

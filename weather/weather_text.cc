@@ -48,17 +48,15 @@ constexpr UnitText kTexts[] = {
     {Unit::percent,           Spacing::tight,  "%@%%",       nullptr},
 };
 // clang-format on
-constexpr auto kRows = core::unitRows(kTexts);
+constexpr auto kRows = core::unitRows("Units.Weather.", kTexts);
 constexpr auto kIndex = core::unitIndex<core::countEnumerators<Unit>()>(kTexts);
 static_assert(core::wellFormed(kRows) && kIndex.hasAll());
 
-// Not kept in the shared cache: a change of the language shows in the very next call.
-constexpr core::UnitTable kTable{"", "Units.Weather.", kRows};
-
 }  // namespace
 
+// Not kept in the shared cache: a change of the language shows in the very next call.
 std::string localizedText(Unit unit, Spacing spacing) {
-  return core::localizedText(kTable, kIndex.row(static_cast<std::size_t>(unit), spacing));
+  return core::localizedText(kRows[kIndex.row(static_cast<std::size_t>(unit), spacing)]);
 }
 
 std::string text(Unit unit, Spacing spacing, const core::Amount& amount) {

@@ -12,6 +12,7 @@
 #include <KZMUtilities/export.h>
 #include <KZMUtilities/formatters.h>
 #include <KZMUtilities/guards.h>
+#include <KZMUtilities/key.h>
 #include <KZMUtilities/percentage.h>
 #include <KZMUtilities/process.h>
 #include <KZMUtilities/resources.h>

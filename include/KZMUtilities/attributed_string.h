@@ -22,7 +22,8 @@ namespace kzm {
 /// other Value counts, an empty Dictionary too. Runs are never empty, and neighbors with equal sets are one run.
 class KZM_EXPORT AttributedString {
  public:
-  /// A part of the text with its attributes. It refers to the AttributedString, and is good as long as that is unchanged.
+  /// A part of the text with its attributes. It refers to the AttributedString, and is good as long as that is
+  /// unchanged.
   struct Run {
     std::string_view text;
     const Value& attributes;
@@ -62,7 +63,8 @@ class KZM_EXPORT AttributedString {
 
  private:
   struct Part {
-    Part(std::size_t e, Value a) : end(e), attributes(std::move(a)) {}
+    template <class V>
+    Part(std::size_t e, V&& a) : end(e), attributes(std::forward<V>(a)) {}
     std::size_t end;  // where the next one begins
     Value attributes;
     [[nodiscard]] friend bool operator==(const Part&, const Part&) = default;

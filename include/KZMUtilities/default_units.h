@@ -92,9 +92,9 @@ class KZM_EXPORT KZMUtilitiesDefaultUnits {
   /// keys are there, and kelvin and knots are never among the units.
   [[nodiscard]] kzm::PreferredUnits units() const;
 
-  /// `setUnits:` puts other preferred units in place, for the next question on. An accessor whose key is missing answers
-  /// with the metric unit of its kind: kilometersPerHour, hectopascals, celsius, kilometers, millimeters or centimeters.
-  /// Further keys are kept unread.
+  /// `setUnits:` puts other preferred units in place, for the next question on. An accessor whose key is missing
+  /// answers with the metric unit of its kind: kilometersPerHour, hectopascals, celsius, kilometers, millimeters or
+  /// centimeters. Further keys are kept unread.
   void setUnits(kzm::PreferredUnits units);
 
  private:

@@ -17,36 +17,15 @@
 #include <utility>
 #include <vector>
 
+#include <KZMUtilities/key.h>
 #include <KZMUtilities/value.h>
 
 namespace kzm {
 
-/// A dictionary key with its hash. Made from a literal in a constant, the hash costs nothing at run time.
-class Key {
- public:
-  constexpr Key(std::string_view text) noexcept : text_(text), hash_(hashOf(text)) {}
-  constexpr Key(const char* text) noexcept : Key(std::string_view(text)) {}
-  Key(const std::string& text) noexcept : Key(std::string_view(text)) {}
-
-  [[nodiscard]] constexpr std::string_view text() const noexcept { return text_; }
-  [[nodiscard]] constexpr std::uint32_t hash() const noexcept { return hash_; }
-
- private:
-  // FNV-1a, folded so that the low six bits, which choose Dictionary's slot, depend on all of them.
-  static constexpr std::uint32_t hashOf(std::string_view text) noexcept {
-    std::uint32_t hash = 2166136261U;
-    for (const char c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619U;
-    return hash ^ (hash >> 16U);
-  }
-
-  std::string_view text_;
-  std::uint32_t hash_;
-};
-
 /// A string-keyed dictionary of Values, in the order in which keys were first set.
 ///
-/// It is made for reading a handful of options many times: one byte, chosen by the key's hash, tells that a key is
-/// absent or which entry has it.
+/// It is made for reading a handful of options many times: one byte, in the key's slot, tells that a key is absent or
+/// which entry has it.
 class Dictionary {
  public:
   struct Entry {
@@ -70,7 +49,7 @@ class Dictionary {
 
   /// Puts the Value, or what one is made of, under the key, in the place of the former one if there was one.
   template <class V>
-    requires std::constructible_from<Value, V>
+  requires std::constructible_from<Value, V>
   void set(const Key& key, V&& value) {
     if (const std::size_t place = placeOf(key); place != 0) {
       nodes_[place - 1].value = Value(std::forward<V>(value));
@@ -112,40 +91,25 @@ class Dictionary {
   // A place is a position plus one; 0 is none. The entries of one slot or bucket are a chain.
   struct Node : Entry {
     template <class V>
-    Node(const Key& k, V&& v) : Entry{std::string(k.text()), Value(std::forward<V>(v))}, hash(k.hash()) {}
+    Node(const Key& k, V&& v)
+        : Entry{std::string(k.text()), Value(std::forward<V>(v))}, hash(k.hash()), slot(k.slot()) {}
     std::uint32_t hash;
     std::uint32_t next = 0;
+    std::uint8_t slot;
   };
-  static constexpr std::size_t kSlots = 64;
   static constexpr std::size_t kMostInSlots = 128;
   static constexpr std::uint8_t kInBuckets = 255;  // a slot of a large dictionary that has entries
 
-  // Texts of 4 to 16 bytes, as options have them, are compared by two overlapping words: calling memcmp would be most of
-  // a look-up.
-  template <class Word>
-  [[nodiscard]] static bool sameWords(const char* a, const char* b, std::size_t size) noexcept {
-    Word words[4];
-    std::memcpy(&words[0], a, sizeof(Word));
-    std::memcpy(&words[1], b, sizeof(Word));
-    std::memcpy(&words[2], a + size - sizeof(Word), sizeof(Word));
-    std::memcpy(&words[3], b + size - sizeof(Word), sizeof(Word));
-    return words[0] == words[1] && words[2] == words[3];
-  }
-  [[nodiscard]] static bool sameText(std::string_view a, std::string_view b) noexcept {
-    if (a.size() != b.size()) return false;
-    if (a.size() > 16 || a.size() < 4) return a == b;
-    return a.size() >= 8 ? sameWords<std::uint64_t>(a.data(), b.data(), a.size())
-                         : sameWords<std::uint32_t>(a.data(), b.data(), a.size());
-  }
-
   [[nodiscard, gnu::always_inline]] std::size_t placeOf(const Key& key) const noexcept {
-    std::size_t place = slots_[key.hash() % kSlots];
-    if (place == 0) return 0;
-    if (place == kInBuckets) [[unlikely]]
+    std::size_t place = slots_[key.slot()];
+    if (place == kInBuckets) [[unlikely]] {
       place = buckets_[key.hash() & (buckets_.size() - 1)];
+    } else if (key.isAloneInSlot()) {
+      return place;
+    }
     for (; place != 0; place = nodes_[place - 1].next) {
       const Node& node = nodes_[place - 1];
-      if (node.hash == key.hash() && sameText(node.key, key.text())) [[likely]]
+      if (node.hash == key.hash() && internal::sameText(node.key, key.text())) [[likely]]
         break;
     }
     return place;
@@ -154,7 +118,7 @@ class Dictionary {
   // Makes the entry findable, as the first of its chain.
   void link(std::size_t place) {
     Node& node = nodes_[place - 1];
-    std::uint8_t& slot = slots_[node.hash % kSlots];
+    std::uint8_t& slot = slots_[node.slot];
     if (buckets_.empty()) {
       node.next = std::exchange(slot, static_cast<std::uint8_t>(place));
     } else {
@@ -169,7 +133,7 @@ class Dictionary {
     for (std::size_t place = 1; place <= nodes_.size(); ++place) link(place);
   }
 
-  std::array<std::uint8_t, kSlots> slots_{};
+  std::array<std::uint8_t, Key::kSlots> slots_{};
   std::vector<Node> nodes_;
   std::vector<std::uint32_t> buckets_;  // a power of two; only of a dictionary with more than kMostInSlots entries
 };
