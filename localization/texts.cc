@@ -36,7 +36,7 @@ std::uint64_t hashOf(std::string_view key) noexcept {
 // The slot of the key, or the free one where it would be.
 [[gnu::always_inline]] inline std::size_t Texts::slotOf(std::string_view key) const noexcept {
   const std::size_t mask = slots_.size() - 1;
-  std::size_t slot = hashOf(key) & mask;
+  auto slot = static_cast<std::size_t>(hashOf(key)) & mask;
   while (slots_[slot] != 0 && !internal::sameText(entries_[slots_[slot] - 1U].key, key)) slot = (slot + 1) & mask;
   return slot;
 }

@@ -10,6 +10,7 @@ namespace kzm::port {
 namespace {
 
 constexpr std::int64_t kDay = 86400;
+static_assert(sizeof(std::time_t) == sizeof(std::int64_t), "the build asks 32-bit machines for the wide one");
 
 // Whatever TZ or /etc/localtime means to the C library: rules such as CET-1CEST, and files of one's own.
 class LocalZone final : public Zone {

@@ -25,6 +25,7 @@ namespace {
 constexpr const char* kSystemZone = "America/New_York";
 constexpr std::int64_t kHour = 3600;
 constexpr std::int64_t kDay = 86400;
+constexpr std::int64_t kTenMinutes = 600;
 
 std::optional<std::int64_t> wantedCount() {
   const char* wanted = std::getenv("KZM_COMPARISONS");  // NOLINT(concurrency-mt-unsafe): no other thread runs here
@@ -171,7 +172,7 @@ std::vector<std::int64_t> changesFrom1900To2037() {
 }
 
 void compareAround(const std::string& name, std::int64_t change) {
-  for (const std::int64_t near : {-kDay - 600, -600L, 600L, kDay - 600}) {
+  for (const std::int64_t near : {-kDay - kTenMinutes, -kTenMinutes, kTenMinutes, kDay - kTenMinutes}) {
     useZone(kSystemZone);
     const std::int64_t systemOffset = offsetAt(change + near);
     useZone(name.c_str());

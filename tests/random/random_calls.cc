@@ -13,7 +13,7 @@ namespace {
 
 std::mt19937_64 randomness;
 
-std::size_t below(std::size_t count) { return randomness() % count; }
+std::size_t below(std::size_t count) { return static_cast<std::size_t>(randomness() % count); }
 
 template <std::size_t N>
 const char* any(const char* const (&choices)[N]) {

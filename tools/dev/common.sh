@@ -54,11 +54,15 @@ build() {
         fail "the build failed"
 }
 
-# run_tests PRESET [CTEST ARGUMENT...]
+# run_tests PRESET [VARIABLE=VALUE...] [CTEST ARGUMENT...]: the variables are those of the tests, not of this script.
 run_tests() {
-    local preset=$1
+    local preset=$1 environment=()
     shift
-    ctest --test-dir "build/$preset" --output-on-failure -j "$jobs" "$@"
+    while [[ ${1:-} == *=* ]]; do
+        environment+=("$1")
+        shift
+    done
+    env "${environment[@]}" ctest --test-dir "build/$preset" --output-on-failure -j "$jobs" "$@"
 }
 
 # Everything that can be built, with what it needs; for the verbs that look at all sources.
