@@ -69,9 +69,15 @@ bool Child::launch() {
 void Child::launchWithTimeout(double seconds) {
   // Deliberate: a second start is a failed start too, and cleans up the child that is running since the first.
   if (!launch()) return cleanup();
-  // Deliberate: the watchdog is never disarmed, and keeps the child until it fires.
-  if (const auto delay = timeoutNanoseconds(seconds))
+  const auto delay = timeoutNanoseconds(seconds);
+  if (!delay) return;
+  try {
+    // Deliberate: the watchdog is never disarmed, and keeps the child until it fires.
     host_.queue.after(*delay, [self = shared_from_this()] { self->forceCancel(); });
+  } catch (...) {
+    run()->signal(SIGKILL);  // a child without its watchdog must not run
+    throw;
+  }
 }
 
 void Child::forceCancel() {
@@ -99,7 +105,9 @@ void Child::cleanup() {
   });
 }
 
+// Every question looks after all children, for it may be the only one that this host ever asks.
 bool Child::isRunning() {
+  RunningChild::collectEnded();
   const std::shared_ptr<RunningChild> child = run();
   return child && child->isRunning();
 }
@@ -110,6 +118,7 @@ int Child::processIdentifier() {
 }
 
 std::optional<ExitStatus> Child::exitStatus() {
+  RunningChild::collectEnded();
   const std::shared_ptr<RunningChild> child = run();
   return child ? child->exitStatus() : std::nullopt;
 }

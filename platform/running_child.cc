@@ -1,6 +1,8 @@
 #include "platform/running_child.h"
 
 #include <algorithm>
+#include <csignal>
+#include <list>
 #include <utility>
 #include <vector>
 
@@ -18,38 +20,48 @@ class Uncollected {
     return instance;
   }
 
-  void add(Shared child) {
+  // A list of the one child that is to be added: adding it takes no memory any more.
+  void add(std::list<Shared> child) noexcept {
     const std::lock_guard lock(mutex_);
-    children_.push_back(std::move(child));
+    children_.splice(children_.end(), child);
   }
 
   void remove(const RunningChild* ended) {
-    Shared last;  // released after the lock, for the release may run the host's code
+    std::list<Shared> last;  // released after the lock, for the release may run the host's code
     const std::lock_guard lock(mutex_);
     const auto found = std::ranges::find(children_, ended, &Shared::get);
-    if (found == children_.end()) return;
-    last = std::exchange(*found, std::move(children_.back()));
-    children_.pop_back();
+    if (found != children_.end()) last.splice(last.end(), children_, found);
   }
 
   std::vector<Shared> list() {
     const std::lock_guard lock(mutex_);
-    return children_;
+    return {children_.begin(), children_.end()};
   }
 
  private:
   std::mutex mutex_;
-  std::vector<Shared> children_;
+  std::list<Shared> children_;
 };
 
 }  // namespace
 
+// All that takes memory comes before the start, but for the watch: a child that cannot be watched is ended.
 std::shared_ptr<RunningChild> RunningChild::start(const port::Launch& launch, Handler handler, port::MainQueue& queue) {
-  std::unique_ptr<port::Task> task = port::start(launch);
-  if (!task) return nullptr;
-  auto child = std::make_shared<RunningChild>(std::move(task), std::move(handler), queue);
-  Uncollected::all().add(child);
-  if (child->isRunning()) child->watch();
+  const std::optional<FileHandle> place = queue.keepPlace();
+  if (place && !place->isOpen()) return nullptr;
+  auto child = std::make_shared<RunningChild>(std::move(handler), queue);
+  std::list<Shared> uncollected{child};
+  child->task_ = port::start(launch);
+  if (!child->task_) return nullptr;
+  child->processIdentifier_ = child->task_->processIdentifier();
+  Uncollected::all().add(std::move(uncollected));
+  try {
+    queue.open(place);
+    if (child->isRunning()) child->watch();
+  } catch (...) {
+    child->signal(SIGKILL);
+    throw;
+  }
   return child;
 }
 
@@ -57,11 +69,7 @@ void RunningChild::collectEnded() {
   for (const Shared& child : Uncollected::all().list()) static_cast<void>(child->isRunning());
 }
 
-RunningChild::RunningChild(std::unique_ptr<port::Task> task, Handler handler, port::MainQueue& queue)
-    : processIdentifier_(task->processIdentifier()),
-      queue_(queue),
-      task_(std::move(task)),
-      handler_(std::move(handler)) {}
+RunningChild::RunningChild(Handler handler, port::MainQueue& queue) : queue_(queue), handler_(std::move(handler)) {}
 
 void RunningChild::watch() {
   const std::lock_guard lock(mutex_);

@@ -24,7 +24,7 @@ class RunningChild : public std::enable_shared_from_this<RunningChild> {
   /// Looks after every child that has been started, for the hosts whose main queue is not turned.
   static void collectEnded();
 
-  RunningChild(std::unique_ptr<port::Task> task, Handler handler, port::MainQueue& queue);
+  RunningChild(Handler handler, port::MainQueue& queue);
 
   [[nodiscard]] int processIdentifier() const { return processIdentifier_; }
   [[nodiscard]] bool isRunning();
@@ -36,10 +36,10 @@ class RunningChild : public std::enable_shared_from_this<RunningChild> {
   void watch();
   void runHandler();
 
-  const int processIdentifier_;
+  int processIdentifier_ = 0;  // never changes after the start
   port::MainQueue& queue_;
   std::mutex mutex_;
-  std::unique_ptr<port::Task> task_;  // null once the end is seen
+  std::unique_ptr<port::Task> task_;  // null before the start and once the end is seen
   std::unique_ptr<port::MainQueue::Watch> watch_;
   std::optional<ExitStatus> status_;
   Handler handler_;  // empty once it has run, or if it never will

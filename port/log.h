@@ -2,7 +2,7 @@
 #ifndef KZM_PORT_LOG_H
 #define KZM_PORT_LOG_H
 
-#include <string>
+#include <string_view>
 
 namespace kzm::port {
 
@@ -13,8 +13,8 @@ class Log {
   Log& operator=(const Log&) = delete;
   virtual ~Log() = default;
 
-  /// Writes one line of text. Safe on any thread.
-  virtual void write(const std::string& text) = 0;
+  /// Writes one line of text. Safe on any thread. Takes no memory and waits for nobody, for what follows must be done.
+  virtual void write(std::string_view text) noexcept = 0;
 };
 
 /// The journal, or syslog where there is none, and standard error. Never destroyed.

@@ -5,6 +5,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+
+#include <KZMUtilities/process.h>
 
 namespace kzm::port {
 
@@ -26,6 +29,13 @@ class MainQueue {
   MainQueue(const MainQueue&) = delete;
   MainQueue& operator=(const MainQueue&) = delete;
   virtual ~MainQueue() = default;
+
+  /// Keeps the descriptor free that the queue opens for itself and without which it ends the host: none when it needs
+  /// none any more, closed when there is none left.
+  [[nodiscard]] virtual std::optional<FileHandle> keepPlace() { return std::nullopt; }
+
+  /// Opens the queue in the place that was kept for it. Actions can be given to it from then on.
+  virtual void open(const std::optional<FileHandle>& /*place*/) {}
 
   /// Runs the action once, as soon as the nanoseconds have passed; with 0 on the next turn.
   virtual void after(std::int64_t nanoseconds, Action action) = 0;

@@ -1,76 +1,121 @@
 #include "port/regex.h"
 
-#include <algorithm>
-#include <chrono>
+#include <cstdint>
+#include <ctime>
+#include <limits>
 #include <memory>
 #include <unicode/regex.h>
 #include <unicode/unistr.h>
+#include <utility>
 
+#include "port/icu_memory.h"
 #include "port/per_thread.h"
+#include "port/regex_pattern.h"
 
 namespace kzm::port {
 namespace {
 
-// A search is given up after so many units of engine work. A unit is ten thousand steps of backtracking, and about
-// 0.13 ms; so this is a quarter of a second, long enough to read any text we accept and short enough for a display.
-constexpr std::int32_t kMostEngineUnits = 2000;
+// A search may take this many units of engine work, and one more for each so many bytes of text. A unit is ten thousand
+// steps of backtracking, and about 0.13 ms. Searches that pass a text once take up to seven steps a character.
+constexpr std::int32_t kEngineUnits = 2000;
+constexpr std::size_t kBytesPerEngineUnit = 1250;
 
 // The engine counts backtracking only. What it does not count, such as the comparisons of a long literal at each
-// place of a long text, ends after this time.
-constexpr std::chrono::seconds kLongestSearch{1};
+// place of a long text, ends after this time, which is well above what the counted work takes.
+constexpr std::int64_t kNanoseconds = 1'000'000'000;
+constexpr std::int64_t kNanosecondsPerByte = 500;
+
+// What all sets of a pattern may take to compile.
+constexpr double kSetMilliseconds = 250;
+
+// The engine's own count is in 32 bits, of which UTF-16 takes up to one for each byte.
+static_assert(kLongestText < std::numeric_limits<std::int32_t>::max());
 
 class Deadline {
  public:
-  explicit Deadline(icu::RegexMatcher& matcher, UErrorCode& status) {
-    matcher.setTimeLimit(kMostEngineUnits, status);
+  Deadline(icu::RegexMatcher& matcher, std::size_t bytes, UErrorCode& status)
+      : end_(now() + kNanoseconds + static_cast<std::int64_t>(bytes) * kNanosecondsPerByte) {
+    matcher.setTimeLimit(kEngineUnits + static_cast<std::int32_t>(bytes / kBytesPerEngineUnit), status);
     matcher.setMatchCallback(&Deadline::afterSteps, this, status);
     matcher.setFindProgressCallback(&Deadline::atPosition, this, status);
   }
 
  private:
-  [[nodiscard]] bool holds() const { return std::chrono::steady_clock::now() < end_; }
+  // The coarse clock costs a few nanoseconds, so it can be read at every place where a match is tried.
+  static std::int64_t now() {
+    timespec time{};
+    ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+    return time.tv_sec * std::int64_t{1'000'000'000} + time.tv_nsec;
+  }
+  [[nodiscard]] UBool holds() const { return now() < end_ ? 1 : 0; }
 
   static UBool U_CALLCONV afterSteps(const void* context, std::int32_t /*steps*/) {
-    return static_cast<const Deadline*>(context)->holds() ? 1 : 0;
+    return static_cast<const Deadline*>(context)->holds();
   }
-  // Called for every place where a match is tried; the clock is looked at every sixteenth time.
-  static UBool U_CALLCONV atPosition(const void* context, std::int64_t position) {
-    return (position & 0xF) != 0 || static_cast<const Deadline*>(context)->holds() ? 1 : 0;
+  static UBool U_CALLCONV atPosition(const void* context, std::int64_t /*position*/) {
+    return static_cast<const Deadline*>(context)->holds();
   }
 
-  std::chrono::steady_clock::time_point end_ = std::chrono::steady_clock::now() + kLongestSearch;
+  std::int64_t end_;
 };
 
 icu::UnicodeString utf16(std::string_view text) {
-  return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
+  const IcuMemory memory;
+  icu::UnicodeString result = icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
+  memory.demand();
+  return result;
 }
 
-// A back-reference compares as much text as its group holds, and all that in one step. An escaped backslash before a
-// digit is taken for one as well: what it costs is only that long texts are not searched.
-bool refersBack(std::string_view pattern) {
-  const auto begins = [](char c, char next) { return c == '\\' && ((next >= '1' && next <= '9') || next == 'k'); };
-  return std::adjacent_find(pattern.begin(), pattern.end(), begins) != pattern.end();
+using Program = std::unique_ptr<icu::RegexPattern>;
+
+Program compile(std::string_view pattern) {
+  const icu::UnicodeString text = utf16(pattern);
+  const IcuMemory memory;
+  UErrorCode status = U_ZERO_ERROR;
+  Program program(icu::RegexPattern::compile(text, UREGEX_CASE_INSENSITIVE, status));
+  memory.demand(status);
+  return program;
 }
 
 // Compiling costs a hundred times what a short search does, and hosts ask for one pattern again and again. A pattern
 // that does not compile is remembered as well.
 struct LastPattern {
   std::optional<std::string> text;
-  std::unique_ptr<icu::RegexPattern> compiled;
+  Program program;
 };
 
+// Both parts are there before either takes its place: a failed allocation leaves the pair as it was.
 const icu::RegexPattern* compiled(std::string_view pattern) {
   LastPattern& last = perThread<LastPattern>();
-  if (last.text == pattern) return last.compiled.get();
-  UErrorCode status = U_ZERO_ERROR;
-  last.compiled.reset(icu::RegexPattern::compile(utf16(pattern), UREGEX_CASE_INSENSITIVE, status));
-  last.text = pattern;
-  return last.compiled.get();
+  if (last.text == pattern) return last.program.get();
+  LastPattern made{std::string(pattern), compile(pattern)};
+  last = std::move(made);
+  return last.program.get();
 }
 
 bool isTooLong(std::string_view text, std::string_view pattern) {
-  return pattern.size() > kLongestPattern || text.size() > kLongestText ||
-         (text.size() > kLongestTextForBackReference && refersBack(pattern));
+  if (text.size() > kLongestText || pattern.size() > kLongestPattern) return true;
+  if (text.size() <= kLongestTextForBackReference && pattern.size() <= kAlwaysCompiled) return false;
+  const PatternWork work = workOf(pattern);
+  return (text.size() > kLongestTextForBackReference && work.refersBack) ||
+         (pattern.size() > kAlwaysCompiled && work.setMilliseconds > kSetMilliseconds);
+}
+
+// The matcher keeps a reference to the text.
+std::optional<std::string> search(const icu::RegexPattern& pattern, const icu::UnicodeString& text, std::size_t bytes) {
+  const IcuMemory memory;
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::RegexMatcher> matcher(pattern.matcher(text, status));
+  memory.demand(status);
+  if (U_FAILURE(status) || matcher->groupCount() < 1) return std::nullopt;
+  const Deadline deadline(*matcher, bytes, status);
+  const bool found = matcher->find(status) != 0;
+  memory.demand(status);
+  if (!found || U_FAILURE(status) || matcher->start(1, status) < 0) return std::nullopt;
+  std::string result;
+  matcher->group(1, status).toUTF8String(result);
+  memory.demand(status);
+  return result;
 }
 
 }  // namespace
@@ -78,17 +123,7 @@ bool isTooLong(std::string_view text, std::string_view pattern) {
 std::optional<std::string> firstGroup(std::string_view text, std::string_view pattern) {
   if (isTooLong(text, pattern)) return std::nullopt;
   const icu::RegexPattern* expression = compiled(pattern);
-  if (expression == nullptr) return std::nullopt;
-  UErrorCode status = U_ZERO_ERROR;
-  const icu::UnicodeString input = utf16(text);  // The matcher keeps a reference.
-  const std::unique_ptr<icu::RegexMatcher> matcher(expression->matcher(input, status));
-  if (U_FAILURE(status) || matcher == nullptr || matcher->groupCount() < 1) return std::nullopt;
-  const Deadline deadline(*matcher, status);
-  if (!matcher->find(status) || U_FAILURE(status) || matcher->start(1, status) < 0) return std::nullopt;
-  const icu::UnicodeString group = matcher->group(1, status);
-  if (U_FAILURE(status)) return std::nullopt;
-  std::string result;
-  return group.toUTF8String(result);
+  return expression != nullptr ? search(*expression, utf16(text), text.size()) : std::nullopt;
 }
 
 }  // namespace kzm::port

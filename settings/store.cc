@@ -11,10 +11,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unistd.h>
 #include <unordered_map>
 #include <utility>
 
+#include "port/linux/standard_error.h"
 #include "port/per_thread.h"
 
 namespace kzm::settings {
@@ -48,9 +48,6 @@ std::int64_t millisecondsNow() {
   clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
   return now.tv_sec * 1000 + now.tv_nsec / 1000000;
 }
-
-// One call, so that the line stays whole among those of other threads. Nobody is left to be told if it fails.
-void writeLine(const std::string& line) { (void)!::write(STDERR_FILENO, line.data(), line.size()); }
 
 }  // namespace
 
@@ -114,7 +111,7 @@ Parsed Store::readFile() {
 void Store::complain(const std::string& fault, const std::string& text) {
   const std::size_t complaint = fault.empty() ? 0 : std::hash<std::string>{}(fault + text);
   if (complaint != 0 && complaint != lastComplaint_) {
-    writeLine("KZMSettings: " + path_ + " is not used: " + fault + "\n");
+    port::tellStandardError("KZMSettings: " + path_ + " is not used: " + fault + "\n");
   }
   lastComplaint_ = complaint;
 }

@@ -5,32 +5,34 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <cstring>
 #include <ctime>
 #include <glib.h>
 #include <memory>
-#include <sys/uio.h>
+#include <string_view>
 #include <syslog.h>
 #include <unistd.h>
 
-#include "port/linux/retried.h"
+#include "port/linux/standard_error.h"
 
 namespace kzm::port {
 namespace {
 
 // Says so if there is no journal on this machine.
-bool writeToJournal(const std::string& text) {
-  const std::array<GLogField, 3> fields{
-      {{"MESSAGE", text.c_str(), -1}, {"PRIORITY", "5", -1}, {"SYSLOG_IDENTIFIER", program_invocation_short_name, -1}}};
+bool writeToJournal(std::string_view text) {
+  const std::array<GLogField, 3> fields{{{"MESSAGE", text.data(), static_cast<gssize>(text.size())},
+                                         {"PRIORITY", "5", -1},
+                                         {"SYSLOG_IDENTIFIER", program_invocation_short_name, -1}}};
   return g_log_writer_journald(G_LOG_LEVEL_MESSAGE, fields.data(), fields.size(), nullptr) == G_LOG_WRITER_HANDLED;
 }
 
 // Where nothing listens, as in a container, the text would be lost.
-void writeToSyslog(const std::string& text) {
-  if (::access("/dev/log", F_OK) == 0) ::syslog(LOG_NOTICE, "%s", text.c_str());
+void writeToSyslog(std::string_view text) {
+  if (::access("/dev/log", F_OK) == 0) ::syslog(LOG_NOTICE, "%.*s", static_cast<int>(text.size()), text.data());
 }
 
-// "YYYY-MM-DD HH:MM:SS.mmm name[pid:thread] ", in local time.
-std::string banner() {
+// "YYYY-MM-DD HH:MM:SS.mmm name[pid:thread] text", in local time. What does not fit is cut.
+void writeToStandardError(std::string_view text) {
   timespec now{};
   tm local{};
   ::clock_gettime(CLOCK_REALTIME, &now);
@@ -38,23 +40,18 @@ std::string banner() {
   std::array<char, 32> date{};
   std::strftime(date.data(), date.size(), "%Y-%m-%d %H:%M:%S", &local);
   constexpr long kNanosecondsPerMillisecond = 1'000'000;
-  std::array<char, 512> line{};
-  std::snprintf(line.data(), line.size(), "%s.%03ld %s[%d:%d] ", date.data(), now.tv_nsec / kNanosecondsPerMillisecond,
-                program_invocation_short_name, static_cast<int>(::getpid()), static_cast<int>(::gettid()));
-  return line.data();
-}
-
-// In one piece, so that the lines of several programs do not mix.
-void writeToStandardError(std::string text) {
-  std::string head = banner();
-  text += '\n';
-  const std::array<iovec, 2> parts{{{head.data(), head.size()}, {text.data(), text.size()}}};
-  retried([&] { return ::writev(STDERR_FILENO, parts.data(), static_cast<int>(parts.size())); });
+  std::array<char, 1024> line{};
+  std::snprintf(line.data(), line.size() - 1, "%s.%03ld %s[%d:%d] %.*s", date.data(),
+                now.tv_nsec / kNanosecondsPerMillisecond, program_invocation_short_name, static_cast<int>(::getpid()),
+                static_cast<int>(::gettid()), static_cast<int>(text.size()), text.data());
+  const std::size_t length = std::strlen(line.data());
+  line[length] = '\n';
+  tellStandardError({line.data(), length + 1});
 }
 
 class SystemLog final : public Log {
  public:
-  void write(const std::string& text) override {
+  void write(std::string_view text) noexcept override {
     const bool inJournal = writeToJournal(text);
     if (!inJournal) writeToSyslog(text);
     const bool errorsGoToJournal = g_log_writer_is_journald(STDERR_FILENO) != FALSE;

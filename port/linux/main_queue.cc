@@ -1,8 +1,10 @@
 // The main queue on GLib's default main context.
 #include "port/main_queue.h"
 
+#include <atomic>
 #include <glib-unix.h>
 #include <glib.h>
+#include <sys/eventfd.h>
 #include <utility>
 
 namespace kzm::port {
@@ -53,6 +55,19 @@ class DescriptorWatch final : public MainQueue::Watch {
 
 class GlibMainQueue final : public MainQueue {
  public:
+  // The context opens a descriptor when somebody first asks for it, and keeps it. Nobody can tell whether the host has
+  // asked; so until we have done so, a place is kept, perhaps for nothing.
+  std::optional<FileHandle> keepPlace() override {
+    if (isOpen_.load(std::memory_order_acquire)) return std::nullopt;
+    return FileHandle::adopt(::eventfd(0, EFD_CLOEXEC));
+  }
+
+  void open(const std::optional<FileHandle>& place) override {
+    if (place) place->close();
+    g_main_context_default();
+    isOpen_.store(true, std::memory_order_release);
+  }
+
   void after(std::int64_t nanoseconds, Action action) override {
     GSource* source = makeSource(runOnce, std::move(action));
     g_source_set_ready_time(source, nanoseconds > 0 ? readyTime(nanoseconds) : 0);
@@ -66,6 +81,9 @@ class GlibMainQueue final : public MainQueue {
     g_source_attach(source, nullptr);
     return std::make_unique<DescriptorWatch>(source);
   }
+
+ private:
+  std::atomic<bool> isOpen_{false};
 };
 
 }  // namespace

@@ -28,17 +28,32 @@ ExitStatus statusOf(const siginfo_t& info) {
   return {exited ? ExitStatus::Reason::exited : ExitStatus::Reason::signaled, info.si_status};
 }
 
+// Made before its program is started, so that nothing can fail for want of memory afterwards.
 class LinuxTask final : public Task {
  public:
-  LinuxTask(pid_t process, FileHandle pidfd) : process_(process), pidfd_(std::move(pidfd)) {}
+  LinuxTask() = default;
+  LinuxTask(const LinuxTask&) = delete;
+  LinuxTask& operator=(const LinuxTask&) = delete;
+  ~LinuxTask() override { closePidfd(); }
+
+  // False: the kernel cannot watch it.
+  [[nodiscard]] bool watch(pid_t process) {
+    process_ = process;
+    pidfd_ = openPidfd(process);
+    if (pidfd_ < 0) return errno == ESRCH;
+    // In a host that ignores SIGCHLD the child may have ended and be gone, and another process have got its number.
+    siginfo_t info{};
+    if (!waitFor(kPidfd, static_cast<id_t>(pidfd_), info, WEXITED | WNOHANG | WNOWAIT)) closePidfd();
+    return true;
+  }
 
   [[nodiscard]] int processIdentifier() const override { return process_; }
-  [[nodiscard]] int exitDescriptor() const override { return pidfd_.descriptor(); }
+  [[nodiscard]] int exitDescriptor() const override { return pidfd_; }
 
   [[nodiscard]] std::optional<ExitStatus> collect() override {
     if (status_) return status_;
     siginfo_t info{};
-    if (!pidfd_.isOpen() || !waitFor(kPidfd, static_cast<id_t>(pidfd_.descriptor()), info, WEXITED | WNOHANG)) {
+    if (pidfd_ < 0 || !waitFor(kPidfd, static_cast<id_t>(pidfd_), info, WEXITED | WNOHANG)) {
       status_ = ExitStatus{};  // ended, but something else has taken the status: a host that ignores SIGCHLD, say
     } else if (info.si_pid != 0) {
       status_ = statusOf(info);
@@ -47,23 +62,18 @@ class LinuxTask final : public Task {
   }
 
   void signal(int number) override {
-    if (!status_ && pidfd_.isOpen()) signalPidfd(pidfd_.descriptor(), number);
+    if (!status_ && pidfd_ >= 0) signalPidfd(pidfd_, number);
   }
 
  private:
-  pid_t process_;
-  FileHandle pidfd_;
+  void closePidfd() {
+    if (pidfd_ >= 0) ::close(std::exchange(pidfd_, -1));
+  }
+
+  pid_t process_ = 0;
+  int pidfd_ = -1;
   std::optional<ExitStatus> status_;
 };
-
-// The descriptor, closed if its process is no child of ours: in a host that ignores SIGCHLD the child may have ended
-// and be gone, and another process have got its number.
-FileHandle onlyOwnChild(FileHandle pidfd) {
-  siginfo_t info{};
-  const auto descriptor = static_cast<id_t>(pidfd.descriptor());
-  if (pidfd.isOpen() && !waitFor(kPidfd, descriptor, info, WEXITED | WNOHANG | WNOWAIT)) pidfd.close();
-  return pidfd;
-}
 
 // Ends a child that cannot be watched. It is asked for first, so it is there, and its number is still its own.
 void abandon(pid_t process) {
@@ -80,15 +90,13 @@ std::unique_ptr<Task> start(const Launch& launch) {
   // Proves, before anything is started, that such a descriptor is to be had, and keeps its place free.
   FileHandle place = FileHandle::adopt(openPidfd(::getpid()));
   if (!place.isOpen()) return nullptr;
+  auto task = std::make_unique<LinuxTask>();
   const std::optional<pid_t> process = spawn(launch);
   place.close();
   if (!process) return nullptr;
-  const int pidfd = openPidfd(*process);
-  if (pidfd < 0 && errno != ESRCH) {
-    abandon(*process);
-    return nullptr;
-  }
-  return std::make_unique<LinuxTask>(*process, onlyOwnChild(FileHandle::adopt(pidfd)));
+  if (task->watch(*process)) return task;
+  abandon(*process);
+  return nullptr;
 }
 
 }  // namespace kzm::port

@@ -120,5 +120,19 @@ TEST(ChildProcess, ConnectionsMayBeSetUntilTheStart) {
   EXPECT_TRUE(std::holds_alternative<Pipe>(child.configuration().standardOutput));
 }
 
+TEST(ChildProcess, ABrokenStandardErrorNeitherEndsTheHostNorSparesTheChild) {
+  std::signal(SIGPIPE, SIG_DFL);
+  const int saved = ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3);
+  const Pipe broken;
+  ::dup2(broken.writingEnd().descriptor(), STDERR_FILENO);
+  broken.readingEnd().close();
+  ChildProcess child({.executable = KZM_CHILD_HELPER, .arguments = {"block"}});
+  child.launchWithTimeout(0.05);
+  turnUntil([&] { return !child.isRunning(); });
+  ::dup2(saved, STDERR_FILENO);
+  ::close(saved);
+  EXPECT_EQ(child.exitStatus(), (ExitStatus{ExitStatus::Reason::signaled, SIGTERM}));
+}
+
 }  // namespace
 }  // namespace kzm::tests

@@ -139,6 +139,24 @@ TEST_F(RunningChildTest, TheReleaseOfAnObjectCollectsToo) {
   EXPECT_EQ(processState(process), "");
 }
 
+TEST_F(RunningChildTest, AQuestionToAnyChildCollectsWhatHasEnded) {
+  const SharedChild neverStarted = helper({"exit", "0"});
+  const SharedChild running = helper({"block"});
+  ASSERT_TRUE(running->launch());
+  for (const SharedChild& asked : {neverStarted, running}) {
+    for (const auto& question : {+[](platform::Child& child) { static_cast<void>(child.isRunning()); },
+                                 +[](platform::Child& child) { static_cast<void>(child.exitStatus()); }}) {
+      const SharedChild ended = helper({"exit", "0"});
+      ASSERT_TRUE(ended->launch());
+      ASSERT_TRUE(awaitEnd(ended->processIdentifier()));
+      question(*asked);
+      EXPECT_EQ(processState(ended->processIdentifier()), "");
+    }
+  }
+  ::kill(running->processIdentifier(), SIGKILL);
+  finish(*running);
+}
+
 TEST_F(RunningChildTest, AHostThatIgnoresSigchldLosesTheStatusButNotTheEnd) {
   const auto before = std::signal(SIGCHLD, SIG_IGN);
   const Pipe output;

@@ -144,6 +144,9 @@ TEST(MatchForExpression, LongTextsAreReadToTheEnd) {
   const std::string text = std::string(1000000, 'a') + " 42 b";
   EXPECT_EQ(matchForExpression(text, "(\\d+) B"), "42");
   EXPECT_EQ(matchForExpression(text, "a (\\d+)"), "42");
+  const std::string large = std::string(std::size_t{64} << 20U, 'a') + " 42 zebra";
+  for (const char* pattern : {"(zebra)", "\\d+ (ZEBRA)", "(z[a-e]+ra)$"})
+    EXPECT_EQ(matchForExpression(large, pattern), "zebra") << pattern;
 }
 
 // None of these may take longer than a few seconds; most would take years without a bound.
@@ -162,17 +165,31 @@ TEST(MatchForExpression, GivesUpWhatWouldRunAway) {
   EXPECT_EQ(matchForExpression(many.substr(0, port::kLongestTextForBackReference), "(a*)\\1b"), std::nullopt);
 }
 
-TEST(MatchForExpression, RefusesWhatIsTooLong) {
-  const std::string text = std::string(port::kLongestText - 1, 'a') + "b";
-  EXPECT_EQ(matchForExpression(text, "(b)"), "b");
-  EXPECT_EQ(matchForExpression(text + "c", "(b)"), std::nullopt);
-  const std::string pattern = "(b)" + std::string(port::kLongestPattern - 3, 'c');
-  EXPECT_EQ(matchForExpression("b", pattern + "|"), std::nullopt) << "would match nothing else, were it read";
-  EXPECT_EQ(matchForExpression(pattern.substr(2), "\\)(c)"), "c");
+std::string repeated(std::string_view text, std::size_t count) {
+  std::string all;
+  for (std::size_t i = 0; i < count; ++i) all += text;
+  return all;
+}
+
+TEST(MatchForExpression, LongTextsAreNotSearchedForBackReferences) {
   const std::string doubled = std::string(port::kLongestTextForBackReference - 2, 'a') + "bb";
   EXPECT_EQ(matchForExpression(doubled, "(b)\\1"), "b");
   EXPECT_EQ(matchForExpression(doubled + "a", "(b)\\1"), std::nullopt);
-  EXPECT_EQ(matchForExpression(doubled + "\\1", "(b)\\\\1"), std::nullopt) << "taken for one: a backslash and a digit";
+  EXPECT_EQ(matchForExpression(doubled + "\\1", "(b)\\\\1"), "b") << "a backslash and a digit";
+  EXPECT_EQ(matchForExpression(doubled + "\\k", "\\Q\\k\\E|(b)"), "b") << "quoted";
+}
+
+TEST(MatchForExpression, RefusesPatternsThatTakeTooLongToCompile) {
+  const std::string set = "[\\W]";
+  const std::size_t fits = (port::kAlwaysCompiled - 8) / set.size();
+  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated(set, fits)), "b") << "two kilobytes, whatever they hold";
+  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated(set, 3200)), std::nullopt);
+  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated("[\\x{0}-\\x{10ffff}]", 700)), std::nullopt);
+  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated("[^a]", 4000)), "b") << "sets that cost next to nothing";
+  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated("\\W", 5000)), "b") << "no set at all";
+  const std::string longest = "(b)|" + std::string(port::kLongestPattern - 4, 'c');
+  EXPECT_EQ(matchForExpression("b", longest), "b");
+  EXPECT_EQ(matchForExpression("b", longest + "c"), std::nullopt);
 }
 
 TEST(MatchForExpression, ATextBeyondAnyLimitIsNotEvenRead) {

@@ -1,13 +1,58 @@
-// Counts what a test program allocates: link allocations.cc into it.
+// Counts what a test program allocates, and lets one allocation fail: link allocations.cc into it, and icu_heap.cc too
+// where those of ICU are meant to fail.
 #ifndef KZM_TESTS_SUPPORT_ALLOCATIONS_H
 #define KZM_TESTS_SUPPORT_ALLOCATIONS_H
 
 #include <cstddef>
+#include <new>
+#include <sys/types.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace kzm::tests {
 
 /// How often any thread has called operator new since the program started.
 [[nodiscard]] std::size_t allocations() noexcept;
+
+/// Whose allocations.
+enum class Heap { own, icu };
+
+/// The allocation of that number from now on fails, counted from 1 on the calling thread; no other one does.
+void failAllocation(Heap heap, std::size_t number) noexcept;
+
+/// From now on none fails. Says whether one has.
+bool stopFailing() noexcept;
+
+/// Whether the allocation that is about to be made is to fail. Each question counts as one allocation.
+[[nodiscard]] bool allocationFails(Heap heap) noexcept;
+
+/// Calls with that one allocation failing. Says whether there was one of that number.
+template <class Call>
+bool callWithFailure(Heap heap, std::size_t number, Call call) {
+  failAllocation(heap, number);
+  try {
+    call();
+  } catch (const std::bad_alloc&) {
+    return stopFailing();
+  }
+  return stopFailing();
+}
+
+/// How a cold call went, in a process of its own that has never called before.
+enum class ColdCall { right, wrong, ended, noSuchAllocation };
+
+/// Makes the call in a child process with that one allocation failing, and then asks whether all is right.
+template <class Call, class Check>
+ColdCall coldCallWithFailure(Heap heap, std::size_t number, Call call, Check isRight) {
+  const pid_t process = ::fork();
+  if (process == 0) {
+    const bool failed = callWithFailure(heap, number, call);
+    ::_exit(static_cast<int>(!failed ? ColdCall::noSuchAllocation : isRight() ? ColdCall::right : ColdCall::wrong));
+  }
+  int status = 0;
+  if (process < 0 || ::waitpid(process, &status, 0) != process || !WIFEXITED(status)) return ColdCall::ended;
+  return static_cast<ColdCall>(WEXITSTATUS(status));
+}
 
 }  // namespace kzm::tests
 

@@ -3,6 +3,7 @@
 #define KZM_TESTS_SUPPORT_FAKE_LOG_H
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "port/log.h"
@@ -11,7 +12,7 @@ namespace kzm::tests {
 
 class FakeLog final : public port::Log {
  public:
-  void write(const std::string& text) override { lines.push_back(text); }
+  void write(std::string_view text) noexcept override { lines.emplace_back(text); }
   std::vector<std::string> lines;
 };
 
