@@ -15,7 +15,7 @@ namespace {
 
 void useLocale(std::string_view identifier) {
   setCurrentLocale(identifier);
-  chooseLanguage(currentLocale());
+  chooseLanguage(std::string(identifier));
 }
 
 void useTimeZone(std::string_view identifier) {

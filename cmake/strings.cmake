@@ -20,6 +20,7 @@ add_library(kzm_desk STATIC EXCLUDE_FROM_ALL)
 foreach(source export import open_data po report unicode_rules)
   target_sources(kzm_desk PRIVATE ${PROJECT_SOURCE_DIR}/tools/strings/${source}.cc)
 endforeach()
+target_sources(kzm_desk PRIVATE ${PROJECT_SOURCE_DIR}/cli/show/display_width.cc)
 target_link_libraries(kzm_desk PUBLIC kzm_strings ICU::uc ICU::i18n PRIVATE kzm_warnings)
 
 add_executable(kzm_strings_desk EXCLUDE_FROM_ALL ${PROJECT_SOURCE_DIR}/tools/strings/desk.cc)

@@ -1,8 +1,12 @@
 #include "localization/choice.h"
 
 #include <atomic>
+#include <cstddef>
 #include <forward_list>
 #include <mutex>
+#include <optional>
+#include <set>
+#include <unicode/localebuilder.h>
 #include <unicode/localematcher.h>
 #include <vector>
 
@@ -30,6 +34,22 @@ struct Wanted {
   std::atomic<const Choice*> latest{nullptr};
 };
 
+std::string scriptOf(icu::Locale locale) {
+  UErrorCode status = U_ZERO_ERROR;
+  locale.addLikelySubtags(status);
+  return locale.getScript();
+}
+
+/// The locale with the characters that its readers expect: where Chinese is written in traditional ones, in Taiwan,
+/// Hong Kong and Macau, so are the other Chinese languages.
+icu::Locale asRead(const icu::Locale& locale) {
+  if (*locale.getScript() != '\0' || scriptOf(locale) != "Hans") return locale;
+  UErrorCode status = U_ZERO_ERROR;
+  const std::string script = scriptOf(icu::Locale("zh", locale.getCountry()));
+  const icu::Locale changed = icu::LocaleBuilder().setLocale(locale).setScript(script).build(status);
+  return U_FAILURE(status) ? locale : changed;
+}
+
 // Held while something is made or replaced; what is there is read without it.
 constinit std::mutex making;
 
@@ -41,7 +61,7 @@ Wanted& want(std::span<const std::string> identifiers) {
   for (const std::string& identifier : identifiers) {
     // Anything may be asked for; a name that is none is passed over.
     const std::string canonical = port::localeIdentifier(identifier);
-    if (!canonical.empty()) languages.emplace_back(canonical.c_str());
+    if (!canonical.empty()) languages.push_back(asRead(icu::Locale(canonical.c_str())));
   }
   // Texts are asked for up to the very end of the process, from the destructors of static objects too.
   static port::NeverDestroyed<std::forward_list<Wanted>> all;
@@ -63,17 +83,48 @@ icu::Locale localeOf(std::string_view language) {
   return icu::Locale::forLanguageTag({language.data(), static_cast<std::int32_t>(language.size())}, status);
 }
 
-/// The table whose language serves the wanted ones best; null when none of them does.
-const StringTable* bestOf(const std::vector<const StringTable*>& tables, const std::vector<icu::Locale>& languages) {
+struct Match {
+  std::size_t desired;
+  std::size_t offered;
+};
+
+std::optional<Match> match(const std::vector<icu::Locale>& desired, const std::vector<icu::Locale>& offered) {
   using Locales = icu::Locale::RangeIterator<std::vector<icu::Locale>::const_iterator>;
-  std::vector<icu::Locale> supported;
-  for (const StringTable* table : tables) supported.push_back(localeOf(table->language));
   UErrorCode status = U_ZERO_ERROR;
-  Locales offered(supported.begin(), supported.end());
-  Locales desired(languages.begin(), languages.end());
-  const auto matcher = icu::LocaleMatcher::Builder().setSupportedLocales(offered).setNoDefaultLocale().build(status);
-  const std::int32_t best = matcher.getBestMatchResult(desired, status).getSupportedIndex();
-  return U_FAILURE(status) || best < 0 ? nullptr : tables[static_cast<std::size_t>(best)];
+  Locales supported(offered.begin(), offered.end());
+  Locales wanted(desired.begin(), desired.end());
+  const auto matcher = icu::LocaleMatcher::Builder().setSupportedLocales(supported).setNoDefaultLocale().build(status);
+  const auto result = matcher.getBestMatchResult(wanted, status);
+  if (U_FAILURE(status) || result.getSupportedIndex() < 0) return std::nullopt;
+  return Match{static_cast<std::size_t>(result.getDesiredIndex()),
+               static_cast<std::size_t>(result.getSupportedIndex())};
+}
+
+std::set<std::string> scriptsOf(const std::vector<icu::Locale>& languages) {
+  std::set<std::string> scripts;
+  for (const icu::Locale& language : languages) scripts.insert(scriptOf(language));
+  return scripts;
+}
+
+/// The table whose language serves the wanted ones best; null when none of them does. A nearest language serves only
+/// readers of its script: the matcher, left alone, gives Russian to readers of Latin letters.
+const StringTable* bestOf(const std::vector<const StringTable*>& tables, std::vector<icu::Locale> languages) {
+  while (!languages.empty()) {
+    const std::set<std::string> scripts = scriptsOf(languages);
+    std::vector<const StringTable*> readable;
+    std::vector<icu::Locale> offered;
+    for (const StringTable* table : tables) {
+      const icu::Locale locale = localeOf(table->language);
+      if (!scripts.contains(scriptOf(locale))) continue;
+      readable.push_back(table);
+      offered.push_back(locale);
+    }
+    const std::optional<Match> best = match(languages, offered);
+    if (!best) return nullptr;
+    if (scriptOf(languages[best->desired]) == scriptOf(offered[best->offered])) return readable[best->offered];
+    languages.erase(languages.begin() + static_cast<std::ptrdiff_t>(best->desired));
+  }
+  return nullptr;
 }
 
 Texts textsIn(const ResourceBundle& bundle, const std::vector<const StringTable*>& tables,

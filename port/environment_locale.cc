@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <set>
+#include <string>
+#include <unicode/localebuilder.h>
 #include <unicode/locid.h>
 #include <unicode/uenum.h>
 #include <unicode/uloc.h>
@@ -22,6 +24,7 @@ constexpr Modifier kModifiers[] = {
     {"latin",      "Latn", ""        },
     {"cyrillic",   "Cyrl", ""        },
     {"devanagari", "Deva", ""        },
+    {"iqtelif",    "Latn", ""        },
     {"valencia",   "",     "VALENCIA"},
 };
 // clang-format on
@@ -76,28 +79,60 @@ std::string canonicalName(const std::string& name) {
   return locale.isBogus() || *locale.getLanguage() == '\0' ? std::string() : locale.getName();
 }
 
-std::set<std::string, std::less<>> availableLanguages() {
+template <typename Use>
+void forEachAvailableName(Use use) {
   UErrorCode status = U_ZERO_ERROR;
   UEnumeration* names = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
-  std::set<std::string, std::less<>> languages;
-  while (const char* name = uenum_next(names, nullptr, &status)) {
-    languages.emplace(name, std::strcspn(name, "_"));
-  }
+  while (const char* name = uenum_next(names, nullptr, &status)) use(name);
   uenum_close(names);
+}
+
+std::set<std::string, std::less<>> availableLanguages() {
+  std::set<std::string, std::less<>> languages;
+  forEachAvailableName([&](const char* name) { languages.emplace(name, std::strcspn(name, "_")); });
   return languages;
 }
 
 // Asked of ICU's list, not by opening the language's data: with fallback every name would be found, in the data of the
 // process's own locale; without it ICU would keep a bundle that has lost its parents ("nb" that of "no") for everybody.
-bool isLanguageKnown(const std::string& identifier) {
+bool isLanguageKnown(const icu::Locale& locale) {
   static const std::set<std::string, std::less<>>& known = *new auto(availableLanguages());
-  return known.contains(canonical(identifier).getLanguage());
+  return known.contains(locale.getLanguage());
 }
 
-/// No locale at all, which is what gettext too takes as a wish for untranslated texts.
+std::string likelyScript(icu::Locale locale) {
+  UErrorCode status = U_ZERO_ERROR;
+  locale.addLikelySubtags(status);
+  return locale.getScript();
+}
+
+/// Whether ICU has data for the language in the script that the locale names, if it names one.
+bool isScriptKnown(const icu::Locale& locale) {
+  const std::string script = locale.getScript();
+  bool isKnown = script.empty();
+  forEachAvailableName([&](const char* name) {
+    if (isKnown) return;
+    const icu::Locale available(name);
+    isKnown = std::strcmp(available.getLanguage(), locale.getLanguage()) == 0 && likelyScript(available) == script;
+  });
+  return isKnown;
+}
+
+std::string withoutScript(const icu::Locale& locale) {
+  UErrorCode status = U_ZERO_ERROR;
+  const icu::Locale changed = icu::LocaleBuilder().setLocale(locale).setScript({}).build(status);
+  return U_FAILURE(status) ? locale.getLanguage() : changed.getName();
+}
+
+/// The name of no language, with a codeset or without.
 bool isPlain(std::string_view name) {
   const std::string_view head = name.substr(0, name.find_first_of(".@"));
   return name.empty() || head == "C" || head == "POSIX";
+}
+
+/// Where gettext too translates nothing. C.UTF-8 is a locale like others to it.
+bool isUntranslated(std::string_view name) {
+  return isPlain(name) && name.find_first_of(".@") == std::string_view::npos;
 }
 
 std::string_view valueOf(const Environment& environment, const char* name) {
@@ -137,7 +172,9 @@ std::string localeIdentifier(std::string_view name) {
 
 std::string usableLocale(std::string_view name) {
   std::string identifier = localeIdentifier(name);
-  return !identifier.empty() && isLanguageKnown(identifier) ? identifier : std::string(kFallbackLocale);
+  const icu::Locale locale = canonical(identifier);
+  if (identifier.empty() || !isLanguageKnown(locale)) return std::string(kFallbackLocale);
+  return isScriptKnown(locale) ? identifier : withoutScript(locale);
 }
 
 std::string numberLocale(const Environment& environment) { return usableLocale(firstSet(environment, "LC_NUMERIC")); }
@@ -151,7 +188,7 @@ std::string dateLocale(const Environment& environment) { return usableLocale(fir
 std::vector<std::string> textLocales(const Environment& environment) {
   std::vector<std::string> identifiers;
   const std::string_view message = firstSet(environment, "LC_MESSAGES");
-  if (isPlain(message)) return identifiers;
+  if (isUntranslated(message)) return identifiers;
   std::string_view list = valueOf(environment, "LANGUAGE");
   while (!list.empty()) {
     const std::string_view entry = list.substr(0, list.find(':'));

@@ -36,8 +36,8 @@ inline constexpr std::string_view kFallbackLocale = "en_001";
 
 /// The identifiers of the languages in which texts are wanted, best first; empty means English. LANGUAGE holds a list,
 /// separated by colons, that goes before the message locale (LC_ALL, LC_MESSAGES, LANG), but counts only when there is
-/// one: with C, POSIX or nothing at all the texts stay English. An entry "C" ends the list; malformed ones are left
-/// out.
+/// one: with plain C, plain POSIX or nothing at all the texts stay English. C.UTF-8 is a message locale. An entry "C"
+/// ends the list; malformed ones are left out.
 [[nodiscard]] std::vector<std::string> textLocales(const Environment& environment = processEnvironment);
 
 /// The canonical ICU identifier for a locale name ("iw_IL.UTF-8" -> "he_IL"), whether or not ICU knows the language.
@@ -46,8 +46,9 @@ inline constexpr std::string_view kFallbackLocale = "en_001";
 /// malformed or stands for no language, as C and POSIX do.
 [[nodiscard]] std::string localeIdentifier(std::string_view name);
 
-/// The same, but kFallbackLocale for whatever has no identifier and for languages that ICU has no data for: those would
-/// otherwise be shown in the style of whatever locale the process happened to start in.
+/// The same, but kFallbackLocale for whatever has no identifier and for languages that ICU has no data for, and without
+/// the script where ICU has the language in other scripts alone ("be_Latn_BY" -> "be_BY"): those would otherwise be
+/// shown in the style of whatever locale the process happened to start in.
 [[nodiscard]] std::string usableLocale(std::string_view name);
 
 }  // namespace kzm::port

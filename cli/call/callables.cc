@@ -36,6 +36,8 @@ AttributedString replacedByAttributed(AttributedString receiver, std::string_vie
   return receiver;
 }
 
+std::string isolatedText(std::string_view text) { return isolated(text); }
+
 // An operation of the shared default units.
 template <MeasurementUnit (KZMUtilitiesDefaultUnits::*Unit)() const>
 MeasurementUnit ofSharedUnits() {
@@ -130,6 +132,7 @@ const Callable kCallables[] = {
     row<ordinalSuffixFromDay>("ordinalSuffixFromDay:", "day"),
     row<replacedByText>("replaceString:withString:attributes:", "receiver target replacement attributes"),
     row<replacedByAttributed>("replaceString:withAttributedString:", "receiver target replacement"),
+    row<isolatedText>("isolated", "text"),
     row<doesStringMatchExpression>("doesStringMatchExpression:", "text pattern"),
     row<matchForExpression>("matchForExpression:", "text pattern"),
     row<KZMMAXDouble>("KZMMAXDouble", "a b"),

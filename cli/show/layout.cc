@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include <KZMUtilities/text.h>
 
 #include "cli/show/display_width.h"
 
@@ -42,6 +45,26 @@ Grid gridOf(const std::vector<Section>& sections) {
     }
   }
   return grid;
+}
+
+bool isRightToLeft(const Piece& piece) { return hasRightToLeft(piece.text); }
+
+// Without a letter from right to left nothing in the line moves, and no marks get into copies of it.
+bool needsIsolates(const Piece& name, const std::vector<Cell>& cells) {
+  const auto holdsRightToLeft = [](const Cell& cell) { return std::ranges::any_of(cell, isRightToLeft); };
+  return isRightToLeft(name) || std::ranges::any_of(cells, holdsRightToLeft);
+}
+
+// The pieces of a cell as they are, but the first and the last with the marks that isolate them together.
+Cell isolated(Cell cell) {
+  std::string text;
+  for (const Piece& piece : cell) text += piece.text;
+  const std::string whole = kzm::isolated(text);
+  const std::size_t place = whole.find(text);
+  if (cell.empty()) return cell;
+  cell.front().text.insert(0, whole.substr(0, place));
+  cell.back().text += whole.substr(place + text.size());
+  return cell;
 }
 
 // One line in the making, cut at the last column of the look.
@@ -85,14 +108,17 @@ class Line {
 
 std::string lineOf(const Piece& name, std::size_t indent, const std::vector<Cell>& cells, const Grid& grid,
                    const Look& look) {
+  const bool isolates = needsIsolates(name, cells);
+  const auto placed = [isolates](Cell cell) { return isolates ? isolated(std::move(cell)) : cell; };
   Line line(look);
   line.fill(indent);
   const bool isLong = indent + displayWidth(name.text) > grid.name;
-  line.add(isLong ? Piece{std::string(fitting(name.text, grid.name - indent - 1)) + "…", name.style} : name);
+  const std::string shown = isLong ? std::string(fitting(name.text, grid.name - indent - 1)) + "…" : name.text;
+  for (const Piece& piece : placed({{shown, name.style}})) line.add(piece);
   std::size_t until = grid.name;
   for (std::size_t i = 0; i < cells.size(); ++i) {
     if (grid.cells[i] > 0) until += kGap + grid.cells[i];
-    line.fillAndAdd(until, cells[i]);
+    line.fillAndAdd(until, placed(cells[i]));
   }
   return line.take();
 }

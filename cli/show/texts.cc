@@ -1,6 +1,7 @@
 #include "cli/show/texts.h"
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <utility>
 
@@ -32,6 +33,15 @@ Dictionary sizeOptions() {
           {"attributes-main", kStrong}};
 }
 
+// One decimal at least: without decimals the number of an attributed throughput is in plain digits, in every locale.
+Dictionary rateOptions() {
+  const Dictionary one = rule(std::numeric_limits<int>::max(), 1);
+  Dictionary all = sizeOptions();
+  all.set("decimals-kb", Array{one});
+  for (const char* level : {"decimals-mb", "decimals-gb"}) all.set(level, Array{rule(10, 2), one});
+  return all;
+}
+
 Cell cellOf(const AttributedString& text) {
   Cell cell;
   for (const AttributedString::Run& run : text.runs()) {
@@ -46,7 +56,7 @@ Cell dash() { return {{"–", Style::faint}}; }
 
 Cell networkCell(const Dictionary& options, std::optional<double> bytesPerSecond) {
   if (!bytesPerSecond.has_value()) return dash();
-  Dictionary all = sizeOptions();
+  Dictionary all = rateOptions();
   for (const Dictionary::Entry& entry : options) all.set(entry.key, entry.value);
   return cellOf(KZMUtilitiesFormatBandwidthWithAttributes(all, *bytesPerSecond));
 }

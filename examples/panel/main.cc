@@ -23,8 +23,8 @@ struct Options {
 
 bool useLocale(std::string_view identifier, Options& /*options*/) {
   kzm::setCurrentLocale(identifier);
-  const std::string usable[] = {kzm::currentLocale()};
-  KZMLocalizationSetLanguages(usable);
+  const std::string languages[] = {std::string(identifier)};
+  KZMLocalizationSetLanguages(languages);
   return true;
 }
 

@@ -69,7 +69,8 @@ class KZM_EXPORT Locale final : public Object {
 
 /// Chooses the locale of numbers and of default units for the whole process: an identifier such as "de_CH" or
 /// "hi_IN@numbers=deva", or a POSIX name such as "de_CH.UTF-8". To be called at start-up: formatters, unit texts and
-/// default units made before keep the locale they were made in. Texts are chosen by the localization library.
+/// default units made before keep the locale they were made in. Texts are chosen by the localization library, which is
+/// to be given the same identifier: there are languages with texts, but without a number style of their own.
 KZM_EXPORT void setCurrentLocale(std::string_view identifier);
 
 /// The identifier of the locale of numbers.

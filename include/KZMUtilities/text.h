@@ -1,4 +1,5 @@
-// Helpers for strings and attributed strings: replacing the first occurrence of a text, and regular expressions.
+// Helpers for strings and attributed strings: replacing the first occurrence of a text, putting a text into a line of
+// any direction, and regular expressions.
 //
 // All operations are free of shared state and may be called from any thread; a text that is changed belongs to the
 // calling thread during the call. Texts are UTF-8.
@@ -28,6 +29,22 @@ KZM_EXPORT void replaceStringWithStringAttributes(AttributedString& text, std::s
 /// `replaceString:withAttributedString:`   The same with a replacement that keeps its own runs.
 KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::string_view target,
                                                   const AttributedString& replacement);
+
+/// The text between a first-strong isolate, U+2068, and its end, U+2069, so that it keeps its own order in a line of
+/// any direction, and does not change that of its neighbors. Where the sign of a number or its digits would mislead
+/// that, an isolate of the right direction, U+2066 or U+2067: a unit does not change sides when its number becomes
+/// negative. To be used for each reading and each name that goes into a longer line: in Arabic, Hebrew, Persian and
+/// Urdu "19.7 GB / 83.1 GB" would be seen as "GB / 83.1 GB 19.7".
+///
+/// Isolates of the text that are open get their ends, and ends without a beginning get one. An empty text stays as it
+/// is, and so does one that is isolated as a whole. Not needed are isolates in a line whose direction and whose texts
+/// are all from left to right, and for a text that has a line of its own; there they are invisible, but in copies.
+///
+/// Example:  isolated("19.7 GB") + " / " + isolated("83.1 GB")  // seen as "83.1 GB / 19.7 GB" in a Hebrew line
+[[nodiscard]] KZM_EXPORT std::string isolated(std::string_view text);
+
+/// The same; the marks have the attributes of their neighbors.
+[[nodiscard]] KZM_EXPORT AttributedString isolated(const AttributedString& text);
 
 /// `doesStringMatchExpression:`   Whether the pattern is found in the text and its capture group 1 took part.
 ///

@@ -24,6 +24,16 @@ TEST(Layout, NamesAtTheLeftNumbersAtTheRight) {
                                      }));
 }
 
+TEST(Layout, LinesWithTextFromRightToLeftAreIsolatedCellByCell) {
+  const Section memory{
+      "זיכרון", {"used"}, {{"main", {{{"19.7", Style::strong}, {" GB"}}}}, {"ראשי", {cell("19.7 GB")}}}};
+  EXPECT_EQ(laidOut({memory}, {}), (Lines{
+                                       "\u2068זיכרון\u2069                          \u2068used\u2069",
+                                       "  main                       19.7 GB",
+                                       "  \u2068ראשי\u2069                       \u206819.7 GB\u2069",
+                                   }));
+}
+
 TEST(Layout, SectionsShareOneGridAndEmptyOnesAreLeftOut) {
   const Section disks{"Disk activity", {"read", "written"}, {{"sda", {cell("123,456,789 GB/s"), cell("-")}}}};
   const Section fans{"Fans", {}, {}};
@@ -50,7 +60,7 @@ TEST(Layout, WideNamesAndOtherScriptsStayAligned) {
       {},
       {{"/mnt/网络", {cell("٤٢ GB")}}, {"/a/very/long/directory/name/that/goes/on/and/on", {cell("1 GB")}}}};
   const Lines lines = laidOut({section}, {});
-  EXPECT_EQ(lines[1], "  /mnt/网络                                      ٤٢ GB");
+  EXPECT_EQ(lines[1], "  \u2068/mnt/网络\u2069                                      \u2068٤٢ GB\u2069");
   EXPECT_EQ(lines[2], "  /a/very/long/directory/name/that/goes…          1 GB");
   EXPECT_EQ(displayWidth(lines[1]), displayWidth(lines[2]));
 }

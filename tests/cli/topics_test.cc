@@ -32,15 +32,15 @@ Snapshot network() {
 
 TEST(Topics, Network) {
   EXPECT_EQ(shown("network", network()), (Lines{
-                                             "  lo                          0 KB/s        0 KB/s",
-                                             "  eth0                     1.43 MB/s        2 KB/s",
+                                             "  lo                        0.0 KB/s      0.0 KB/s",
+                                             "  eth0                     1.43 MB/s      2.0 KB/s",
                                              "  wlan0                            –             –",
                                          }));
   EXPECT_EQ(shown("network", network(), {.all = true}).size(), 4U) << "also what was never used";
   EXPECT_EQ(shown("network", network(), {.bandwidth = {{"bandwidthformat", 2}}, .interfaces = {"eth0"}}),
-            (Lines{"  eth0                     11.4 Mb/s       16 Kb/s"}));
+            (Lines{"  eth0                     11.4 Mb/s     16.0 Kb/s"}));
   EXPECT_EQ(shown("network", network(), {.bandwidth = {{"unitsize", 1}}, .interfaces = {"ifb0"}}),
-            (Lines{"  ifb0                           0 K           0 K"}))
+            (Lines{"  ifb0                         0.0 K         0.0 K"}))
       << "what is asked for is shown, used or not";
 }
 

@@ -29,6 +29,10 @@ struct NameCase {
 
 const NameCase kNames[] = {
     {"codeset dropped", "de_CH.UTF-8", "de_CH"},
+    {"a script that ICU has no data for", "be_BY@latin", "be_BY"},
+    {"the same with keywords", "ru-Latn-RU-u-nu-arab", "ru_RU@numbers=arab"},
+    {"the language's own script", "be_Cyrl_BY", "be_Cyrl_BY"},
+    {"a script of Chinese", "zh_Hant_HK", "zh_Hant_HK"},
     {"codeset of another kind", "ja_JP.eucJP", "ja_JP"},
     {"no codeset", "fr_FR", "fr_FR"},
     {"language alone", "eo", "eo"},
@@ -44,7 +48,8 @@ const NameCase kNames[] = {
     {"valencia without a region", "ca@valencia", "ca__VALENCIA"},
     {"euro dropped", "de_DE@euro", "de_DE"},
     {"unknown modifier dropped", "aa_ER@saaho", "en_001"},
-    {"unknown modifier of a known language", "tt_RU@iqtelif", "tt_RU"},
+    {"unknown modifier of a known language", "de_DE@phonebook", "de_DE"},
+    {"Tatar in Latin letters", "tt_RU@iqtelif", "tt_RU"},
     {"empty modifier", "de_DE@", "de_DE"},
     {"empty codeset", "de_DE.", "de_DE"},
     {"keyword kept", "hi_IN@numbers=deva", "hi_IN@numbers=deva"},
@@ -108,6 +113,8 @@ TEST(EnvironmentLocale, OverlongNamesAndNullCharactersAreMalformed) {
 TEST(EnvironmentLocale, IdentifiersNeedNoData) {
   EXPECT_EQ(localeIdentifier("xx_YY.UTF-8"), "xx_YY");
   EXPECT_EQ(localeIdentifier("sr_RS@latin"), "sr_Latn_RS");
+  EXPECT_EQ(localeIdentifier("be_BY@latin"), "be_Latn_BY");
+  EXPECT_EQ(localeIdentifier("tt_RU@iqtelif"), "tt_Latn_RU");
   EXPECT_EQ(localeIdentifier("C.UTF-8"), "");
   EXPECT_EQ(localeIdentifier(""), "");
   EXPECT_EQ(localeIdentifier("garbage!!"), "");
@@ -160,7 +167,8 @@ const TextCase kTexts[] = {
     {"LANGUAGE before LC_ALL too", "LC_ALL=en_US LANGUAGE=es", "es en_US"},
     {"LANGUAGE alone has no say", "LANGUAGE=es:fr", ""},
     {"LANGUAGE has none beside C", "LANG=C LANGUAGE=es", ""},
-    {"nor beside C.UTF-8", "LANG=C.UTF-8 LANGUAGE=es", ""},
+    {"but beside C.UTF-8", "LANG=C.UTF-8 LANGUAGE=es", "es"},
+    {"C.UTF-8 alone", "LANG=C.UTF-8", ""},
     {"nor beside POSIX", "LC_ALL=POSIX LANG=de LANGUAGE=es", ""},
     {"empty LANGUAGE", "LANG=de_DE LANGUAGE=", "de_DE"},
     {"empty entries", "LANG=de_DE LANGUAGE=:es::fr:", "es fr de_DE"},

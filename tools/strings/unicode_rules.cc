@@ -6,6 +6,7 @@
 #include <unicode/unistr.h>
 #include <unicode/uscript.h>
 
+#include "cli/show/display_width.h"
 #include "tools/strings/allowed.h"
 #include "tools/strings/key.h"
 #include "tools/strings/open_data.h"
@@ -109,15 +110,9 @@ void checkScripts(const Table& table, const Entry& entry, Report& report) {
 
 // Width ---------------------------------------------------------------------------------------------------------------
 
-std::size_t cellsOfCharacter(UChar32 character) {
-  if ((U_GET_GC_MASK(character) & (U_GC_MN_MASK | U_GC_ME_MASK | U_GC_CF_MASK)) != 0) return 0;
-  const int width = u_getIntPropertyValue(character, UCHAR_EAST_ASIAN_WIDTH);
-  return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
-}
-
 void checkWidth(const Entry& entry, Report& report) {
   const std::string unit = unitOf(parseKey(entry.key)->pattern);
-  const std::size_t cells = cellsOf(unitOf(entry.text));
+  const std::size_t cells = cli::displayWidth(unitOf(entry.text));
   const auto limit = widthLimit(unit);
   if (!limit) {
     report.add(entry, "no limit of width for " + inQuotes(unit));
@@ -128,12 +123,6 @@ void checkWidth(const Entry& entry, Report& report) {
 }
 
 }  // namespace
-
-std::size_t cellsOf(std::string_view text) {
-  std::size_t cells = 0;
-  forEachCharacter(unicode(text), [&](UChar32 character) { cells += cellsOfCharacter(character); });
-  return cells;
-}
 
 Faults unicodeFaults(const Table& table) {
   Report report(table);

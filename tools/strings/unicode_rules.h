@@ -2,15 +2,9 @@
 #ifndef TOOLS_STRINGS_UNICODE_RULES_H
 #define TOOLS_STRINGS_UNICODE_RULES_H
 
-#include <cstddef>
-#include <string_view>
-
 #include "tools/strings/catalog.h"
 
 namespace kzm::strings {
-
-/// The cells of a terminal that the text takes.
-[[nodiscard]] std::size_t cellsOf(std::string_view text);
 
 /// The faults of a completed table: characters that do not belong in a text, other forms than NFC, scripts mixed in a
 /// word, texts that are too wide, and texts that are not what the source that they name says.

@@ -247,13 +247,5 @@ TEST(UnicodeRules, TextsThatNameUnicodesDataAreInThem) {
   EXPECT_EQ(faults("%@ кмм"), "2: \"%@ кмм\" is not in the data of " + source);
 }
 
-TEST(Allowed, WidthIsCountedInCells) {
-  EXPECT_EQ(cellsOf(""), 0U);
-  EXPECT_EQ(cellsOf("km/h"), 4U);
-  EXPECT_EQ(cellsOf("公里"), 4U);
-  EXPECT_EQ(cellsOf("มิลลิบาร์"), 6U);
-  EXPECT_EQ(cellsOf("میلی\u200Cولت"), 7U);
-}
-
 }  // namespace
 }  // namespace kzm::strings
