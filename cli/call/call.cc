@@ -5,13 +5,23 @@
 #include <utility>
 #include <vector>
 
-#include "cli/call/callables.h"
+#include "catalogue/callables.h"
 #include "cli/flags.h"
 #include "cli/neighbours.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
 namespace {
+
+using catalogue::Callable;
+using catalogue::callableNamed;
+using catalogue::callables;
+using catalogue::described;
+using catalogue::Json;
+using catalogue::jsonText;
+using catalogue::parseJson;
+using catalogue::Result;
+using catalogue::valueFromJson;
 
 // A setting given as KEYPATH=JSON.
 void addSetting(Dictionary& settings, std::string_view text) {

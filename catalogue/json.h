@@ -1,15 +1,16 @@
 // JSON texts and the library's values.
-#ifndef KZM_CLI_JSON_H
-#define KZM_CLI_JSON_H
+#ifndef KZM_CATALOGUE_JSON_H
+#define KZM_CATALOGUE_JSON_H
 
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include <KZMUtilities/attributed_string.h>
 #include <KZMUtilities/dictionary.h>
 
-namespace kzm::cli {
+namespace kzm::catalogue {
 
 using Json = nlohmann::json;
 
@@ -25,6 +26,9 @@ using Json = nlohmann::json;
 /// An options dictionary; its attribute sets are carried through unread.
 [[nodiscard]] Dictionary optionsFromJson(const Json& json);
 
+/// The doubles that JSON has no number for: "NaN", "Infinity" and "-Infinity". Nothing for any other text.
+[[nodiscard]] std::optional<double> namedDouble(std::string_view text);
+
 // One line of JSON each. Doubles are the shortest text that reads back to the same double, always with a point or an
 // exponent, and "NaN", "Infinity" and "-Infinity" as strings. Bytes that are no UTF-8 become U+FFFD.
 [[nodiscard]] std::string jsonText(const Json& json);
@@ -34,6 +38,6 @@ using Json = nlohmann::json;
 [[nodiscard]] std::string jsonText(const Dictionary& dictionary);
 [[nodiscard]] std::string jsonText(const AttributedString& text);
 
-}  // namespace kzm::cli
+}  // namespace kzm::catalogue
 
 #endif

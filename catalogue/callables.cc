@@ -1,4 +1,4 @@
-#include "cli/call/callables.h"
+#include "catalogue/callables.h"
 
 #include <algorithm>
 
@@ -15,7 +15,7 @@
 #include <KZMUtilities/time_items.h>
 #include <KZMUtilities/weather.h>
 
-namespace kzm::cli {
+namespace kzm::catalogue {
 namespace {
 
 // The bundle is always the library's own.
@@ -161,4 +161,4 @@ std::string described(const Callable& callable) {
   return text;
 }
 
-}  // namespace kzm::cli
+}  // namespace kzm::catalogue

@@ -1,14 +1,14 @@
 // The table of what can be called by name.
-#ifndef KZM_CLI_CALL_CALLABLES_H
-#define KZM_CLI_CALL_CALLABLES_H
+#ifndef KZM_CATALOGUE_CALLABLES_H
+#define KZM_CATALOGUE_CALLABLES_H
 
 #include <span>
 #include <string>
 #include <string_view>
 
-#include "cli/call/marshal.h"
+#include "catalogue/marshal.h"
 
-namespace kzm::cli {
+namespace kzm::catalogue {
 
 /// One exported function or operation.
 struct Callable {
@@ -27,6 +27,6 @@ struct Callable {
 /// The callable as `list` shows it: its name, then "parameter:kind" for each parameter.
 [[nodiscard]] std::string described(const Callable& callable);
 
-}  // namespace kzm::cli
+}  // namespace kzm::catalogue
 
 #endif

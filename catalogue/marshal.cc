@@ -1,10 +1,8 @@
-#include "cli/call/marshal.h"
+#include "catalogue/marshal.h"
 
 #include <limits>
 
-#include "cli/numbers.h"
-
-namespace kzm::cli {
+namespace kzm::catalogue {
 namespace {
 
 [[noreturn]] void refuse(std::string_view wanted, const Json& json) {
@@ -112,4 +110,4 @@ Result resultOf(const std::shared_ptr<const NumberFormatter>& formatter) {
                              {"maximumFractionDigits", formatter->maximumFractionDigits()}});
 }
 
-}  // namespace kzm::cli
+}  // namespace kzm::catalogue

@@ -2,8 +2,8 @@
 //
 // `adapt<F>` makes a Callable's function of any function whose parameters and result are of the kinds listed here; what
 // each kind looks like in JSON is one specialisation.
-#ifndef KZM_CLI_CALL_MARSHAL_H
-#define KZM_CLI_CALL_MARSHAL_H
+#ifndef KZM_CATALOGUE_MARSHAL_H
+#define KZM_CATALOGUE_MARSHAL_H
 
 #include <cstdint>
 #include <memory>
@@ -19,10 +19,10 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
 
-#include "cli/errors.h"
-#include "cli/json.h"
+#include "catalogue/errors.h"
+#include "catalogue/json.h"
 
-namespace kzm::cli {
+namespace kzm::catalogue {
 
 /// A result: its JSON text, and the bare text when it is a string.
 struct Result {
@@ -139,6 +139,6 @@ constexpr auto kindsOf(R (*)(A...) noexcept(N)) {
 template <auto F>
 inline constexpr auto kKinds = kindsOf(F);
 
-}  // namespace kzm::cli
+}  // namespace kzm::catalogue
 
 #endif

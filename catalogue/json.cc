@@ -1,17 +1,28 @@
-#include "cli/json.h"
+#include "catalogue/json.h"
 
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <utility>
 
-#include "cli/errors.h"
+#include "catalogue/errors.h"
 
-namespace kzm::cli {
+namespace kzm::catalogue {
 namespace {
 
 constexpr int kDeepest = 256;
+
+struct NamedDouble {
+  std::string_view name;
+  double number;
+};
+constexpr NamedDouble kNamedDoubles[] = {
+    {"NaN", std::numeric_limits<double>::quiet_NaN()},
+    {"Infinity", std::numeric_limits<double>::infinity()},
+    {"-Infinity", -std::numeric_limits<double>::infinity()},
+};
 
 // A set of text attributes as it was given.
 class JsonAttributes final : public Object {
@@ -94,6 +105,13 @@ Dictionary optionsFromJson(const Json& json) {
   return options;
 }
 
+std::optional<double> namedDouble(std::string_view text) {
+  for (const NamedDouble& named : kNamedDoubles) {
+    if (named.name == text) return named.number;
+  }
+  return std::nullopt;
+}
+
 std::string jsonText(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
 
 std::string jsonText(double number) {
@@ -134,4 +152,4 @@ std::string jsonText(const AttributedString& text) {
          "}";
 }
 
-}  // namespace kzm::cli
+}  // namespace kzm::catalogue
