@@ -116,6 +116,24 @@ struct Argument<AttributedString> {
 [[nodiscard]] Result resultOf(const std::shared_ptr<const Locale>& locale);
 [[nodiscard]] Result resultOf(const std::shared_ptr<const NumberFormatter>& formatter);
 
+/// What `kzmutil list --json` calls a result of type R.
+template <class R>
+inline constexpr std::string_view kResultName = Argument<R>::name;
+template <>
+inline constexpr std::string_view kResultName<bool> = "boolean";
+template <>
+inline constexpr std::string_view kResultName<std::string> = "string";
+template <>
+inline constexpr std::string_view kResultName<Array> = "array";
+template <>
+inline constexpr std::string_view kResultName<std::optional<DateComponents>> = "dictionary|null";
+template <>
+inline constexpr std::string_view kResultName<std::optional<Dictionary>> = "dictionary|null";
+template <>
+inline constexpr std::string_view kResultName<MeasurementUnit> = "unit";
+template <>
+inline constexpr std::string_view kResultName<std::shared_ptr<const NumberFormatter>> = "formatter";
+
 template <class R, class... A, bool N>
 Result applyFunction(R (*function)(A...) noexcept(N), const Json& arguments) {
   return [&]<std::size_t... I>(std::index_sequence<I...>) {
@@ -138,6 +156,14 @@ constexpr auto kindsOf(R (*)(A...) noexcept(N)) {
 }
 template <auto F>
 inline constexpr auto kKinds = kindsOf(F);
+
+/// The kind of F's result.
+template <class R, class... A, bool N>
+constexpr std::string_view resultKindOf(R (*)(A...) noexcept(N)) {
+  return kResultName<R>;
+}
+template <auto F>
+inline constexpr std::string_view kResultKind = resultKindOf(F);
 
 }  // namespace kzm::catalogue
 
