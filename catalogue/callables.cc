@@ -15,6 +15,7 @@
 #include <KZMUtilities/weather.h>
 
 #include "catalogue/adapted.h"
+#include "catalogue/errors.h"
 #include "catalogue/names.h"
 
 namespace kzm::catalogue {

@@ -1,4 +1,4 @@
-// JSON texts and the library's values.
+// JSON texts as the library's values.
 #ifndef KZM_CATALOGUE_JSON_H
 #define KZM_CATALOGUE_JSON_H
 
@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include <KZMUtilities/attributed_string.h>
 #include <KZMUtilities/dictionary.h>
 
 namespace kzm::catalogue {
@@ -29,14 +28,8 @@ using Json = nlohmann::json;
 /// The doubles that JSON has no number for: "NaN", "Infinity" and "-Infinity". Nothing for any other text.
 [[nodiscard]] std::optional<double> namedDouble(std::string_view text);
 
-// One line of JSON each. Doubles are the shortest text that reads back to the same double, always with a point or an
-// exponent, and "NaN", "Infinity" and "-Infinity" as strings. Bytes that are no UTF-8 become U+FFFD.
-[[nodiscard]] std::string jsonText(const Json& json);
-[[nodiscard]] std::string jsonText(double number);
-[[nodiscard]] std::string jsonText(std::string_view text);
-[[nodiscard]] std::string jsonText(const Value& value);
-[[nodiscard]] std::string jsonText(const Dictionary& dictionary);
-[[nodiscard]] std::string jsonText(const AttributedString& text);
+/// The name of a double that is not finite.
+[[nodiscard]] std::string_view nameOf(double number);
 
 }  // namespace kzm::catalogue
 
