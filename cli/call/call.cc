@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "catalogue/callables.h"
+#include "catalogue/neighbours.h"
 #include "cli/flags.h"
-#include "cli/neighbours.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
@@ -22,6 +22,7 @@ using catalogue::Json;
 using catalogue::jsonText;
 using catalogue::parseJson;
 using catalogue::Result;
+using catalogue::useSettings;
 using catalogue::valueFromJson;
 
 // A setting given as KEYPATH=JSON.
