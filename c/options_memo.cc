@@ -1,6 +1,7 @@
 #include "c/options_memo.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 #include "catalogue/arguments.h"
@@ -10,15 +11,15 @@ namespace kzm::c {
 const Dictionary& OptionsMemo::read(const char* text) {
   static const Dictionary& none = *new Dictionary;
   if (text == nullptr) return none;
+  // One pass over the text is all that a text that comes again costs.
+  if (recent_ < entries_.size() && std::strcmp(entries_[recent_].text.c_str(), text) == 0) [[likely]]
+    return entries_[recent_].options;
   const std::string_view wanted(text);
-  if (const Dictionary* options = find(wanted)) [[likely]]
-    return *options;
+  if (const Dictionary* options = find(wanted)) return *options;
   return remember(wanted, catalogue::Argument<Dictionary>::read(catalogue::parseJson(wanted)));
 }
 
 const Dictionary* OptionsMemo::find(std::string_view text) {
-  if (recent_ < entries_.size() && entries_[recent_].text == text) [[likely]]
-    return &entries_[recent_].options;
   const auto found =
       std::find_if(entries_.begin(), entries_.end(), [text](const Entry& entry) { return entry.text == text; });
   if (found == entries_.end()) return nullptr;
