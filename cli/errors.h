@@ -1,35 +1,13 @@
-// The one way in which a verb refuses its input.
+// The program refuses its input as the catalogue does.
 #ifndef KZM_CLI_ERRORS_H
 #define KZM_CLI_ERRORS_H
 
-#include <stdexcept>
-#include <string>
-#include <string_view>
-#include <utility>
+#include "catalogue/errors.h"
 
 namespace kzm::cli {
 
-/// Input that a person can mend: its text is one line for standard error, and the program ends with status 2.
-class InputError : public std::runtime_error {
- public:
-  explicit InputError(std::string text) : std::runtime_error(oneLine(std::move(text))) {}
-
- private:
-  // What a caller typed may be quoted in the text: it must not break the line, nor reach the terminal as a command.
-  static std::string oneLine(std::string text) {
-    for (char& c : text) {
-      if (static_cast<unsigned char>(c) < ' ' || c == '\x7f') c = '?';
-    }
-    return text;
-  }
-};
-
-/// The text between quotation marks, for an InputError; a long one is cut.
-[[nodiscard]] inline std::string inQuotes(std::string_view text) {
-  constexpr std::size_t kLongest = 60;  // bytes
-  if (text.size() <= kLongest) return "\"" + std::string(text) + "\"";
-  return "\"" + std::string(text.substr(0, kLongest)) + "...\"";
-}
+using catalogue::InputError;
+using catalogue::inQuotes;
 
 }  // namespace kzm::cli
 

@@ -2,36 +2,16 @@
 
 #include <charconv>
 #include <cmath>
-#include <limits>
+#include <optional>
 #include <string>
 #include <system_error>
 
+#include "catalogue/json.h"
 #include "cli/errors.h"
 
 namespace kzm::cli {
-namespace {
-
-struct NamedDouble {
-  std::string_view name;
-  double number;
-};
-constexpr NamedDouble kNamedDoubles[] = {
-    {"NaN", std::numeric_limits<double>::quiet_NaN()},
-    {"Infinity", std::numeric_limits<double>::infinity()},
-    {"-Infinity", -std::numeric_limits<double>::infinity()},
-};
-
-}  // namespace
-
-std::optional<double> namedDouble(std::string_view text) {
-  for (const NamedDouble& named : kNamedDoubles) {
-    if (named.name == text) return named.number;
-  }
-  return std::nullopt;
-}
-
 double numberIn(std::string_view text) {
-  if (const std::optional<double> named = namedDouble(text)) return *named;
+  if (const std::optional<double> named = catalogue::namedDouble(text)) return *named;
   double number = 0.0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   const bool isWhole = end == text.data() + text.size();

@@ -3,13 +3,9 @@
 #define KZM_CLI_NUMBERS_H
 
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 namespace kzm::cli {
-
-/// "NaN", "Infinity" and "-Infinity", and nothing for any other text.
-[[nodiscard]] std::optional<double> namedDouble(std::string_view text);
 
 /// Decimal text with a point and maybe an exponent, whatever the locale, or a named double. Anything else, and a number
 /// that no double can hold, is an InputError.

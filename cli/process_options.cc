@@ -1,21 +1,24 @@
 #include "cli/process_options.h"
 
+#include <iostream>
 #include <optional>
 #include <string>
 
 #include <KZMUtilities/dates.h>
 #include <KZMUtilities/formatters.h>
 
+#include "catalogue/neighbours.h"
 #include "cli/errors.h"
 #include "cli/flags.h"
-#include "cli/neighbours.h"
 
 namespace kzm::cli {
 namespace {
 
 void useLocale(std::string_view identifier) {
   setCurrentLocale(identifier);
-  chooseLanguage(std::string(identifier));
+  if (!catalogue::chooseLanguage(std::string(identifier))) {
+    std::cerr << "kzmutil: the localization library in use cannot choose a language; texts stay in its own\n";
+  }
 }
 
 void useTimeZone(std::string_view identifier) {

@@ -3,7 +3,12 @@ include(CMakePackageConfigHelpers)
 
 set(KZM_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/KZMUtilities)
 
-install(TARGETS KZMUtilities KZMSettings KZMLocalization EXPORT KZMUtilitiesTargets
+set(KZM_LIBRARIES KZMUtilities KZMSettings KZMLocalization)
+if(KZM_BUILD_C)
+  list(APPEND KZM_LIBRARIES KZMUtilities-c)
+  install(FILES c/kzm.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+endif()
+install(TARGETS ${KZM_LIBRARIES} EXPORT KZMUtilitiesTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libraries NAMELINK_COMPONENT development
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
@@ -44,6 +49,10 @@ function(kzm_pkg_config name description)
 endfunction()
 kzm_pkg_config(KZMUtilities "Raw measurements as short localized text" REQUIRES "KZMSettings KZMLocalization"
   PRIVATE "icu-i18n icu-uc glib-2.0 cairo" LIBS "-lcctz -pthread")
+if(KZM_BUILD_C)
+  kzm_pkg_config(KZMUtilities-c "Raw measurements as short localized text, for C"
+    PRIVATE "KZMUtilities" LIBS "-lstdc++")
+endif()
 kzm_pkg_config(KZMSettings "The user's settings by key path" LIBS "-pthread")
 kzm_pkg_config(KZMLocalization "Texts in the user's language" PRIVATE "icu-uc")
 

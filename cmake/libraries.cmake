@@ -1,18 +1,24 @@
 # How each of the libraries is made.
 
-# kzm_library(NAME OBJECTS TARGET... [LIBRARIES ...] [PUBLIC_LIBRARIES ...] [VERSION_SCRIPT FILE]): a library of these
-# object libraries, shared or static. LIBRARIES are those that its code calls and its headers do not show.
+# kzm_library(NAME OBJECTS TARGET... [LIBRARIES ...] [PUBLIC_LIBRARIES ...] [VERSION_SCRIPT FILE] [C_HEADERS FOLDER]): a
+# library of these object libraries, shared or static. LIBRARIES are those that its code calls and its headers do not
+# show. With C_HEADERS its users need no C++: the headers in this folder are all that they see.
 function(kzm_library name)
-  cmake_parse_arguments(ARG "" "VERSION_SCRIPT" "OBJECTS;LIBRARIES;PUBLIC_LIBRARIES" ${ARGN})
+  cmake_parse_arguments(ARG "" "VERSION_SCRIPT;C_HEADERS" "OBJECTS;LIBRARIES;PUBLIC_LIBRARIES" ${ARGN})
   add_library(${name})
   add_library(KZMUtilities::${name} ALIAS ${name})
   foreach(objects ${ARG_OBJECTS})
     target_sources(${name} PRIVATE $<TARGET_OBJECTS:${objects}>)
   endforeach()
   target_link_libraries(${name} PUBLIC ${ARG_PUBLIC_LIBRARIES} PRIVATE ${ARG_LIBRARIES})
+  set(headers ${PROJECT_SOURCE_DIR}/include)
+  if(ARG_C_HEADERS)
+    set(headers ${ARG_C_HEADERS})
+  else()
+    target_compile_features(${name} INTERFACE cxx_std_20)
+  endif()
   target_include_directories(${name} PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-  target_compile_features(${name} INTERFACE cxx_std_20)
+    $<BUILD_INTERFACE:${headers}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(BUILD_SHARED_LIBS)

@@ -1,5 +1,6 @@
 # What is built beside the libraries. A project that embeds this one gets the libraries alone and none of its settings.
 option(KZM_BUILD_PROGRAM "Build kzmutil" ${PROJECT_IS_TOP_LEVEL})
+option(KZM_BUILD_C "Build the C library" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_BUILD_EXAMPLES "Build the examples" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_BUILD_BENCHMARKS "Build the benchmarks" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_BUILD_TESTS "Build the tests, and what they test" ${PROJECT_IS_TOP_LEVEL})
@@ -12,6 +13,9 @@ if(DEFINED BUILD_TESTING AND NOT BUILD_TESTING)
 endif()
 if(KZM_BUILD_TESTS)
   set(KZM_BUILD_PROGRAM ON)
+endif()
+if(KZM_BUILD_TESTS OR KZM_BUILD_BENCHMARKS)
+  set(KZM_BUILD_C ON)
 endif()
 
 # Shared libraries unless somebody wants them otherwise; a variable of this folder only, not of the whole build.

@@ -5,13 +5,25 @@
 #include <utility>
 #include <vector>
 
-#include "cli/call/callables.h"
+#include "catalogue/callables.h"
+#include "catalogue/neighbours.h"
 #include "cli/flags.h"
-#include "cli/neighbours.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
 namespace {
+
+using catalogue::Callable;
+using catalogue::callableNamed;
+using catalogue::callables;
+using catalogue::described;
+using catalogue::describedInJson;
+using catalogue::Json;
+using catalogue::jsonText;
+using catalogue::parseJson;
+using catalogue::Result;
+using catalogue::useSettings;
+using catalogue::valueFromJson;
 
 // A setting given as KEYPATH=JSON.
 void addSetting(Dictionary& settings, std::string_view text) {
@@ -87,6 +99,28 @@ int callBatch() {
   return std::cout ? 0 : 1;
 }
 
+struct ListOptions {
+  bool json = false;
+};
+
+constexpr Flag<ListOptions> kListFlags[] = {
+    {{"--json", "", "all that is known of each: kinds, result, C name and a line of documentation"},
+     [](ListOptions& options, std::string_view, std::string_view) { options.json = true; }},
+};
+
+std::string listed() {
+  std::string text;
+  for (const Callable& callable : callables()) text += described(callable) + '\n';
+  return text;
+}
+
+// One array, with a line for each.
+std::string listedInJson() {
+  std::string text;
+  for (const Callable& callable : callables()) text += (text.empty() ? "[" : ",\n ") + describedInJson(callable);
+  return text + "]\n";
+}
+
 }  // namespace
 
 int callVerb(Words words) {
@@ -99,12 +133,11 @@ int callVerb(Words words) {
 }
 
 int listVerb(Words words) {
-  None none;
-  const Operands operands = takeFlags<None>("list", words, {}, none);
+  ListOptions options;
+  const Operands operands = takeFlags<ListOptions>("list", words, kListFlags, options);
   if (operands.help) return print(helpText(describeList()));
   if (!operands.words.empty()) throw InputError("list takes no arguments");
-  for (const Callable& callable : callables()) std::cout << described(callable) << '\n';
-  return std::cout.flush() ? 0 : 1;
+  return print(options.json ? listedInJson() : listed());
 }
 
 Description describeCall() {
@@ -118,6 +151,9 @@ Description describeCall() {
   return verb;
 }
 
-Description describeList() { return {.usage = {"list"}, .text = "The names, each with its parameters.\n"}; }
+Description describeList() {
+  return {
+      .usage = {"list [OPTION...]"}, .text = "The names, each with its parameters.\n", .flags = textsOf(kListFlags)};
+}
 
 }  // namespace kzm::cli

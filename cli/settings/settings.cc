@@ -2,8 +2,8 @@
 #include <iostream>
 #include <string>
 
+#include "catalogue/neighbours.h"
 #include "cli/flags.h"
-#include "cli/neighbours.h"
 #include "cli/settings/unit_settings.h"
 #include "cli/verbs.h"
 
@@ -41,12 +41,12 @@ std::string get(Words words) {
 
 std::string set(Words words) {
   const ListedSetting& setting = settingAt(words[0]);
-  storeSetting(codeIn(setting, words[1]), setting.keyPath);
+  catalogue::storeSetting(codeIn(setting, words[1]), setting.keyPath);
   return {};
 }
 
 std::string unset(Words words) {
-  storeSetting(nullptr, settingAt(words[0]).keyPath);
+  catalogue::storeSetting(nullptr, settingAt(words[0]).keyPath);
   return {};
 }
 

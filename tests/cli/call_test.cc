@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
@@ -105,6 +107,16 @@ TEST(Call, EveryNameIsListedWithItsParameters) {
                            "KZMLocalizedStringFromTableInBundle key:string table:string comment:string|null\n"}) {
     EXPECT_NE(list.output.find(line), std::string::npos) << line;
   }
+}
+
+TEST(Call, EveryNameIsListedInJsonWithAllThatIsKnown) {
+  const Outcome list = run({"list", "--json"});
+  const nlohmann::json callables = nlohmann::json::parse(list.output);
+  EXPECT_EQ(callables.size(), std::count(list.output.begin(), list.output.end(), '\n'));
+  const auto& first = callables[0];
+  EXPECT_EQ(first["c"], "kzm_decimal_formatter_with_fractions");
+  EXPECT_EQ(first["parameters"].dump(), R"([{"kind":"integer","name":"minimum"},{"kind":"integer","name":"maximum"}])");
+  EXPECT_EQ(first["result"], "formatter");
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
-#include "cli/neighbours.h"
+#include "catalogue/neighbours.h"
 
-#include <iostream>
 #include <stdexcept>
 #include <utility>
 
@@ -12,7 +11,7 @@
 [[gnu::weak]] bool KZMSettingsSetObjectForKeyPath(const kzm::Value& object, std::string_view keyPath);
 [[gnu::weak]] void KZMSettingsUseObjects(kzm::Dictionary objects);
 
-namespace kzm::cli {
+namespace kzm::catalogue {
 namespace {
 
 void demand(bool isThere, const char* what) {
@@ -21,12 +20,10 @@ void demand(bool isThere, const char* what) {
 
 }  // namespace
 
-void chooseLanguage(const std::string& locale) {
-  if (&KZMLocalizationSetLanguages == nullptr) {
-    std::cerr << "kzmutil: the localization library in use cannot choose a language; texts stay in its own\n";
-    return;
-  }
+bool chooseLanguage(const std::string& locale) {
+  if (&KZMLocalizationSetLanguages == nullptr) return false;
   KZMLocalizationSetLanguages({&locale, 1});
+  return true;
 }
 
 void useSettings(Dictionary settings) {
@@ -41,4 +38,4 @@ void storeSetting(const Value& value, std::string_view keyPath) {
   }
 }
 
-}  // namespace kzm::cli
+}  // namespace kzm::catalogue

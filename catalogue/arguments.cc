@@ -1,10 +1,10 @@
-#include "cli/call/marshal.h"
+#include "catalogue/arguments.h"
 
 #include <limits>
 
-#include "cli/numbers.h"
+#include "catalogue/errors.h"
 
-namespace kzm::cli {
+namespace kzm::catalogue {
 namespace {
 
 [[noreturn]] void refuse(std::string_view wanted, const Json& json) {
@@ -82,34 +82,4 @@ AttributedString Argument<AttributedString>::read(const Json& json) {
   return text;
 }
 
-Result resultOf(double number) { return {jsonText(number), std::nullopt}; }
-Result resultOf(bool boolean) { return {boolean ? "true" : "false", std::nullopt}; }
-Result resultOf(std::int64_t integer) { return {std::to_string(integer), std::nullopt}; }
-Result resultOf(const std::string& text) { return {jsonText(std::string_view(text)), text}; }
-Result resultOf(const std::optional<std::string>& text) {
-  return text.has_value() ? resultOf(*text) : Result{"null", std::nullopt};
-}
-Result resultOf(const Array& array) { return {jsonText(Value(array)), std::nullopt}; }
-Result resultOf(const TimePoint& t) { return {t.has_value() ? jsonText(*t) : "null", std::nullopt}; }
-
-Result resultOf(const std::optional<DateComponents>& components) {
-  if (!components.has_value()) return {"null", std::nullopt};
-  Dictionary fields;
-  for (const DateComponents::Field& field : components->fields) fields.set(field.name, field.value);
-  return resultOf(fields);
-}
-
-Result resultOf(const Dictionary& dictionary) { return {jsonText(dictionary), std::nullopt}; }
-Result resultOf(const std::optional<Dictionary>& dictionary) {
-  return dictionary.has_value() ? resultOf(*dictionary) : Result{"null", std::nullopt};
-}
-Result resultOf(MeasurementUnit unit) { return resultOf(std::string(measurementUnitName(unit))); }
-Result resultOf(const AttributedString& text) { return {jsonText(text), std::nullopt}; }
-Result resultOf(const std::shared_ptr<const Locale>& locale) { return resultOf(locale->identifier()); }
-
-Result resultOf(const std::shared_ptr<const NumberFormatter>& formatter) {
-  return resultOf(Dictionary{{"minimumFractionDigits", formatter->minimumFractionDigits()},
-                             {"maximumFractionDigits", formatter->maximumFractionDigits()}});
-}
-
-}  // namespace kzm::cli
+}  // namespace kzm::catalogue

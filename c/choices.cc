@@ -1,0 +1,35 @@
+#include "c/choices.h"
+
+#include <mutex>
+
+#include <KZMUtilities/formatters.h>
+
+#include "catalogue/errors.h"
+#include "catalogue/neighbours.h"
+
+namespace kzm::c {
+namespace {
+
+// A choice is whole before the first text is made, or is refused.
+constinit std::mutex mutex;
+
+}  // namespace
+
+constinit std::atomic<bool> localeIsSettled{false};
+
+void settleLocaleNow() noexcept {
+  const std::lock_guard lock(mutex);
+  localeIsSettled.store(true, std::memory_order_release);
+}
+
+void chooseLocale(std::string_view identifier) {
+  const std::lock_guard lock(mutex);
+  if (localeIsSettled.load(std::memory_order_relaxed)) {
+    throw catalogue::InputError("the locale is chosen before the first text is made");
+  }
+  setCurrentLocale(identifier);
+  // A localization library that has no such choice keeps its own language.
+  static_cast<void>(catalogue::chooseLanguage(currentLocale()));
+}
+
+}  // namespace kzm::c

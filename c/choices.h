@@ -1,0 +1,25 @@
+// The process's own choices, and from when on they can no longer be made.
+#ifndef KZM_C_CHOICES_H
+#define KZM_C_CHOICES_H
+
+#include <atomic>
+#include <string_view>
+
+namespace kzm::c {
+
+extern std::atomic<bool> localeIsSettled;
+void settleLocaleNow() noexcept;
+
+/// To be called before a text is made: from now on the locale is what it is. A later choice would reach some texts and
+/// not others, for formatters and texts that were made are kept.
+inline void settleLocale() noexcept {
+  if (!localeIsSettled.load(std::memory_order_acquire)) [[unlikely]]
+    settleLocaleNow();
+}
+
+/// Chooses the locale of numbers, units and texts. Once the locale is settled, an InputError.
+void chooseLocale(std::string_view identifier);
+
+}  // namespace kzm::c
+
+#endif

@@ -1,0 +1,95 @@
+#include "catalogue/json.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <memory>
+
+#include "catalogue/errors.h"
+#include "catalogue/json_attributes.h"
+#include "catalogue/json_text.h"
+
+namespace kzm::catalogue {
+namespace {
+
+constexpr int kDeepest = 256;
+
+struct NamedDouble {
+  std::string_view name;
+  double number;
+};
+constexpr NamedDouble kNamedDoubles[] = {
+    {"NaN", std::numeric_limits<double>::quiet_NaN()},
+    {"Infinity", std::numeric_limits<double>::infinity()},
+    {"-Infinity", -std::numeric_limits<double>::infinity()},
+};
+
+}  // namespace
+
+Json parseJson(std::string_view text) {
+  const auto refuseDepth = [](int depth, Json::parse_event_t, Json&) {
+    if (depth > kDeepest) throw InputError("nested deeper than " + std::to_string(kDeepest) + " levels");
+    return true;
+  };
+  try {
+    return Json::parse(text, refuseDepth);
+  } catch (const Json::parse_error& error) {
+    throw InputError("malformed JSON at byte " + std::to_string(error.byte));
+  } catch (const Json::out_of_range&) {
+    throw InputError("a number in the JSON is out of range");
+  }
+}
+
+Value valueFromJson(const Json& json) {
+  switch (json.type()) {
+    case Json::value_t::boolean:
+      return json.get<bool>();
+    case Json::value_t::number_integer:
+      return json.get<std::int64_t>();
+    case Json::value_t::number_unsigned:
+      return json.get<std::uint64_t>();
+    case Json::value_t::number_float:
+      return json.get<double>();
+    case Json::value_t::string:
+      return json.get<std::string>();
+    case Json::value_t::array: {
+      Array elements;
+      for (const Json& element : json) elements.push_back(valueFromJson(element));
+      return elements;
+    }
+    case Json::value_t::object: {
+      Dictionary members;
+      for (const auto& [key, member] : json.items()) members.set(key, valueFromJson(member));
+      return members;
+    }
+    default:
+      return nullptr;
+  }
+}
+
+Value attributesFromJson(const Json& json) {
+  return json.is_null() ? Value() : Value(std::make_shared<const JsonAttributes>(jsonText(json)));
+}
+
+Dictionary optionsFromJson(const Json& json) {
+  Dictionary options;
+  for (const auto& [key, member] : json.items()) {
+    const bool isAttributes = key == "attributes-main" || key == "attributes-units";
+    options.set(key, isAttributes ? attributesFromJson(member) : valueFromJson(member));
+  }
+  return options;
+}
+
+std::optional<double> namedDouble(std::string_view text) {
+  for (const NamedDouble& named : kNamedDoubles) {
+    if (named.name == text) return named.number;
+  }
+  return std::nullopt;
+}
+
+std::string_view nameOf(double number) {
+  if (std::isnan(number)) return kNamedDoubles[0].name;
+  return kNamedDoubles[number > 0 ? 1 : 2].name;
+}
+
+}  // namespace kzm::catalogue

@@ -1,0 +1,91 @@
+#include "catalogue/json_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+
+#include "catalogue/json_attributes.h"
+
+namespace kzm::catalogue {
+namespace {
+
+// Most texts are ASCII that needs no escape.
+bool isPlain(std::string_view string) {
+  return std::all_of(string.begin(), string.end(),
+                     [](char c) { return c >= ' ' && c != '"' && c != '\\' && c != '\x7f'; });
+}
+
+void appendInteger(std::string& text, std::int64_t integer) {
+  char room[24];
+  text.append(room, std::to_chars(room, room + sizeof room, integer).ptr);
+}
+
+void appendRun(std::string& text, const AttributedString::Run& run) {
+  text += "{\"text\": ";
+  appendJson(text, run.text);
+  text += ", \"attributes\": ";
+  appendJson(text, run.attributes);
+  text += '}';
+}
+
+}  // namespace
+
+void appendJson(std::string& text, const Json& json) {
+  text += json.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+void appendJson(std::string& text, const double& number) {
+  if (!std::isfinite(number)) {
+    text.append("\"").append(nameOf(number)).append("\"");
+    return;
+  }
+  char room[32];
+  const std::string_view digits(room, std::to_chars(room, room + sizeof room, number).ptr);
+  text += digits;
+  if (digits.find_first_of(".e") == std::string_view::npos) text += ".0";
+}
+
+void appendJson(std::string& text, const std::string_view& string) {
+  if (!isPlain(string)) return appendJson(text, Json(string));
+  text += '"';
+  text += string;
+  text += '"';
+}
+
+void appendJson(std::string& text, const Value& value) {
+  if (const bool* boolean = value.boolean()) {
+    text += *boolean ? "true" : "false";
+  } else if (const std::int64_t* integer = value.integer()) {
+    appendInteger(text, *integer);
+  } else if (const double* real = value.real()) {
+    appendJson(text, *real);
+  } else if (const std::string* string = value.string()) {
+    appendJson(text, std::string_view(*string));
+  } else if (const Dictionary* dictionary = value.dictionary()) {
+    appendJson(text, *dictionary);
+  } else if (const Array* array = value.array()) {
+    appendList(text, '[', *array, ']', [&text](const Value& element) { appendJson(text, element); });
+  } else {
+    const auto* attributes = dynamic_cast<const JsonAttributes*>(value.object());
+    text += attributes != nullptr ? attributes->json() : "null";
+  }
+}
+
+void appendJson(std::string& text, const Dictionary& dictionary) {
+  appendList(text, '{', dictionary, '}', [&text](const Dictionary::Entry& entry) {
+    appendJson(text, std::string_view(entry.key));
+    text += ": ";
+    appendJson(text, entry.value);
+  });
+}
+
+void appendJson(std::string& text, const AttributedString& attributed) {
+  text += "{\"text\": ";
+  appendJson(text, std::string_view(attributed.text()));
+  text += ", \"runs\": ";
+  appendList(text, '[', attributed.runs(), ']', [&text](const AttributedString::Run& run) { appendRun(text, run); });
+  text += '}';
+}
+
+}  // namespace kzm::catalogue

@@ -1,0 +1,37 @@
+#include "c/last_error.h"
+
+#include <gtest/gtest.h>
+#include <new>
+#include <string>
+
+namespace kzm::c {
+namespace {
+
+TEST(LastError, IsCutBetweenCharacters) {
+  struct Case {
+    const char* why;
+    std::string text;
+    std::string told;
+  };
+  const Case cases[] = {
+      {"short", "no", "no"},
+      {"the longest", std::string(255, 'a'), std::string(255, 'a')},
+      {"one byte too long", std::string(256, 'a'), std::string(255, 'a')},
+      {"two bytes that do not fit", std::string(254, 'a') + "\u00e4", std::string(254, 'a')},
+      {"two bytes that just fit", std::string(253, 'a') + "\u00e4b", std::string(253, 'a') + "\u00e4"},
+  };
+  for (const Case& c : cases) {
+    setError(c.text);
+    EXPECT_EQ(lastError(), c.told) << c.why;
+  }
+}
+
+TEST(LastError, TellsOfAFailedAllocation) {
+  EXPECT_EQ(guarded(7, []() -> int { throw std::bad_alloc(); }), 7);
+  EXPECT_STREQ(lastError(), "out of memory");
+  EXPECT_EQ(guarded(7, [] { return 8; }), 8);
+  EXPECT_EQ(lastError(), nullptr);
+}
+
+}  // namespace
+}  // namespace kzm::c
