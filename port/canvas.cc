@@ -74,21 +74,22 @@ bool isUsable(cairo_t* cairo) {
          std::fabs(matrix.x0) <= kLargestOffset && std::fabs(matrix.y0) <= kLargestOffset;
 }
 
-bool isDrawable(const Rect& rect) {
+bool isRect(const Rect& rect) {
   const bool finite = std::isfinite(rect.origin.x) && std::isfinite(rect.origin.y) && std::isfinite(rect.size.width) &&
                       std::isfinite(rect.size.height);
-  return finite && rect.size.width > 0.0 && rect.size.height > 0.0;
+  return finite && rect.size.width >= 0.0 && rect.size.height >= 0.0;
 }
 
 std::optional<Span> within(const Span& span, double lowest, double highest) {
   const double start = std::max(span.start, lowest);
   const double length = std::min(span.end(), highest) - start;
-  if (!(length > 0.0)) return std::nullopt;
+  if (!(length >= 0.0)) return std::nullopt;
   return Span{start, length};
 }
 
 // The part of the rectangle that can be seen, and a margin. Coordinates far outside are beyond cairo's numbers.
 std::optional<Rect> visiblePart(cairo_t* cairo, const Rect& rect) {
+  if (!isUsable(cairo) || !isRect(rect)) return std::nullopt;
   double left = 0.0;
   double top = 0.0;
   double right = 0.0;
@@ -100,14 +101,18 @@ std::optional<Rect> visiblePart(cairo_t* cairo, const Rect& rect) {
   const double marginY = kMargin + kMargin / scale.height;
   const auto x = within({rect.origin.x, rect.size.width}, left - marginX, right + marginX);
   const auto y = within({rect.origin.y, rect.size.height}, top - marginY, bottom + marginY);
-  if (!x || !y || x->length * scale.width < kSmallestSide || y->length * scale.height < kSmallestSide)
-    return std::nullopt;
+  if (!x || !y) return std::nullopt;
   return Rect{{x->start, y->start}, {x->length, y->length}};
 }
 
-std::optional<Rect> drawablePart(cairo_t* cairo, const Rect& rect) {
-  if (!isUsable(cairo) || !isDrawable(rect)) return std::nullopt;
-  return visiblePart(cairo, rect);
+// The same of a rectangle that is to be filled: one without an inside has nothing to fill.
+std::optional<Rect> fillablePart(cairo_t* cairo, const Rect& rect) {
+  const std::optional<Rect> part = visiblePart(cairo, rect);
+  if (!part) return std::nullopt;
+  const Size scale = pixelsPerPoint(cairo);
+  const bool hasInside =
+      part->size.width * scale.width >= kSmallestSide && part->size.height * scale.height >= kSmallestSide;
+  return hasInside ? part : std::nullopt;
 }
 
 // One corner, from where the path stands: first along (ax, ay), then along (bx, by), both a radius long.
@@ -207,7 +212,7 @@ bool paintOver(cairo_surface_t* surface, cairo_operator_t compositing, Paint set
 }  // namespace
 
 void fillRoundedRect(cairo_t* cairo, const Rect& rect, double radius, const Color& color) {
-  const std::optional<Rect> part = drawablePart(cairo, rect);
+  const std::optional<Rect> part = fillablePart(cairo, rect);
   if (!part) return;
   const Saved saved(cairo);
   addRoundedRect(cairo, *part, radius);
@@ -217,7 +222,7 @@ void fillRoundedRect(cairo_t* cairo, const Rect& rect, double radius, const Colo
 }
 
 void strokeRoundedRect(cairo_t* cairo, const Rect& rect, double radius, double lineWidth, const Color& color) {
-  const std::optional<Rect> part = drawablePart(cairo, rect);
+  const std::optional<Rect> part = visiblePart(cairo, rect);
   if (!part) return;
   const Saved saved(cairo);
   addRoundedRect(cairo, *part, radius);
@@ -229,7 +234,7 @@ void strokeRoundedRect(cairo_t* cairo, const Rect& rect, double radius, double l
 }
 
 void drawSurface(cairo_t* cairo, cairo_surface_t* surface, const Size& size, const Rect& rect, bool mirrored) {
-  const std::optional<Rect> part = drawablePart(cairo, rect);
+  const std::optional<Rect> part = fillablePart(cairo, rect);
   if (!part) return;
   // An image that is drawn into itself is drawn as it was before.
   const Surface copy = cairo_get_target(cairo) == surface ? copySurface(surface) : nullptr;
@@ -249,11 +254,14 @@ Surface copySurface(cairo_surface_t* original) {
   if (!isImage(original)) return nullptr;
   double scaleX = 1.0;
   double scaleY = 1.0;
+  double offsetX = 0.0;
+  double offsetY = 0.0;
   cairo_surface_get_device_scale(original, &scaleX, &scaleY);
+  cairo_surface_get_device_offset(original, &offsetX, &offsetY);
   Surface copy =
       makePixels(cairo_image_surface_get_width(original), cairo_image_surface_get_height(original), scaleX, scaleY);
   const bool copied = copy && paintOver(copy.get(), CAIRO_OPERATOR_SOURCE, [&](cairo_t* cairo) {
-                        cairo_set_source_surface(cairo, original, 0.0, 0.0);
+                        cairo_set_source_surface(cairo, original, offsetX / scaleX, offsetY / scaleY);
                         cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
                       });
   return copied ? std::move(copy) : nullptr;

@@ -17,7 +17,7 @@ using Surface = std::unique_ptr<cairo_surface_t, SurfaceRelease>;
 /// The rectangle with corners of `radius`, each direction cut to half the side. Empty and impossible ones are passed
 /// over.
 void fillRoundedRect(cairo_t* cairo, const Rect& rect, double radius, const Color& color);
-/// The same shape's outline, centred on its edge.
+/// The same shape's outline, centred on its edge; a shape without width or height has one too.
 void strokeRoundedRect(cairo_t* cairo, const Rect& rect, double radius, double lineWidth, const Color& color);
 
 /// The whole surface, `size` points large, scaled into the rectangle; upside down in the context's coordinates if
@@ -26,7 +26,8 @@ void drawSurface(cairo_t* cairo, cairo_surface_t* surface, const Size& size, con
 
 /// A transparent image surface; null if there can be none of that size.
 [[nodiscard]] Surface makeSurface(const Size& size, double scale);
-/// An image surface of its own with alpha, and the same pixels and device scale; null if the original is unusable.
+/// An image surface of its own with alpha, and the same pixels and device scale, whatever its device
+/// offset; null if the original is unusable.
 [[nodiscard]] Surface copySurface(cairo_surface_t* original);
 /// In points.
 [[nodiscard]] Size surfaceSize(cairo_surface_t* surface);
