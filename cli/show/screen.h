@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/show/layout.h"
@@ -38,11 +39,16 @@ class Screen {
   /// Draws the lines; false when nobody reads any more. Throws when they cannot be written for another reason.
   [[nodiscard]] bool draw(std::vector<std::string> lines);
 
+  /// Whether the screen has come to its end because nobody reads any more.
+  [[nodiscard]] bool readerHasLeft() const { return readerHasLeft_; }
+
  private:
+  bool write(std::string_view text);
   [[nodiscard]] Event signalled();
 
   bool terminal_;
   bool drawn_ = false;
+  bool readerHasLeft_ = false;
   int signals_;  // a descriptor from which the signals are read that end, resize or stop the program
 };
 

@@ -141,7 +141,7 @@ int showContinuously(Topics shown, const Counters& first, const ShowOptions& opt
     if (!screen.draw(laidOut(sections, lookOfOutput(options.plain))) || ++drawings == options.count) break;
     due = std::max(due + options.seconds, earlier.network.seconds);
   }
-  return 0;
+  return screen.readerHasLeft() ? 1 : 0;
 }
 
 int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*describeVerb)(),

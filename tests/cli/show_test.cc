@@ -61,7 +61,7 @@ TEST(Monitor, EndsAfterTheCount) {
 }
 
 TEST(Monitor, EndsCleanlyBySignal) {
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
     Pipe out;
     const pid_t process =
         started({"monitor", "memory", "--interval", "3600"}, STDIN_FILENO, out.writer(), STDERR_FILENO);
@@ -80,7 +80,14 @@ TEST(Monitor, EndsWhenNobodyReadsLongBeforeTheNextDrawing) {
   std::string text;
   ASSERT_TRUE(readSome(out.reader(), text));
   out.closeReader();
-  EXPECT_EQ(statusOf(process), 0);
+  EXPECT_EQ(statusOf(process), 1);
+}
+
+TEST(Monitor, EndsAtADrawingThatNobodyReads) {
+  Pipe out;
+  out.closeReader();
+  EXPECT_EQ(statusOf(started({"monitor", "memory", "--interval", "0.1"}, STDIN_FILENO, out.writer(), STDERR_FILENO)),
+            1);
 }
 
 // A terminal of our own.
@@ -137,6 +144,19 @@ TEST(Monitor, RedrawsInPlaceOnATerminalAndGivesTheCursorBack) {
   ::kill(process, SIGTERM);
   EXPECT_EQ(statusOf(process), 0);
   EXPECT_TRUE(terminal.saw("\x1b[?25h"));
+}
+
+TEST(Monitor, GivesTheCursorBackAfterEverySignalThatEndsIt) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+    Terminal terminal(24, 60);
+    if (!terminal.isThere()) GTEST_SKIP() << "left out: there are no terminals, as /dev/pts is not mounted";
+    const pid_t process =
+        started({"monitor", "memory", "--interval", "3600"}, STDIN_FILENO, terminal.end(), STDERR_FILENO);
+    ASSERT_TRUE(terminal.saw("\x1b[J"));
+    ::kill(process, signal);
+    EXPECT_EQ(statusOf(process), 0) << signal;
+    EXPECT_TRUE(terminal.saw("\x1b[?25h")) << signal;
+  }
 }
 
 TEST(Monitor, IsCutToTheHeightOfTheTerminal) {
