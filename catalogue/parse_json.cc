@@ -1,6 +1,6 @@
 // Reads JSON texts, and keeps the numbers in them that no 64-bit type holds.
+#include <charconv>
 #include <cstdint>
-#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -92,7 +92,10 @@ bool isNumber(const Json& json) { return json.is_number() || json.is_binary(); }
 
 double numberFrom(const Json& json) {
   const std::optional<std::string> kept = keptText(json);
-  return kept ? std::strtod(kept->c_str(), nullptr) : json.get<double>();
+  if (!kept) return json.get<double>();
+  double number = 0;  // the parser has seen to it that it is one, and within the doubles
+  std::from_chars(kept->data(), kept->data() + kept->size(), number);
+  return number;
 }
 
 }  // namespace kzm::catalogue

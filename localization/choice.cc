@@ -13,6 +13,7 @@
 #include <KZMUtilities/key.h>
 
 #include "port/environment_locale.h"
+#include "port/memory_watch.h"
 #include "port/never_destroyed.h"
 
 namespace kzm::localization {
@@ -37,6 +38,7 @@ struct Wanted {
 std::string scriptOf(icu::Locale locale) {
   UErrorCode status = U_ZERO_ERROR;
   locale.addLikelySubtags(status);
+  port::demandMemory(status);
   return locale.getScript();
 }
 
@@ -47,6 +49,7 @@ icu::Locale asRead(const icu::Locale& locale) {
   UErrorCode status = U_ZERO_ERROR;
   const std::string script = scriptOf(icu::Locale("zh", locale.getCountry()));
   const icu::Locale changed = icu::LocaleBuilder().setLocale(locale).setScript(script).build(status);
+  port::demandMemory(status);
   return U_FAILURE(status) ? locale : changed;
 }
 
@@ -57,12 +60,14 @@ constinit std::atomic<Wanted*> latestWanted{nullptr};
 
 // Under the lock.
 Wanted& want(std::span<const std::string> identifiers) {
+  const port::MemoryWatch memory;
   std::vector<icu::Locale> languages;
   for (const std::string& identifier : identifiers) {
     // Anything may be asked for; a name that is none is passed over.
     const std::string canonical = port::localeIdentifier(identifier);
     if (!canonical.empty()) languages.push_back(asRead(icu::Locale(canonical.c_str())));
   }
+  memory.demand();
   // Texts are asked for up to the very end of the process, from the destructors of static objects too.
   static port::NeverDestroyed<std::forward_list<Wanted>> all;
   Wanted& fresh = all->emplace_front();
@@ -90,11 +95,13 @@ struct Match {
 
 std::optional<Match> match(const std::vector<icu::Locale>& desired, const std::vector<icu::Locale>& offered) {
   using Locales = icu::Locale::RangeIterator<std::vector<icu::Locale>::const_iterator>;
+  const port::MemoryWatch memory;
   UErrorCode status = U_ZERO_ERROR;
   Locales supported(offered.begin(), offered.end());
   Locales wanted(desired.begin(), desired.end());
   const auto matcher = icu::LocaleMatcher::Builder().setSupportedLocales(supported).setNoDefaultLocale().build(status);
   const auto result = matcher.getBestMatchResult(wanted, status);
+  memory.demand(status);
   if (U_FAILURE(status) || result.getSupportedIndex() < 0) return std::nullopt;
   return Match{static_cast<std::size_t>(result.getDesiredIndex()),
                static_cast<std::size_t>(result.getSupportedIndex())};

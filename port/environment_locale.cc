@@ -10,6 +10,9 @@
 #include <unicode/uenum.h>
 #include <unicode/uloc.h>
 
+#include "port/canonical_locale.h"
+#include "port/memory_watch.h"
+
 namespace kzm::port {
 namespace {
 
@@ -71,10 +74,8 @@ std::string withModifier(const icu::Locale& locale, std::string_view name) {
                 locale.getCountry(), modifier->variant.empty() ? locale.getVariant() : modifier->variant);
 }
 
-icu::Locale canonical(const std::string& name) { return icu::Locale::createCanonical(name.c_str()); }
-
 std::string canonicalName(const std::string& name) {
-  const icu::Locale locale = canonical(name);
+  const icu::Locale locale = canonicalLocale(name);
   // The undetermined language, "und", has become an empty one.
   return locale.isBogus() || *locale.getLanguage() == '\0' ? std::string() : locale.getName();
 }
@@ -85,11 +86,14 @@ void forEachAvailableName(Use use) {
   UEnumeration* names = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
   while (const char* name = uenum_next(names, nullptr, &status)) use(name);
   uenum_close(names);
+  demandMemory(status);
 }
 
 std::set<std::string, std::less<>> availableLanguages() {
+  const MemoryWatch memory;
   std::set<std::string, std::less<>> languages;
   forEachAvailableName([&](const char* name) { languages.emplace(name, std::strcspn(name, "_")); });
+  memory.demand();
   return languages;
 }
 
@@ -103,6 +107,7 @@ bool isLanguageKnown(const icu::Locale& locale) {
 std::string likelyScript(icu::Locale locale) {
   UErrorCode status = U_ZERO_ERROR;
   locale.addLikelySubtags(status);
+  demandMemory(status);
   return locale.getScript();
 }
 
@@ -121,6 +126,7 @@ bool isScriptKnown(const icu::Locale& locale) {
 std::string withoutScript(const icu::Locale& locale) {
   UErrorCode status = U_ZERO_ERROR;
   const icu::Locale changed = icu::LocaleBuilder().setLocale(locale).setScript({}).build(status);
+  demandMemory(status);
   return U_FAILURE(status) ? locale.getLanguage() : changed.getName();
 }
 
@@ -159,22 +165,40 @@ const char* processEnvironment(const char* name) {
   return std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing in the library ever changes the environment
 }
 
-std::string localeIdentifier(std::string_view name) {
+namespace {
+
+std::string identifierOf(std::string_view name) {
   if (isPlain(name) || name.size() > kMaximumLength) return {};
   const std::size_t at = name.find('@');
   const std::string head(name.substr(0, std::min(name.find('.'), at)));
   if (!isWellFormed(head)) return {};
   const std::string_view modifier = at == std::string_view::npos ? std::string_view() : name.substr(at + 1);
-  if (modifier.find('=') == std::string_view::npos) return canonicalName(withModifier(canonical(head), modifier));
+  if (modifier.find('=') == std::string_view::npos) return canonicalName(withModifier(canonicalLocale(head), modifier));
   if (!std::ranges::all_of(modifier, isKeywordCharacter)) return {};
   return canonicalName(head + "@" + std::string(modifier));
 }
 
-std::string usableLocale(std::string_view name) {
-  std::string identifier = localeIdentifier(name);
-  const icu::Locale locale = canonical(identifier);
+std::string usableOf(std::string_view name) {
+  std::string identifier = identifierOf(name);
+  const icu::Locale locale = canonicalLocale(identifier);
   if (identifier.empty() || !isLanguageKnown(locale)) return std::string(kFallbackLocale);
   return isScriptKnown(locale) ? identifier : withoutScript(locale);
+}
+
+}  // namespace
+
+std::string localeIdentifier(std::string_view name) {
+  const MemoryWatch memory;
+  std::string identifier = identifierOf(name);
+  memory.demand();
+  return identifier;
+}
+
+std::string usableLocale(std::string_view name) {
+  const MemoryWatch memory;
+  std::string identifier = usableOf(name);
+  memory.demand();
+  return identifier;
 }
 
 std::string numberLocale(const Environment& environment) { return usableLocale(firstSet(environment, "LC_NUMERIC")); }

@@ -1,7 +1,10 @@
 #include "port/measurement_locale.h"
 
+#include <new>
 #include <string_view>
-#include <unicode/locid.h>
+
+#include "port/canonical_locale.h"
+#include "port/memory_watch.h"
 
 namespace kzm::port {
 namespace {
@@ -56,6 +59,8 @@ std::string overridingRegion(std::string_view value) {
 std::string ownRegion(icu::Locale locale) {
   UErrorCode status = U_ZERO_ERROR;
   if (*locale.getCountry() == '\0') locale.addLikelySubtags(status);
+  if (status == U_MEMORY_ALLOCATION_ERROR)
+    throw std::bad_alloc();  // from this call or, remembered, from an earlier one
   return U_SUCCESS(status) ? locale.getCountry() : std::string();
 }
 
@@ -70,9 +75,12 @@ std::string regionOf(const icu::Locale& locale) {
 }  // namespace
 
 MeasurementLocale measurementLocaleOf(const std::string& identifier) {
-  const icu::Locale locale = icu::Locale::createCanonical(identifier.c_str());
-  if (locale.isBogus()) return {};
-  return {regionOf(locale), std::string(meaningOf(kTemperatures, keyword(locale, "mu")))};
+  const MemoryWatch memory;
+  const icu::Locale locale = canonicalLocale(identifier);
+  MeasurementLocale result;
+  if (!locale.isBogus()) result = {regionOf(locale), std::string(meaningOf(kTemperatures, keyword(locale, "mu")))};
+  memory.demand();
+  return result;
 }
 
 }  // namespace kzm::port

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <unicode/locid.h>
 
+#include "port/memory_watch.h"
+
 namespace kzm::port {
 namespace {
 
@@ -22,7 +24,9 @@ bool isWellFormed(std::string_view identifier) {
 
 bool takesPosixVariant(const std::string& identifier) {
   if (!isWellFormed(identifier)) return false;
+  const MemoryWatch memory;
   const icu::Locale locale((identifier + "_POSIX").c_str());
+  memory.demand();
   if (locale.isBogus()) return false;  // an over-long language; such a locale must not be asked for anything
   const std::string variants = std::string("_") + locale.getVariant() + "_";
   return variants.find("_POSIX_") != std::string::npos;

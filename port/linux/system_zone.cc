@@ -66,18 +66,27 @@ ZonePointer localZone(std::string identifier) {
 // Named zones are there for ever.
 ZonePointer unowned(const Zone& zone) { return {ZonePointer(), &zone}; }
 
+// Whether the C library would open something that is no file: it would wait for the other end of a FIFO.
+bool isOtherThanAFile(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(path, error);
+  return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+}
+
 ZonePointer zoneOfVariable(std::string_view text) {
   if (text.starts_with(':')) text.remove_prefix(1);
   if (text.empty()) return unowned(utcZone());
   const Zone* named = namedZone(text.starts_with('/') ? nameInPath(text) : text);
-  return named != nullptr ? unowned(*named) : localZone(std::string(text));
+  if (named != nullptr) return unowned(*named);
+  return isOtherThanAFile(std::filesystem::path(zoneFolder()) / text) ? unowned(utcZone())
+                                                                      : localZone(std::string(text));
 }
 
 ZonePointer zoneOfLink(const std::filesystem::path& link) {
   std::error_code error;
   const std::string target = std::filesystem::read_symlink(link, error).string();
   if (const Zone* named = namedZone(nameInPath(target))) return unowned(*named);
-  return std::filesystem::exists(link, error) ? localZone("localtime") : unowned(utcZone());
+  return std::filesystem::is_regular_file(link, error) ? localZone("localtime") : unowned(utcZone());
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <string>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "port/time_zone.h"
@@ -64,6 +65,22 @@ TEST(SystemZoneDeathTest, ComesFromTheVariable) {
     EXPECT_EXIT(_exit(isReadAs(c.text, c.identifier, c.winter, c.summer) ? 0 : 1), testing::ExitedWithCode(0), "")
         << c.text;
   }
+}
+
+// In a process of its own that is ended if it waits.
+TEST_F(SystemZone, WaitsForNoFifo) {
+  const std::string fifo = (folder_ / "fifo").string();
+  ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+  EXPECT_EXIT(
+      {
+        alarm(10);
+        setenv("TZ", (":" + fifo).c_str(), 1);  // NOLINT(concurrency-mt-unsafe): no other thread runs here
+        const bool areUtc = findSystemZone(fifo.c_str(), "/nowhere") == findSystemZone("UTC", "/nowhere") &&
+                            findSystemZone(nullptr, fifo)->identifier() == "UTC" &&
+                            findSystemZone(folder_.c_str(), "/nowhere")->identifier() == "UTC";
+        _exit(areUtc && namedZone("fifo") == nullptr ? 0 : 1);
+      },
+      testing::ExitedWithCode(0), "");
 }
 
 TEST_F(SystemZone, ComesFromTheLinkWithoutAVariable) {
