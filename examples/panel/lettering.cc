@@ -83,6 +83,8 @@ double Line::width() const {
   return pango_units_to_double(logical.width);
 }
 
+int Line::missingGlyphs() const { return pango_layout_get_unknown_glyphs_count(layout_.get()); }
+
 bool Line::runsRightToLeft() const { return pango_layout_get_direction(layout_.get(), 0) == PANGO_DIRECTION_RTL; }
 
 void Line::drawAt(const Point& point) const {

@@ -20,6 +20,8 @@ class Line {
   Line(const AttributedString& text, bool rightToLeft);
   /// In points.
   [[nodiscard]] double width() const;
+  /// How many of its characters no font has.
+  [[nodiscard]] int missingGlyphs() const;
   /// The direction that the text itself has.
   [[nodiscard]] bool runsRightToLeft() const;
   /// Draws the line with its left end and its baseline at the point.
