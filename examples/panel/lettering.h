@@ -14,7 +14,7 @@ namespace kzm::panel {
 /// Whether the language of the locale is written from right to left.
 [[nodiscard]] bool isRightToLeft(const std::string& locale);
 
-/// One line of text, to be drawn into the current drawing context.
+/// One line of text in the given direction, to be drawn into the current drawing context.
 class Line {
  public:
   Line(const AttributedString& text, bool rightToLeft);
@@ -22,8 +22,6 @@ class Line {
   [[nodiscard]] double width() const;
   /// How many of its characters no font has.
   [[nodiscard]] int missingGlyphs() const;
-  /// The direction that the text itself has.
-  [[nodiscard]] bool runsRightToLeft() const;
   /// Draws the line with its left end and its baseline at the point.
   void drawAt(const Point& point) const;
 
