@@ -64,13 +64,13 @@ winsize sizeOfTerminal() {
   return size;
 }
 
-// What does not fit is told by one line at the end; the last line of the terminal stays free for the cursor.
+// What does not fit is told by their count at the end; the last line of the terminal stays free for the cursor.
 void cutToHeight(std::vector<std::string>& lines) {
   const std::size_t height = sizeOfTerminal().ws_row;
   if (height < 3 || lines.size() < height) return;
   const std::size_t hidden = lines.size() - (height - 2);
   lines.resize(height - 2);
-  lines.push_back("… " + std::to_string(hidden) + " more lines");
+  lines.push_back("… +" + std::to_string(hidden));
 }
 
 }  // namespace

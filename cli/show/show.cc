@@ -100,7 +100,7 @@ std::vector<Section> sectionsOf(Topics shown, Snapshot snapshot, const ShowOptio
   for (const Topic& topic : shown) topic.read(thisMachine(), snapshot);
   std::vector<Section> sections;
   for (const Topic& topic : shown) sections.push_back(topic.section(snapshot, options.rows));
-  if (shown.size() == 1 && sections[0].rows.empty()) sections[0] = {sections[0].title, {}, {{"none", {}}}};
+  if (shown.size() == 1 && sections[0].rows.empty()) sections[0] = {sections[0].title, {}, {{"–", {}}}};
   return sections;
 }
 

@@ -10,6 +10,8 @@
 #include <KZMUtilities/percentage.h>
 #include <KZMUtilities/sensors.h>
 
+#include "cli/words.h"
+
 namespace kzm::cli {
 namespace {
 
@@ -89,6 +91,12 @@ Cell partCell(std::optional<double> part) {
 
 Cell loadCell(double programs) {
   return {{KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(programs), Style::strong}};
+}
+
+std::string minutesText(double minutes) {
+  std::string text = word("Load.%@ min");
+  const std::size_t place = text.find("%@");
+  return place == std::string::npos ? text : text.replace(place, 2, KZMUtilitiesFormatNumber({}, minutes));
 }
 
 Cell sensorCell(machine::Kind kind, double value) {

@@ -12,18 +12,24 @@
 
 namespace kzm::panel {
 
-/// One reading: an icon, a text, one more at the far end, and bars side by side, each filled from 0 to 1.
+/// A reading and what it is.
+struct Figure {
+  AttributedString label;
+  AttributedString value;
+};
+
+/// An icon, a figure, one more at the far end, and bars side by side, each filled from 0 to 1.
 struct Row {
   Icon icon = Icon::load;
   Color color;
-  AttributedString value;
-  AttributedString detail;
+  Figure main;
+  Figure side;
   std::vector<double> levels;
 };
 
-/// A row without detail and bars. All rows share saturation and brightness, so that none stands out.
-[[nodiscard]] inline Row rowOf(Icon icon, double hue, AttributedString value) {
-  return {icon, Color::fromHSBA(hue, 0.52, 0.90, 1.0), std::move(value), {}, {}};
+/// A row without bars. All rows share saturation and brightness, so that none stands out.
+[[nodiscard]] inline Row rowOf(Icon icon, double hue, Figure main, Figure side = {}) {
+  return {icon, Color::fromHSBA(hue, 0.52, 0.90, 1.0), std::move(main), std::move(side), {}};
 }
 
 /// The clock, the day, and the hours of it that have passed, as bars.

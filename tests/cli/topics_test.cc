@@ -92,9 +92,9 @@ TEST(Topics, Load) {
   snapshot.loadAverages = {0.5, 12.345, 0.0};
   EXPECT_EQ(shown("load", snapshot), (Lines{
                                          "  processor                      50%  ██████████░░░░░░░░░░",
-                                         "  over 1 minute                 0.50",
-                                         "  over 5 minutes               12.34",
-                                         "  over 15 minutes               0.00",
+                                         "  1 min                         0.50",
+                                         "  5 min                        12.34",
+                                         "  15 min                        0.00",
                                      }));
   EXPECT_EQ(shown("load", snapshot, {.all = true}).size(), 6U) << "every processor";
 }

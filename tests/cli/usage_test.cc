@@ -8,7 +8,7 @@
 namespace kzm::tests {
 namespace {
 
-constexpr const char* kVerbs[] = {"show", "monitor", "format", "settings", "call", "list"};
+constexpr const char* kVerbs[] = {"show", "monitor", "format", "settings", "languages", "call", "list"};
 
 TEST(Usage, EveryVerbHasHelp) {
   for (const char* verb : kVerbs) {
@@ -77,6 +77,7 @@ TEST(Usage, UnknownWordsAreOneLine) {
       {{"--locale=", "list"}, "kzmutil: no locale \"\"; names are such as de_CH\n"},
       {{"format", "number", "1", "--locale", "xx_DE"}, "kzmutil: locale \"xx_DE\" is of no known language\n"},
       {{"list", "x"}, "kzmutil: list takes no arguments\n"},
+      {{"languages", "de"}, "kzmutil: languages takes no arguments\n"},
       {{"call", "--frob"}, "kzmutil: call: no option \"--frob\"; `kzmutil call --help` lists them\n"},
       {{"call"}, "kzmutil: call: a name is missing; `kzmutil list` shows them\n"},
       {{"call", "--locale"}, "kzmutil: --locale: its value is missing\n"},

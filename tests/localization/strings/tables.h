@@ -22,10 +22,10 @@ using Rows = std::vector<Row>;
 inline constexpr const char* kHead = "/* source: own; reviewer: none */\n";
 
 /// The table of a language: the head on line 1, a row on each line that follows.
-inline Table table(const std::string& language, const Rows& rows) {
+inline Table table(const std::string& language, const Rows& rows, const std::string& name = "T") {
   std::string content = kHead;
   for (const Row& row : rows) content += literalOf(row.key) + " = " + literalOf(row.text) + ";\n";
-  return parseTable(language + ".lproj/T.strings", content);
+  return parseTable(language + ".lproj/" + name + ".strings", content);
 }
 
 /// The English rows of the same keys.
