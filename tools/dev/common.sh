@@ -14,6 +14,7 @@ packages_build=("${compiler[@]}" cmake ninja-build pkg-config
     libicu-dev libglib2.0-dev libcairo2-dev libcctz-dev nlohmann-json3-dev tzdata)
 packages_test=("${packages_build[@]}" libgtest-dev)
 packages_bench=("${packages_build[@]}" libbenchmark-dev)
+packages_languages=(gobject-introspection libgirepository1.0-dev python3-gi gjs lua5.3 lua-lgi valac rustc clang)
 packages_all=("${packages_test[@]}" libbenchmark-dev libpango1.0-dev fish zsh
     fonts-dejavu-core fonts-noto-ui-core fonts-wqy-microhei fonts-sil-abyssinica)
 packages_check=("${packages_all[@]}" clang-format clang-tidy)
