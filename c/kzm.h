@@ -53,6 +53,7 @@
 #define KZM_CALENDAR_UNIT_NANOSECOND            32768    /* 0 to 999999999, truncated */
 #define KZM_CALENDAR_UNIT_CALENDAR              1048576  /* the text "gregorian" */
 #define KZM_CALENDAR_UNIT_TIME_ZONE             2097152  /* the zone's identifier, a text */
+
 #ifdef __cplusplus
 extern "C" {
 #endif

@@ -1,4 +1,5 @@
-# Installation, in three components: the libraries, what is needed to build against them, and the program.
+# Installation, in components: the libraries, what is needed to build against them, the program, and what other
+# languages load.
 include(CMakePackageConfigHelpers)
 
 set(KZM_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/KZMUtilities)
