@@ -42,7 +42,7 @@ void kzm_free(void* result) { std::free(result); }
 
 const char* kzm_last_error() { return lastError(); }
 
-const char* kzm_version() { return KZM_VERSION; }
+const char* kzm_version() { return KZM_LIBRARY_VERSION; }
 
 int kzm_set_locale(const char* identifier) { return call<setLocale>(identifier); }
 
