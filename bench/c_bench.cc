@@ -66,8 +66,8 @@ BENCHMARK(diskSpace)->Name("c/disk space");
 
 // A panel has several texts of options, which come in turn.
 void manyOptions(benchmark::State& state) {
-  std::vector<std::string> options;
-  for (int i = 0; i < 16; ++i) options.push_back("{\"space\": true, \"decimals\": " + std::to_string(i) + "}");
+  std::vector<std::string> options(16);
+  for (std::size_t i = 0; i < options.size(); ++i) options[i] = "{\"space\": true, \"n\": " + std::to_string(i) + "}";
   for (const std::string& text : options) Text(kzm_format_memory(text.c_str(), 8.4e9), kzm_free);
   std::size_t next = 0;
   measure(state, [&] { return Text(kzm_format_memory(options[next++ % options.size()].c_str(), 8.4e9), kzm_free); });

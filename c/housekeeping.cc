@@ -40,7 +40,7 @@ extern "C" {
 
 void kzm_free(void* result) { std::free(result); }
 
-const char* kzm_last_error() { return lastError(); }
+const char* kzm_last_error() { return lastError; }
 
 const char* kzm_version() { return KZM_LIBRARY_VERSION; }
 

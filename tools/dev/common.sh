@@ -15,8 +15,7 @@ packages_build=("${compiler[@]}" cmake ninja-build pkg-config
 packages_test=("${packages_build[@]}" libgtest-dev)
 packages_bench=("${packages_build[@]}" libbenchmark-dev)
 packages_languages=(gobject-introspection libgirepository1.0-dev python3-gi gjs lua5.3 lua-lgi valac rustc clang)
-packages_all=("${packages_test[@]}" "${packages_languages[@]}"
-    libbenchmark-dev libpango1.0-dev fonts-dejavu-core fish zsh)
+packages_all=("${packages_test[@]}" libbenchmark-dev libpango1.0-dev fonts-dejavu-core fish zsh)
 packages_check=("${packages_all[@]}" clang-format clang-tidy)
 
 # need PACKAGE...: installs those that are not there yet.
@@ -67,9 +66,7 @@ run_tests() {
     env "${environment[@]}" ctest --test-dir "build/$preset" --output-on-failure -j "$jobs" "$@"
 }
 
-# configure_all PRESET [OFF]: everything that can be built, with what it needs; for the verbs that look at all sources.
-# With OFF without what other languages load: they cannot load what is sanitized.
+# Everything that can be built, with what it needs; for the verbs that look at all sources.
 configure_all() {
-    configure "$1" -DKZM_BUILD_TESTS=ON -DKZM_BUILD_EXAMPLES=ON -DKZM_BUILD_BENCHMARKS=ON -DKZM_ALL_TESTS=ON \
-        -DKZM_INTROSPECTION="${2:-ON}"
+    configure "$1" -DKZM_BUILD_TESTS=ON -DKZM_BUILD_EXAMPLES=ON -DKZM_BUILD_BENCHMARKS=ON -DKZM_ALL_TESTS=ON
 }
