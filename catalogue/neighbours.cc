@@ -7,9 +7,11 @@
 #include <KZMSettings/KZMSettings.h>
 
 // Weak: where the library in use has no such function, its address is null.
+// NOLINTBEGIN(readability-redundant-declaration): they are declared again, as weak.
 [[gnu::weak]] void KZMLocalizationSetLanguages(std::span<const std::string> identifiers);
 [[gnu::weak]] bool KZMSettingsSetObjectForKeyPath(const kzm::Value& object, std::string_view keyPath);
 [[gnu::weak]] void KZMSettingsUseObjects(kzm::Dictionary objects);
+// NOLINTEND(readability-redundant-declaration)
 
 namespace kzm::catalogue {
 namespace {
