@@ -81,13 +81,16 @@ void drawCard(const Card& card, const Point& at) {
 }
 
 Image draw(const std::vector<Card>& cards) {
-  const auto rows = static_cast<double>((cards.size() + kColumns - 1) / kColumns);
+  const std::size_t lines = (cards.size() + kColumns - 1) / kColumns;
+  const auto rows = static_cast<double>(lines);
   const auto columns = static_cast<double>(kColumns);
   Image picture(Size{columns * (kCardWidth + kGap) - kGap, rows * (kCardHeight + kGap) - kGap}, kScale);
   const Image::Focus focus(picture);
   for (std::size_t i = 0; i < cards.size(); ++i) {
-    drawCard(cards[i], {static_cast<double>(i % kColumns) * (kCardWidth + kGap),
-                        static_cast<double>(i / kColumns) * (kCardHeight + kGap)});
+    const std::size_t line = i / kColumns;
+    const std::size_t column = i % kColumns;
+    drawCard(cards[i],
+             {static_cast<double>(column) * (kCardWidth + kGap), static_cast<double>(line) * (kCardHeight + kGap)});
   }
   return picture;
 }
