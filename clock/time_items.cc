@@ -17,7 +17,8 @@ struct TimeItemRow {
   bool force = false;
 };
 
-// Deliberate: the minute group, too, names its two sub-groups after the seconds; hosts look for these names.
+// Deliberate: the minute group, too, names its two sub-groups after the seconds; hosts look for these names
+// (TimeItems.AreTheWholeCatalogueInOrder).
 // clang-format off
 //   group         marker       token                           label                force
 constexpr TimeItemRow kRows[] = {

@@ -67,12 +67,14 @@ bool Child::launch() {
 }
 
 void Child::launchWithTimeout(double seconds) {
-  // Deliberate: a second start is a failed start too, and cleans up the child that is running since the first.
+  // Deliberate: a second start is a failed start too, and cleans up the child that is running since the first
+  // (ChildTest.ASecondStartIsAFailedStartAndCleansUp).
   if (!launch()) return cleanup();
   const auto delay = timeoutNanoseconds(seconds);
   if (!delay) return;
   try {
-    // Deliberate: the watchdog is never disarmed, and keeps the child until it fires.
+    // Deliberate: the watchdog is never disarmed, and keeps the child until it fires
+    // (ChildTest.TheWatchdogKeepsTheChildUntilItFires).
     host_.queue.after(*delay, [self = shared_from_this()] { self->forceCancel(); });
   } catch (...) {
     run()->signal(SIGKILL);  // a child without its watchdog must not run
@@ -95,11 +97,13 @@ void Child::killIfStillRunning() {
 
 void Child::cleanup() {
   KZMTryCatchBlock([this] {
-    // Deliberate: the guard ends the whole block without a word if the standard input is not a pipe.
+    // Deliberate: the guard ends the whole block without a word if the standard input is not a pipe
+    // (ChildTest.CleanupEndsSilentlyIfTheInputIsNotAPipe).
     const Pipe input = inputPipe(configuration());
     input.readingEnd().close();
     input.writingEnd().close();
-    // Deliberate: the standard output is only cleared, not closed.
+    // Deliberate: the standard output is only cleared, not closed
+    // (ChildTest.CleanupOnlyClearsTheOutputAndDoesNotCloseIt).
     setConnection(&ChildConfiguration::standardOutput, NullStream{});
     setTerminationHandler(nullptr);
   });

@@ -46,7 +46,8 @@ struct Rule {
 };
 
 // Deliberate: the second rule of snow looks at the sample of rain. And miles in a sample of rain or snow mean inches:
-// a text in miles shows a locale that measures in the old units.
+// a text in miles shows a locale that measures in the old units
+// (UnitsFromTexts.TheSecondRuleOfSnowLooksAtTheSampleOfRain, UnitsFromTexts.MilesInASampleOfRainOrSnowMeanInches).
 // clang-format off
 constexpr Rule kRules[] = {
     {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::knots,           MeasurementUnit::knots          },

@@ -24,7 +24,7 @@ struct PressureRow {
   Unit shown;
 };
 
-// Deliberate: inches of mercury alone ignore the options (Pressure.InchesIgnoreTheOptions).
+// Deliberate: inches of mercury alone ignore the options (WeatherPressure.InchesIgnoreTheOptions).
 // clang-format off
 //   unit                              from hPa              style            shown in; the last row serves all others
 constexpr PressureRow kPressures[] = {
@@ -36,7 +36,7 @@ constexpr PressureRow kPressures[] = {
 
 constexpr std::int64_t kInchDigits = 2;
 
-// Deliberate: "decimals" is read as a boolean here: 5 means one digit (Pressure.OnlyTheTruthOfDecimalsCounts).
+// Deliberate: "decimals" is read as a boolean here: 5 means one digit (WeatherPressure.DecimalsAreABoolean).
 std::int64_t digitsOf(const PressureRow& row, const Dictionary& options) noexcept {
   if (row.style == Style::complete) return kInchDigits;
   return core::readBoolean(options.find(core::kDecimals)) ? 1 : 0;

@@ -31,7 +31,7 @@ struct Sector {
 };
 
 // Deliberate: bearings are not brought into one turn. All below 22.5, the negative ones too, and all from 337.5 on are
-// north, and so is NaN (Wind.DirectionsAreSectorsAndOthersAreNorth).
+// north, and so is NaN (WeatherWindDirection.BearingsAreNotBroughtIntoOneTurn).
 // clang-format off
 constexpr Sector kSectors[] = {
     {22.5,  Unit::north},

@@ -5,7 +5,8 @@
 // Every function may be called from any thread at any time and allocates nothing.
 //
 // Deliberate: the names are spelled as they are published, "celcius" and the capital of KmToMiles included, and the
-// functions of a pair are not exact inverses of each other: each has its own published constant.
+// functions of a pair are not exact inverses of each other: each has its own published constant
+// (Conversions.KeepTheirSpelling, Conversions.FahrenheitAndBackIsNotTheSame).
 #ifndef KZMUTILITIES_CONVERSIONS_H
 #define KZMUTILITIES_CONVERSIONS_H
 

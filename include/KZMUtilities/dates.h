@@ -135,7 +135,7 @@ struct DateComponents {
 /// `dayStart`   The start of the day that holds the time point in the default zone.
 ///
 /// Deliberate: the era is not looked at. A day before Christ gives the start of the day with the same year number,
-/// month and day after Christ; so do the other day starts.
+/// month and day after Christ; so do the other day starts (DayStart.DropsTheEra).
 [[nodiscard]] KZM_EXPORT TimePoint dayStart(TimePoint t);
 /// `dayStartWithTimezone:`   The same in the given zone.
 [[nodiscard]] KZM_EXPORT TimePoint dayStartWithTimezone(TimePoint t, TimeZone zone);

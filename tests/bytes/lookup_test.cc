@@ -59,7 +59,7 @@ class Lookups : public testing::Test {
   [[nodiscard]] static Value cached(std::string_view key) { return KZMUtilities::shared().cache()->find(key); }
 };
 
-TEST_F(Lookups, BandwidthUnitsWithoutPerSecondBearItsHintsAllTheSame) {
+TEST_F(Lookups, BandwidthUnitsWithoutPerSecondHaveItsHintsAllTheSame) {
   constexpr Row kRows[] = {
       {"%@ G", "gigabyte"},         {"%@ M", "megabyte"},         {"%@ K", "kilobyte"},
       {"%@G", "gigabyte"},          {"%@M", "megabyte"},          {"%@K", "kilobyte"},

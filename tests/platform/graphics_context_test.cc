@@ -58,7 +58,7 @@ TEST(GraphicsContext, AHostSetsColoursAndOrientation) {
   EXPECT_TRUE(GraphicsContext(canvas.cairo()).isFlipped()) << "down is the ordinary direction of y";
 }
 
-TEST(GraphicsContext, ColoursStaySetAfterABar) {
+TEST(GraphicsContext, ColorsStaySetAfterABar) {
   const Canvas canvas(20, 20);
   const GraphicsContext context(canvas.cairo());
   const auto current = context.makeCurrent();
