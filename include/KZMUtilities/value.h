@@ -24,7 +24,7 @@ class Value;
 
 using Array = std::vector<Value>;
 
-/// Base of everything that a Value hands through without looking inside: text attributes of a host's own kind, and
+/// Base of everything that a Value passes on without looking inside: text attributes of a host's own kind, and
 /// the shared objects of the library's cache.
 class Object {
  public:
@@ -33,7 +33,7 @@ class Object {
   Object& operator=(const Object&) = default;
   virtual ~Object() = default;
 
-  /// Whether the other object stands for the same thing. Two neighbouring runs of text with equal attributes are one.
+  /// Whether the other object means the same. Two neighboring runs of text with equal attributes are one.
   [[nodiscard]] virtual bool equals(const Object& other) const { return this == &other; }
 };
 
