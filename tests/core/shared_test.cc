@@ -200,6 +200,20 @@ TEST_F(SharedState, AnEntryIsMadeOnlyWhenNoneIsAccepted) {
   EXPECT_EQ(entries.entries(), (Dictionary{{"key", "made"}}));
 }
 
+TEST_F(SharedState, AnAbsentEntryIsShownToTheOneWhoAcceptsAsNull) {
+  Cache entries;
+  const auto takesNull = [](const Value& value) { return value.isNull(); };
+  EXPECT_EQ(entries.findOrMake("key", takesNull, [] { return Value("made"); }), Value());
+  EXPECT_EQ(entries.size(), 0U);
+}
+
+TEST_F(SharedState, AnEntryThatIsMadeInThePlaceOfAnotherCountsAtTheNextCall) {
+  EXPECT_EQ(KZMUtilitiesFormatMemory({}, 1073741824.0), "1GB");
+  const auto nothing = [](const Value&) { return false; };
+  cache()->findOrMake("Localizations-Units-Memory", nothing, [] { return Value(Dictionary{{"%@GB", "%@ giga"}}); });
+  EXPECT_EQ(KZMUtilitiesFormatMemory({}, 1073741824.0), "1 giga");
+}
+
 TEST_F(SharedState, TheCacheNeverShrinks) {
   std::size_t size = 0;
   for (int digits = -3; digits < 40; ++digits) {

@@ -188,6 +188,16 @@ TEST_F(DefaultUnits, UnitsAreGivenBackAsTheyWereSet) {
   EXPECT_EQ(units.windSpeedUnit(), Unit::inches);
 }
 
+TEST_F(DefaultUnits, UnitsAreACopy) {
+  KZMUtilitiesDefaultUnits units;
+  units.setUnits(only("windspeed", Unit::knots));
+  PreferredUnits copy = units.units();
+  copy["windspeed"] = Unit::milesPerHour;
+  EXPECT_EQ(units.windSpeedUnit(), Unit::knots);
+  units.setUnits(copy);
+  EXPECT_EQ(units.windSpeedUnit(), Unit::milesPerHour);
+}
+
 TEST_F(DefaultUnits, FollowTheLocaleInForceWhenMade) {
   struct Case {
     const char* locale;
