@@ -11,7 +11,7 @@ namespace kzm::bench {
 namespace {
 
 const Dictionary& unitsAndSpace() {
-  static const Dictionary& options = *new Dictionary{{"units", true}, {"space", true}};
+  static const Dictionary options{{"units", true}, {"space", true}};
   return options;
 }
 

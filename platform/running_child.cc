@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "port/never_destroyed.h"
+
 namespace kzm::platform {
 namespace {
 
@@ -14,10 +16,10 @@ using Shared = std::shared_ptr<RunningChild>;
 // Every child whose end nobody has seen. It keeps them alive, and so no ended process is left behind uncollected.
 class Uncollected {
  public:
-  // Never destroyed: children may be released until the very end of the host.
+  // Children may be released until the very end of the host.
   static Uncollected& all() {
-    static Uncollected& instance = *std::make_unique<Uncollected>().release();
-    return instance;
+    static port::NeverDestroyed<Uncollected> instance;
+    return *instance;
   }
 
   // A list of the one child that is to be added: adding it takes no memory any more.

@@ -12,6 +12,7 @@
 
 #include "port/canonical_locale.h"
 #include "port/memory_watch.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::port {
 namespace {
@@ -100,8 +101,8 @@ std::set<std::string, std::less<>> availableLanguages() {
 // Asked of ICU's list, not by opening the language's data: with fallback every name would be found, in the data of the
 // process's own locale; without it ICU would keep a bundle that has lost its parents ("nb" that of "no") for everybody.
 bool isLanguageKnown(const icu::Locale& locale) {
-  static const std::set<std::string, std::less<>>& known = *new auto(availableLanguages());
-  return known.contains(locale.getLanguage());
+  static const NeverDestroyed<std::set<std::string, std::less<>>> known(availableLanguages());
+  return known->contains(locale.getLanguage());
 }
 
 std::string likelyScript(icu::Locale locale) {

@@ -7,6 +7,8 @@
 #include <sys/eventfd.h>
 #include <utility>
 
+#include "port/never_destroyed.h"
+
 namespace kzm::port {
 namespace {
 
@@ -89,8 +91,8 @@ class GlibMainQueue final : public MainQueue {
 }  // namespace
 
 MainQueue& mainQueue() {
-  static GlibMainQueue& queue = *std::make_unique<GlibMainQueue>().release();
-  return queue;
+  static NeverDestroyed<GlibMainQueue> queue;
+  return *queue;
 }
 
 }  // namespace kzm::port

@@ -4,6 +4,7 @@
 #include <memory>
 #include <system_error>
 
+#include "port/never_destroyed.h"
 #include "port/time_zone.h"
 
 namespace kzm::port {
@@ -96,10 +97,9 @@ ZonePointer findSystemZone(const char* variable, const std::filesystem::path& li
 }
 
 const Zone& systemZone() {
-  // Never destroyed, as zones are handed out.
   // NOLINTNEXTLINE(concurrency-mt-unsafe): read once, and never written here
-  static const ZonePointer& zone = *new ZonePointer(findSystemZone(std::getenv("TZ"), "/etc/localtime"));
-  return *zone;
+  static const NeverDestroyed<ZonePointer> zone(findSystemZone(std::getenv("TZ"), "/etc/localtime"));
+  return **zone;
 }
 
 }  // namespace kzm::port
