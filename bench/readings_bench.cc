@@ -1,4 +1,4 @@
-// Sensor and weather readings, and the two neighbour libraries that they ask.
+// Sensor and weather readings, and the two companion libraries that they ask.
 #include <KZMLocalization/KZMLocalization.h>
 #include <KZMSettings/KZMSettings.h>
 #include <KZMUtilities/resources.h>

@@ -29,7 +29,7 @@ std::size_t countDigits(std::string_view text) {
   return count;
 }
 
-// What std::from_chars will not tell of a number out of range: whether it is too large, not too small. A number is
+// What std::from_chars does not say of a number out of range: whether it is too large, not too small. A number is
 // larger than one when the place of its first digit that counts, moved by the exponent, is before the point.
 bool isLarge(std::string_view digits, std::size_t integerDigits, std::int64_t exponent) {
   const std::size_t first = digits.find_first_of("123456789");

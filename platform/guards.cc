@@ -1,4 +1,4 @@
-// The platform's exception and the two guards that catch it.
+// The host's exception and the two guards that catch it.
 #include <utility>
 
 #include <KZMUtilities/guards.h>

@@ -13,7 +13,7 @@ namespace {
 
 using Shared = std::shared_ptr<RunningChild>;
 
-// Every child whose end nobody has seen. It keeps them alive, and so no ended process is left behind uncollected.
+// Every child whose end nobody has seen. It keeps them alive, so that no ended process stays uncollected.
 class Uncollected {
  public:
   // Children may be released until the very end of the host.

@@ -4,6 +4,9 @@
 namespace kzm::bytes {
 namespace {
 
+constexpr FamilyCalls kActivity{KZMUtilitiesDiskActivityData, KZMUtilitiesFormatDiskActivity,
+                                KZMUtilitiesFormatDiskActivityWithAttributes};
+
 const Dictionary kEarly{{"early-upgrade", true}};
 
 TEST(DiskActivity, LevelsAndValues) {
@@ -35,7 +38,7 @@ TEST(DiskActivity, LevelsAndValues) {
       {"no unit sizes",            {{"unitsize", 1}},        2048.0,               "%@KB/s", 2.0},
   };
   // clang-format on
-  for (const DataRow& row : rows) expectData(row, KZMUtilitiesDiskActivityData(row.options, row.quantity));
+  kActivity.expectAll(rows);
 }
 
 TEST(DiskActivity, EveryUnitInItsStyle) {
@@ -62,10 +65,7 @@ TEST(DiskActivity, EveryUnitInItsStyle) {
       {"infinite",                {},                                 kInfinity,    "∞GB/s"},
   };
   // clang-format on
-  for (const TextRow& row : rows) {
-    EXPECT_EQ(KZMUtilitiesFormatDiskActivity(row.options, row.quantity), row.text) << row.why;
-    EXPECT_EQ(KZMUtilitiesFormatDiskActivityWithAttributes(row.options, row.quantity).text(), row.text) << row.why;
-  }
+  kActivity.expectAll(rows);
 }
 
 TEST(DiskActivity, HiddenBytesAreADashInTheAttributedTextAlone) {

@@ -4,9 +4,7 @@
 namespace kzm::bytes {
 namespace {
 
-void expectAll(std::span<const DataRow> rows) {
-  for (const DataRow& row : rows) expectData(row, KZMUtilitiesMemoryData(row.options, row.quantity));
-}
+constexpr FamilyCalls kMemory{KZMUtilitiesMemoryData, KZMUtilitiesFormatMemory, KZMUtilitiesFormatMemoryWithAttributes};
 
 TEST(Memory, TheFirstThresholdIsReachedTheOthersAreNot) {
   const DataRow rows[] = {
@@ -26,7 +24,7 @@ TEST(Memory, TheFirstThresholdIsReachedTheOthersAreNot) {
       {"above 2^50", {}, 0x1.0000000000001p50, "%@PB", 0x1.0000000000001p0},
       {"nothing above peta", {}, 0x1p60, "%@PB", 1024.0},
   };
-  expectAll(rows);
+  kMemory.expectAll(rows);
 }
 
 TEST(Memory, EveryDoubleHasAnAnswer) {
@@ -44,18 +42,13 @@ TEST(Memory, EveryDoubleHasAnAnswer) {
       {"no reversal",        {{"reverse-type", true}},  2048.0,        "%@KB", 2.0},
   };
   // clang-format on
-  expectAll(rows);
+  kMemory.expectAll(rows);
 }
 
 TEST(Memory, EveryUnitInItsStyle) {
   constexpr double kSizes[] = {2048.0, 3145728.0, 4294967296.0, 5497558138880.0, 6755399441055744.0};
-  struct Style {
-    const char* why;
-    Dictionary options;
-    const char* texts[5];
-  };
   // clang-format off
-  const Style styles[] = {
+  const StyleRow styles[] = {
       {"brief",                   {{"short", true}},                   {"2K", "3M", "4G", "5T", "6P"}},
       {"spaced",                  {{"space", true}},                   {"2 KB", "3 MB", "4 GB", "5 TB", "6 PB"}},
       {"tight",                   {},                                  {"2KB", "3MB", "4GB", "5TB", "6PB"}},
@@ -65,13 +58,7 @@ TEST(Memory, EveryUnitInItsStyle) {
       {"no unit sizes",           {{"unitsize", 1}},                   {"2KB", "3MB", "4GB", "5TB", "6PB"}},
   };
   // clang-format on
-  for (const Style& style : styles) {
-    for (std::size_t level = 0; level < 5; ++level) {
-      EXPECT_EQ(KZMUtilitiesFormatMemory(style.options, kSizes[level]), style.texts[level]) << style.why;
-      EXPECT_EQ(KZMUtilitiesFormatMemoryWithAttributes(style.options, kSizes[level]).text(), style.texts[level])
-          << style.why;
-    }
-  }
+  kMemory.expectAll(styles, kSizes);
 }
 
 TEST(Memory, TextsInBothRenderings) {
@@ -86,10 +73,7 @@ TEST(Memory, TextsInBothRenderings) {
       {"minus infinite", {}, -kInfinity, "-∞KB"},
       {"minus zero", {}, -0.0, "-0KB"},
   };
-  for (const TextRow& row : rows) {
-    EXPECT_EQ(KZMUtilitiesFormatMemory(row.options, row.quantity), row.text) << row.why;
-    EXPECT_EQ(KZMUtilitiesFormatMemoryWithAttributes(row.options, row.quantity).text(), row.text) << row.why;
-  }
+  kMemory.expectAll(rows);
 }
 
 TEST(Memory, TheNumberIsMainAndTheUnitIsUnit) {

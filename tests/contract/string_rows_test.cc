@@ -15,22 +15,21 @@
 #include <KZMUtilities/KZMUtilities.h>
 
 #include "core/rows.h"
+#include "tests/support/lookup.h"
 #include "tools/strings/table.h"
 #include "weather/weather_text.h"
 
 namespace {
 
-struct Lookup {
-  std::string key;
-  std::string hint;  // empty where there is none
-};
+using kzm::tests::Lookup;
+
 std::vector<Lookup> lookups;
 
 }  // namespace
 
-std::string KZMLocalizedStringFromTableInBundle(std::string_view key, std::string_view /*table*/,
-                                                const kzm::ResourceBundle* /*bundle*/, const char* comment) {
-  lookups.push_back({std::string(key), comment != nullptr ? comment : ""});
+std::string KZMLocalizedStringFromTableInBundle(std::string_view key, std::string_view table,
+                                                const kzm::ResourceBundle* bundle, const char* comment) {
+  lookups.emplace_back(key, table, bundle, comment);
   return std::string(key);
 }
 
@@ -46,8 +45,7 @@ void lookUpWeather() {
       static_cast<void>(weather::localizedText(static_cast<weather::Unit>(unit), spacing));
     }
   }
-  const auto twice = std::ranges::unique(lookups, {}, &Lookup::key);
-  lookups.erase(twice.begin(), twice.end());
+  lookups.erase(std::unique(lookups.begin(), lookups.end()), lookups.end());
 }
 
 // What all families look up, in the order of their tables.
@@ -105,9 +103,9 @@ TEST(StringRows, AHintSaysWhatTheEnglishTableSays) {
   std::size_t hints = 0;
   for (const Lookup& lookup : allLookups()) {
     const strings::Entry* entry = table.find(lookup.key);
-    if (lookup.hint.empty() || entry == nullptr) continue;
-    const bool agrees = entry->hint.find(inFullWords(lookup.hint)) != std::string::npos;
-    EXPECT_EQ(agrees, prefixOf(lookup.key) != "Units.Activity.") << lookup.key << ": " << lookup.hint;
+    if (!lookup.comment.has_value() || entry == nullptr) continue;
+    const bool agrees = entry->hint.find(inFullWords(*lookup.comment)) != std::string::npos;
+    EXPECT_EQ(agrees, prefixOf(lookup.key) != "Units.Activity.") << lookup.key << ": " << *lookup.comment;
     ++hints;
   }
   EXPECT_EQ(hints, 30U + 5 + 5 + 5 + 10 + 1);
