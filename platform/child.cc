@@ -1,6 +1,5 @@
 #include "platform/child.h"
 
-#include <csignal>
 #include <utility>
 
 #include <KZMUtilities/guards.h>
@@ -77,7 +76,7 @@ void Child::launchWithTimeout(double seconds) {
     // (ChildTest.TheWatchdogKeepsTheChildUntilItFires).
     host_.queue.after(*delay, [self = shared_from_this()] { self->forceCancel(); });
   } catch (...) {
-    run()->signal(SIGKILL);  // a child without its watchdog must not run
+    run()->stop(port::Stop::force);  // a child without its watchdog must not run
     throw;
   }
 }
@@ -85,14 +84,14 @@ void Child::launchWithTimeout(double seconds) {
 void Child::forceCancel() {
   if (!isRunning()) return;
   host_.log.write(kTerminating);
-  run()->signal(SIGTERM);
+  run()->stop(port::Stop::request);
   host_.queue.after(kGraceNanoseconds, [self = shared_from_this()] { self->killIfStillRunning(); });
 }
 
 void Child::killIfStillRunning() {
   if (!isRunning()) return;
   host_.log.write(kKilling);
-  run()->signal(SIGKILL);
+  run()->stop(port::Stop::force);
 }
 
 void Child::cleanup() {

@@ -1,7 +1,6 @@
 #include "platform/running_child.h"
 
 #include <algorithm>
-#include <csignal>
 #include <list>
 #include <utility>
 #include <vector>
@@ -61,7 +60,7 @@ std::shared_ptr<RunningChild> RunningChild::start(const port::Launch& launch, Ha
     queue.open(place);
     if (child->isRunning()) child->watch();
   } catch (...) {
-    child->signal(SIGKILL);
+    child->stop(port::Stop::force);
     throw;
   }
   return child;
@@ -103,9 +102,9 @@ std::optional<ExitStatus> RunningChild::exitStatus() {
   return status_;
 }
 
-void RunningChild::signal(int number) {
+void RunningChild::stop(port::Stop how) {
   const std::lock_guard lock(mutex_);
-  if (task_) task_->signal(number);
+  if (task_) task_->stop(how);
 }
 
 void RunningChild::setHandler(Handler handler) {

@@ -29,7 +29,7 @@ class RunningChild : public std::enable_shared_from_this<RunningChild> {
   [[nodiscard]] int processIdentifier() const { return processIdentifier_; }
   [[nodiscard]] bool isRunning();
   [[nodiscard]] std::optional<ExitStatus> exitStatus();
-  void signal(int number);
+  void stop(port::Stop how);
   void setHandler(Handler handler);
 
  private:

@@ -62,10 +62,10 @@ KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::s
 /// option; the first match anywhere in the text counts. Invalid UTF-8 counts as U+FFFD, one for each bad sequence.
 ///
 /// False for an invalid pattern, one without a capture group, and a search that the engine gives up: after 2000 units
-/// of work of ten thousand steps each (about a quarter of a second) and one more for every 1250 bytes of text, after one
-/// second and half a microsecond for each byte of text in work that it does not count in steps, or when its stack is
-/// full. Not searched at all are texts above 1 GiB, texts above 16 KiB when the pattern refers back to a group, patterns
-/// above 2 KiB whose sets would take more than a quarter of a second to compile, and patterns above 64 KiB.
+/// of work of ten thousand steps each (about a quarter of a second) and one more for every 1250 bytes of text, after
+/// one second and half a microsecond for each byte of text in work that it does not count in steps, or when its stack
+/// is full. Not searched at all are texts above 1 GiB, texts above 16 KiB when the pattern refers back to a group,
+/// patterns above 2 KiB whose sets would take more than a quarter of a second to compile, and patterns above 64 KiB.
 ///
 /// A failed allocation throws std::bad_alloc.
 ///

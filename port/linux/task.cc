@@ -61,7 +61,8 @@ class LinuxTask final : public Task {
     return status_;
   }
 
-  void signal(int number) override {
+  void stop(Stop how) override {
+    const int number = how == Stop::force ? SIGKILL : SIGTERM;
     if (!status_ && pidfd_ >= 0) signalPidfd(pidfd_, number);
   }
 
