@@ -39,14 +39,14 @@ void setting(benchmark::State& state) {
   KZMSettingsUseObjects({{"Weather.Global.Units.Pressure", 2}});
   measure(state, [] { return KZMSettingsObjectForKeyPath("Weather.Global.Units.Pressure"); });
 }
-BENCHMARK(setting)->Name("neighbours/one setting");
+BENCHMARK(setting)->Name("companions/one setting");
 
 void localizedText(benchmark::State& state) {
   const ResourceBundle* bundle = bundleWithIdentifier(kBundleIdentifier);
   measure(state,
           [=] { return KZMLocalizedStringFromTableInBundle("Units.Memory.%@ GB", "KZMUtilities", bundle, nullptr); });
 }
-BENCHMARK(localizedText)->Name("neighbours/one text");
+BENCHMARK(localizedText)->Name("companions/one text");
 
 }  // namespace
 }  // namespace kzm::bench

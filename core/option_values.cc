@@ -4,12 +4,11 @@
 #include <limits>
 #include <system_error>
 
+#include "port/ascii.h"
 #include "port/never_destroyed.h"
 
 namespace kzm::core {
 namespace {
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 std::string_view withoutLeadingBlanks(std::string_view text) {
   const std::size_t start = text.find_first_not_of(" \t\n\v\f\r");
@@ -25,7 +24,7 @@ bool takeSign(std::string_view& text) {
 
 std::size_t countDigits(std::string_view text) {
   std::size_t count = 0;
-  while (count < text.size() && isDigit(text[count])) ++count;
+  while (count < text.size() && port::isDigit(text[count])) ++count;
   return count;
 }
 

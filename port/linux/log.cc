@@ -1,4 +1,4 @@
-// The system log of a Linux desktop: the journal, else syslog, and standard error for whoever looks at the terminal.
+// The system log of a Linux desktop: the journal, else syslog, and standard error for a person at the terminal.
 #include "port/log.h"
 
 #include <array>

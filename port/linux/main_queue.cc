@@ -57,7 +57,7 @@ class DescriptorWatch final : public MainQueue::Watch {
 
 class GlibMainQueue final : public MainQueue {
  public:
-  // The context opens a descriptor when somebody first asks for it, and keeps it. Nobody can tell whether the host has
+  // The context opens a descriptor when somebody first asks for it, and keeps it. Nobody knows whether the host has
   // asked; so until we have done so, a place is kept, perhaps for nothing.
   std::optional<FileHandle> keepPlace() override {
     if (isOpen_.load(std::memory_order_acquire)) return std::nullopt;

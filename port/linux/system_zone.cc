@@ -64,7 +64,7 @@ ZonePointer localZone(std::string identifier) {
   return std::make_shared<const LocalZone>(std::move(identifier));
 }
 
-// Named zones are there for ever.
+// Named zones are there forever.
 ZonePointer unowned(const Zone& zone) { return {ZonePointer(), &zone}; }
 
 // Whether the C library would open something that is no file: it would wait for the other end of a FIFO.

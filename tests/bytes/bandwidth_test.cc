@@ -174,7 +174,7 @@ TEST(Bandwidth, UnitSizes) {
       {"present is enough: false", {{"short", false}, {"unitsize", 2}}, 2048.0, "2K"},
       {"present is enough: 0",     {{"short", 0}},                      2048.0, "2K"},
       {"present is enough: null",  {{"short", nullptr}},                2048.0, "2K"},
-      {"short with a blank",       {{"short", true}, {"space", true}},  2048.0, "2 K"},
+      {"short with a space",       {{"short", true}, {"space", true}},  2048.0, "2 K"},
       {"space as \"no\"",          {{"space", "no"}},                   2048.0, "2KB/s"},
       {"space as a text",          {{"space", "true"}},                 2048.0, "2 KB/s"},
       {"space as an array",        {{"space", Array{true}}},            2048.0, "2KB/s"},
@@ -191,11 +191,11 @@ TEST(Bandwidth, TheWorkedExample) {
                            {"unitsize", 3},
                            {"decimals-mb", Array{rule(10, 2), rule(100, 1)}},
                            {"attributes-main", "bold"},
-                           {"attributes-units", "grey"}};
+                           {"attributes-units", "gray"}};
   expectData({"data", {}, 0.0, "%@ Mb/s", 11.444091796875, 1}, KZMUtilitiesBandwidthData(options, 1500000.0));
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 1500000.0), "11.4 Mb/s");
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatBandwidthWithAttributes(options, 1500000.0)),
-            (Runs{{"11.4", "bold"}, {" Mb/s", "grey"}}));
+            (Runs{{"11.4", "bold"}, {" Mb/s", "gray"}}));
 }
 
 TEST(Bandwidth, WithoutDecimalsTheAttributedNumberIsNeverGrouped) {

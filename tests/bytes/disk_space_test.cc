@@ -91,10 +91,10 @@ TEST(DiskSpace, ZerosAtTheEndAreDropped) {
 }
 
 TEST(DiskSpace, TheNumberIsMainAndTheUnitIsUnit) {
-  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
+  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "gray"}};
   EXPECT_EQ(KZMUtilitiesFormatSpace(options, 250000000000.0), "250 GB");
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatSpaceWithAttributes(options, 250000000000.0)),
-            (Runs{{"250", "bold"}, {" GB", "grey"}}));
+            (Runs{{"250", "bold"}, {" GB", "gray"}}));
 }
 
 }  // namespace

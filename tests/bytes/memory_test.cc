@@ -64,7 +64,7 @@ TEST(Memory, EveryUnitInItsStyle) {
 TEST(Memory, TextsInBothRenderings) {
   const Dictionary twoDigits{{"decimals-kb", Array{rule(10000, 2)}}, {"decimals-mb", Array{rule(10000, 2)}}};
   const TextRow rows[] = {
-      {"exactly so many digits", twoDigits, 1572864.0, "1.50MB"},
+      {"exactly two digits", twoDigits, 1572864.0, "1.50MB"},
       {"zeros stay", twoDigits, 2097152.0, "2.00MB"},
       {"grouped with digits", twoDigits, 1048576.0, "1,024.00KB"},
       {"grouped without digits too", {}, 1048576.0, "1,024KB"},
@@ -77,10 +77,10 @@ TEST(Memory, TextsInBothRenderings) {
 }
 
 TEST(Memory, TheNumberIsMainAndTheUnitIsUnit) {
-  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
+  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "gray"}};
   EXPECT_EQ(KZMUtilitiesFormatMemory(options, 1073741824.0), "1 GB");
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatMemoryWithAttributes(options, 1073741824.0)),
-            (Runs{{"1", "bold"}, {" GB", "grey"}}));
+            (Runs{{"1", "bold"}, {" GB", "gray"}}));
 }
 
 }  // namespace

@@ -96,13 +96,13 @@ TEST_F(SharedState, NumbersFormatByTheirDecimals) {
   for (const Case& c : cases) EXPECT_EQ(KZMUtilitiesFormatNumber(c.options, c.value), c.text) << c.why;
 }
 
-TEST_F(SharedState, AHostsFormatterIsHonouredByTheNextCall) {
+TEST_F(SharedState, AHostsFormatterIsHonoredByTheNextCall) {
   EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2");
   cache()->set("NumberFormatter-Decimal--.1", std::make_shared<const NumberFormatter>(4, 4));
   EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2500");
 }
 
-TEST_F(SharedState, AHostsUnitTableIsHonouredByTheNextCall) {
+TEST_F(SharedState, AHostsUnitTableIsHonoredByTheNextCall) {
   const Dictionary options{{"unitsize", 2}, {"space", true}};
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "5 GB");
   cache()->set("Localizations-Units-Network", Dictionary{{"%@ GB", "Go: %@"}});

@@ -1,4 +1,4 @@
-// The library's own string tables as they were embedded: what stands in every language, and what each one says.
+// The library's own string tables as they were embedded: what is in every language, and what each one says.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>

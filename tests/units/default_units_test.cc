@@ -118,7 +118,7 @@ TEST_F(DefaultUnits, SettingsAreReadAsIntegers) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   const Case cases[] = {
       {"a text", "2", Unit::millibars},
-      {"a text with blanks", "  3x", Unit::inchesOfMercury},
+      {"a text with spaces", "  3x", Unit::inchesOfMercury},
       {"a fraction is cut", 2.9, Unit::millibars},
       {"a text's fraction is cut", "2.9", Unit::millibars},
       {"true is one", true, Unit::hectopascals},
