@@ -105,9 +105,11 @@ constexpr const KindRow* rowOf(std::int64_t type) {
 }
 
 // Every kind that is published has its row.
-static_assert([]<std::size_t... type>(std::index_sequence<type...>) {
-  return ((core::isEnumerator<static_cast<SensorType::Kind>(type)>() == (rowOf(type) != nullptr)) && ...);
-}(std::make_index_sequence<256>()));
+static_assert(
+    []<std::size_t... type>(std::index_sequence<type...>) {
+      return ((core::isEnumerator<static_cast<SensorType::Kind>(type)>() == (rowOf(type) != nullptr)) && ...);
+    }(std::make_index_sequence<256>()),
+    "a kind has no row");
 
 }  // namespace
 

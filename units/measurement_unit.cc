@@ -38,7 +38,7 @@ constexpr UnitFacts kFacts[] = {
 // clang-format on
 
 // Each unit's row is at the unit's own number.
-static_assert(core::areInOrder(kFacts, &UnitFacts::unit));
+static_assert(core::areInOrder(kFacts, &UnitFacts::unit), "a unit has no row, or not its place");
 
 // A number that is no unit has no facts.
 constexpr UnitFacts factsOf(MeasurementUnit unit) noexcept {

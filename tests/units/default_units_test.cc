@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <limits>
@@ -11,6 +12,7 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
 
+#include "core/rows.h"
 #include "tests/support/settings.h"
 
 namespace kzm {
@@ -186,6 +188,14 @@ TEST_F(DefaultUnits, UnitsAreGivenBackAsTheyWereSet) {
   units.setUnits(odd);
   EXPECT_EQ(units.units(), odd);
   EXPECT_EQ(units.windSpeedUnit(), Unit::inches);
+}
+
+TEST_F(DefaultUnits, EveryUnitCanBeChosen) {
+  for (std::size_t i = 0; i < core::countEnumerators<Unit>(); ++i) {
+    const auto unit = static_cast<Unit>(i);
+    const auto offers = [unit](const UnitSetting& setting) { return std::ranges::count(setting.units, unit) > 0; };
+    EXPECT_TRUE(std::ranges::any_of(unitSettings(), offers)) << measurementUnitName(unit);
+  }
 }
 
 TEST_F(DefaultUnits, UnitsAreACopy) {
