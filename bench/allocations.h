@@ -10,7 +10,7 @@ namespace kzm::bench {
 /// Allocations of this process so far, the libraries' own with them.
 [[nodiscard]] std::int64_t allocations() noexcept;
 
-/// Runs the call over and over; the result is kept alive, and allocations per call stand in a column of their own.
+/// Runs the call over and over; the result is kept alive, and allocations per call have a column of their own.
 template <class Call>
 void measure(benchmark::State& state, const Call& call) {
   benchmark::DoNotOptimize(call());  // what only the first call does is not the steady state

@@ -46,7 +46,7 @@ BENCHMARK(bandwidthData)->Name("bytes/bandwidth, data");
 void bandwidthAttributed(benchmark::State& state) {
   Dictionary options = networkOptions();
   options.set("attributes-main", "bold");
-  options.set("attributes-units", "grey");
+  options.set("attributes-units", "gray");
   measure(state, [&] { return KZMUtilitiesFormatBandwidthWithAttributes(options, 1500000.0); });
 }
 BENCHMARK(bandwidthAttributed)->Name("bytes/bandwidth, attributed");

@@ -1,4 +1,4 @@
-// Sensor and weather readings, and the two neighbour libraries that they ask.
+// Sensor and weather readings, and the two companion libraries that they ask.
 #include <KZMLocalization/KZMLocalization.h>
 #include <KZMSettings/KZMSettings.h>
 #include <KZMUtilities/resources.h>
@@ -11,7 +11,7 @@ namespace kzm::bench {
 namespace {
 
 const Dictionary& unitsAndSpace() {
-  static const Dictionary& options = *new Dictionary{{"units", true}, {"space", true}};
+  static const Dictionary options{{"units", true}, {"space", true}};
   return options;
 }
 
@@ -39,14 +39,14 @@ void setting(benchmark::State& state) {
   KZMSettingsUseObjects({{"Weather.Global.Units.Pressure", 2}});
   measure(state, [] { return KZMSettingsObjectForKeyPath("Weather.Global.Units.Pressure"); });
 }
-BENCHMARK(setting)->Name("neighbours/one setting");
+BENCHMARK(setting)->Name("companions/one setting");
 
 void localizedText(benchmark::State& state) {
   const ResourceBundle* bundle = bundleWithIdentifier(kBundleIdentifier);
   measure(state,
           [=] { return KZMLocalizedStringFromTableInBundle("Units.Memory.%@ GB", "KZMUtilities", bundle, nullptr); });
 }
-BENCHMARK(localizedText)->Name("neighbours/one text");
+BENCHMARK(localizedText)->Name("companions/one text");
 
 }  // namespace
 }  // namespace kzm::bench

@@ -6,8 +6,8 @@
 namespace kzm::bytes {
 namespace {
 
-// Deliberate: the translator hints are wrong on purpose: the list petabyte to kilobyte is laid on the first five rows
-// in order (Lookups.ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome).
+// Deliberate: the translator hints are wrong on purpose: the list petabyte to kilobyte is applied to the first five
+// rows in order (Lookups.ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome).
 // clang-format off
 //   form                  level           spacing                template    translator's hint
 constexpr UnitText kTexts[] = {

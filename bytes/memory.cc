@@ -7,7 +7,7 @@ namespace kzm::bytes {
 namespace {
 
 // Deliberate: 1024 KB stays KB (at most), but 1024 MB is already 1 GB (below). NaN ends in peta
-// (Memory.OneThousandTwentyFourKiloStayAndMegaMoveUp).
+// (Memory.TheFirstThresholdIsReachedTheOthersAreNot).
 // clang-format off
 //   level        taken when       kilobytes        shown as
 constexpr Rung kRungs[] = {

@@ -5,8 +5,8 @@
 
 #include <KZMUtilities/formatters.h>
 
+#include "catalogue/companions.h"
 #include "catalogue/errors.h"
-#include "catalogue/neighbours.h"
 
 namespace kzm::c {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "c/call.h"
 #include "c/kzm.h"
+#include "catalogue/companions.h"
 #include "catalogue/errors.h"
-#include "catalogue/neighbours.h"
 
 namespace kzm::c {
 namespace {

@@ -5,12 +5,13 @@
 #include <utility>
 
 #include "catalogue/arguments.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::c {
 
 const Dictionary& OptionsMemo::readAnother(const char* text) {
-  static const Dictionary& none = *new Dictionary;
-  if (text == nullptr) return none;
+  static const port::NeverDestroyed<Dictionary> none;
+  if (text == nullptr) return *none;
   const std::string_view wanted(text);
   const auto found =
       std::find_if(entries_.begin(), entries_.end(), [wanted](const Entry& entry) { return entry.text == wanted; });

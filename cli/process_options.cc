@@ -7,7 +7,7 @@
 #include <KZMUtilities/dates.h>
 #include <KZMUtilities/formatters.h>
 
-#include "catalogue/neighbours.h"
+#include "catalogue/companions.h"
 #include "cli/errors.h"
 #include "cli/flags.h"
 #include "cli/locale_name.h"

@@ -26,7 +26,7 @@ if(NOT BUILD_SHARED_LIBS)
   install(FILES cmake/dependencies.cmake cmake/FindCCTZ.cmake DESTINATION ${KZM_PACKAGE_DIR} COMPONENT development)
 endif()
 
-# An installed tree can be moved: the .pc files find their prefix from where they lie. Where a folder is an absolute
+# An installed tree can be moved: the .pc files find their prefix from where they are. Where a folder is an absolute
 # path, it is named as such.
 set(KZM_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(KZM_PC_LIBDIR ${CMAKE_INSTALL_FULL_LIBDIR})

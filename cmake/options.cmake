@@ -1,4 +1,4 @@
-# What is built beside the libraries. A project that embeds this one gets the libraries alone and none of its settings.
+# What is built besides the libraries. A project that embeds this one gets the libraries alone and none of its settings.
 option(KZM_BUILD_PROGRAM "Build kzmutil" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_BUILD_C "Build the C library" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_INTROSPECTION "Make what other languages load of the C library; needs gobject-introspection" OFF)

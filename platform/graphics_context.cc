@@ -1,4 +1,4 @@
-// The current context of each thread, and the two colours that cairo, with its single source, does not keep.
+// The current context of each thread, and the two colors that cairo, with its single source, does not keep.
 #include <cairo.h>
 #include <utility>
 

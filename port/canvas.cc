@@ -21,7 +21,7 @@ constexpr double kLargestOffset = 1e9;
 constexpr double kSmallestSide = 0x1p-9;
 // How far beyond what can be seen a shape is drawn, in points and in pixels: more than corners and lines reach.
 constexpr double kMargin = 8.0;
-// The magnification, in pixels to an image's point, from which the part that can be seen has one colour.
+// The magnification, in pixels to an image's point, from which the part that can be seen has one color.
 constexpr double kLargestMagnification = 1e6;
 
 struct Span {
@@ -115,7 +115,7 @@ std::optional<Rect> fillablePart(cairo_t* cairo, const Rect& rect) {
   return hasInside ? part : std::nullopt;
 }
 
-// One corner, from where the path stands: first along (ax, ay), then along (bx, by), both a radius long.
+// One corner, from where the path is: first along (ax, ay), then along (bx, by), both a radius long.
 void addCorner(cairo_t* cairo, double ax, double ay, double bx, double by) {
   constexpr double kRest = 1.0 - kQuarterCurve;
   cairo_rel_curve_to(cairo, ax * kQuarterCurve, ay * kQuarterCurve, ax + bx * kRest, ay + by * kRest, ax + bx, ay + by);
@@ -181,7 +181,7 @@ void paintSurface(cairo_t* cairo, cairo_surface_t* surface, const cairo_matrix_t
   cairo_fill(cairo);
 }
 
-// Cairo tells of a finished surface, whose pixels are gone, only by refusing to make another one like it.
+// Cairo reports a finished surface, whose pixels are gone, only by refusing to make another one like it.
 bool isFinished(cairo_surface_t* surface) {
   const Surface similar(cairo_surface_create_similar_image(surface, CAIRO_FORMAT_A8, 1, 1));
   return cairo_surface_status(similar.get()) != CAIRO_STATUS_SUCCESS;

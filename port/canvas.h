@@ -17,7 +17,7 @@ using Surface = std::unique_ptr<cairo_surface_t, SurfaceRelease>;
 /// The rectangle with corners of `radius`, each direction cut to half the side. Empty and impossible ones are passed
 /// over.
 void fillRoundedRect(cairo_t* cairo, const Rect& rect, double radius, const Color& color);
-/// The same shape's outline, centred on its edge; a shape without width or height has one too.
+/// The same shape's outline, centered on its edge; a shape without width or height has one too.
 void strokeRoundedRect(cairo_t* cairo, const Rect& rect, double radius, double lineWidth, const Color& color);
 
 /// The whole surface, `size` points large, scaled into the rectangle; upside down in the context's coordinates if
@@ -31,7 +31,7 @@ void drawSurface(cairo_t* cairo, cairo_surface_t* surface, const Size& size, con
 [[nodiscard]] Surface copySurface(cairo_surface_t* original);
 /// In points.
 [[nodiscard]] Size surfaceSize(cairo_surface_t* surface);
-/// Every pixel becomes the colour times the pixel's own alpha.
+/// Every pixel becomes the color times the pixel's own alpha.
 void fillSourceIn(cairo_surface_t* surface, const Color& color);
 
 }  // namespace kzm::port

@@ -10,8 +10,10 @@
 #include <unicode/uenum.h>
 #include <unicode/uloc.h>
 
+#include "port/ascii.h"
 #include "port/canonical_locale.h"
 #include "port/memory_watch.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::port {
 namespace {
@@ -35,14 +37,12 @@ constexpr Modifier kModifiers[] = {
 constexpr std::size_t kMaximumLength = ULOC_FULLNAME_CAPACITY - 1;
 constexpr std::size_t kMaximumSubtag = 8;
 
-constexpr bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-constexpr bool isAlphanumeric(char c) { return isLetter(c) || (c >= '0' && c <= '9'); }
 constexpr bool isSeparator(char c) { return c == '_' || c == '-'; }
 constexpr bool isKeywordCharacter(char c) {
   return isAlphanumeric(c) || std::string_view("=;_-+/").find(c) != std::string_view::npos;
 }
 
-/// A language of two or three letters, then subtags of letters and digits, each behind a separator.
+/// A language of two or three letters, then subtags of letters and digits, each after a separator.
 bool isWellFormed(std::string_view head) {
   const auto language = static_cast<std::size_t>(std::ranges::find_if_not(head, isLetter) - head.begin());
   if (language != 2 && language != 3) return false;
@@ -61,7 +61,7 @@ std::string joined(std::string_view language, std::string_view script, std::stri
                    std::string_view variant) {
   std::string identifier(language);
   if (!script.empty()) identifier.append("_").append(script);
-  // A variant behind no region leaves the region's place empty: "ca__VALENCIA".
+  // A variant without a region before it leaves the region's place empty: "ca__VALENCIA".
   if (!region.empty() || !variant.empty()) identifier.append("_").append(region);
   if (!variant.empty()) identifier.append("_").append(variant);
   return identifier;
@@ -100,8 +100,8 @@ std::set<std::string, std::less<>> availableLanguages() {
 // Asked of ICU's list, not by opening the language's data: with fallback every name would be found, in the data of the
 // process's own locale; without it ICU would keep a bundle that has lost its parents ("nb" that of "no") for everybody.
 bool isLanguageKnown(const icu::Locale& locale) {
-  static const std::set<std::string, std::less<>>& known = *new auto(availableLanguages());
-  return known.contains(locale.getLanguage());
+  static const NeverDestroyed<std::set<std::string, std::less<>>> known(availableLanguages());
+  return known->contains(locale.getLanguage());
 }
 
 std::string likelyScript(icu::Locale locale) {

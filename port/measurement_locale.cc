@@ -6,6 +6,8 @@
 #include "port/canonical_locale.h"
 #include "port/memory_watch.h"
 
+#include "port/ascii.h"
+
 namespace kzm::port {
 namespace {
 
@@ -45,10 +47,9 @@ std::string_view meaningOf(const Meaning (&meanings)[N], std::string_view value)
   return {};
 }
 
-constexpr bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 constexpr char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
-// The country of an "rg" value: two letters, and behind them "zzzz" or the name of a part of the country.
+// The country of an "rg" value: two letters, and after them "zzzz" or the name of a part of the country.
 std::string overridingRegion(std::string_view value) {
   constexpr std::size_t kCountry = 2;
   constexpr std::size_t kLongest = 6;

@@ -8,6 +8,7 @@
 #include <unicode/numberformatter.h>
 #include <unicode/unistr.h>
 
+#include "port/environment_locale.h"
 #include "port/memory_watch.h"
 
 namespace kzm::port {
@@ -29,7 +30,7 @@ void readNegativeAffixes(const icu::number::LocalizedNumberFormatter& formatter,
   symbols.negativeSuffix = text.substr(one + symbols.digits[1].size());
 }
 
-// The shortest number that the locale groups tells its minimum: 1234 means 1, 12345 means 2.
+// The shortest number that the locale groups shows its minimum: 1234 means 1, 12345 means 2.
 void readMinimumGrouping(const icu::number::LocalizedNumberFormatter& formatter, NumberSymbols& symbols,
                          UErrorCode& status) {
   constexpr int kLargestProbe = 8;
@@ -80,7 +81,7 @@ std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale, UErrorCode& st
 NumberSymbols numberSymbols(const std::string& localeIdentifier) {
   const MemoryWatch memory;
   const icu::Locale locale(localeIdentifier.c_str());
-  const icu::Locale candidates[] = {locale, icu::Locale(locale.getBaseName()), icu::Locale("en_001")};
+  const icu::Locale candidates[] = {locale, icu::Locale(locale.getBaseName()), icu::Locale(kFallbackLocale.data())};
   memory.demand();  // at once: what follows opens files, and may leave another error
   for (const icu::Locale& candidate : candidates) {
     UErrorCode status = U_ZERO_ERROR;

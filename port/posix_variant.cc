@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <string_view>
 #include <unicode/locid.h>
+#include <unicode/uloc.h>
 
 #include "port/memory_watch.h"
 
 namespace kzm::port {
 namespace {
 
-constexpr std::size_t kLongestIdentifier = 156;  // what ICU keeps of a whole identifier
+constexpr std::size_t kLongestIdentifier = ULOC_FULLNAME_CAPACITY - 1;  // what ICU keeps of a whole identifier
 
 bool isWellFormed(std::string_view identifier) {
   const auto isPart = [](char c) {

@@ -15,7 +15,7 @@
 namespace kzm::port {
 namespace {
 
-// A search may take this many units of engine work, and one more for each so many bytes of text. A unit is ten thousand
+// A search may take this many units of engine work, and one more for each further piece of text. A unit is ten thousand
 // steps of backtracking, and about 0.13 ms. Searches that pass a text once take up to seven steps a character.
 constexpr std::int32_t kEngineUnits = 2000;
 constexpr std::size_t kBytesPerEngineUnit = 1250;

@@ -19,6 +19,7 @@
 #include <system_error>
 
 #include "port/memory_watch.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::port {
 namespace {
@@ -104,10 +105,9 @@ struct ZoneTable {
   std::map<std::string, std::unique_ptr<const Zone>, std::less<>> zones;
 };
 
-// Never destroyed: zones are handed out for as long as the process lives.
 ZoneTable& zoneTable() {
-  static ZoneTable& table = *new ZoneTable;
-  return table;
+  static NeverDestroyed<ZoneTable> table;
+  return *table;
 }
 
 const Zone* knownZone(std::string_view identifier) {
@@ -132,8 +132,8 @@ std::string zoneFolder() {
 }
 
 const Zone& utcZone() {
-  static const Zone& zone = *new NamedZone("UTC", cctz::utc_time_zone());
-  return zone;
+  static const NeverDestroyed<NamedZone> zone("UTC", cctz::utc_time_zone());
+  return *zone;
 }
 
 const Zone* namedZone(std::string_view identifier) {

@@ -13,7 +13,7 @@
 
 namespace kzm::port {
 
-/// The instants that a local time stands for, in seconds since 1970 UTC. All three are equal but near a change of
+/// The instants that a local time means, in seconds since 1970 UTC. All three are equal but near a change of
 /// offset. For a local time that is skipped: before > change > after, or equal at the gap's ends. For a repeated one:
 /// before < change <= after.
 struct LocalTimeInstants {

@@ -57,7 +57,7 @@ Content unreadable(const std::string& path, std::string fault) { return {{}, std
 
 std::string errorText(int error) { return std::generic_category().message(error); }
 
-// Up to one byte more than is allowed, which tells that the file is too large.
+// Up to one byte more than is allowed, which shows that the file is too large.
 std::optional<std::string> readAll(int descriptor) {
   std::string text(kMostBytes + 1, '\0');
   std::size_t length = 0;

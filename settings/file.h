@@ -14,7 +14,8 @@ namespace kzm::settings {
 /// Larger files are not read, and none is written.
 inline constexpr std::size_t kMostBytes = std::size_t{1} << 20U;
 
-/// What tells one state of the file from another. All zero when there is no file. Times in nanoseconds since 1970.
+/// What distinguishes one state of the file from another. All zero when there is no file. Times in nanoseconds since
+/// 1970.
 struct Identity {
   int error = 0;  // why the rest is not known
   dev_t device = 0;
@@ -40,7 +41,7 @@ struct Content {
   Identity identity;
 };
 
-/// Reads the file. Never waits, whatever stands in its place: only regular files are read.
+/// Reads the file. Never waits, whatever is in its place: only regular files are read.
 [[nodiscard]] Content read(const std::string& path);
 
 /// The new file's identity, or why there is none; for example "No space left on device".

@@ -142,7 +142,7 @@ bool Store::setInMemory(const Value& object, std::string_view keyPath) {
   return true;
 }
 
-// The file is read again under the lock: what another process stored meanwhile is kept.
+// The file is read again under the lock: what another process stored in the meantime is kept.
 std::string Store::setInFile(const Member& member, std::string_view keyPath) {
   if (path_.empty()) return "there is no directory for settings";
   const Lock lock(path_);

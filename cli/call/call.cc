@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "catalogue/callables.h"
-#include "catalogue/neighbours.h"
+#include "catalogue/companions.h"
 #include "cli/flags.h"
 #include "cli/verbs.h"
 
@@ -62,9 +62,9 @@ int callOnce(Words words, bool asJson) {
   return std::cout.flush() ? 0 : 1;
 }
 
-// The arguments of a batch line; null stands for none.
+// The arguments of a batch line; null means none.
 const Json& member(const Json& line, const char* name) {
-  static const Json& absent = *new Json;
+  static const Json absent;
   const auto found = line.find(name);
   return found != line.end() ? *found : absent;
 }

@@ -64,7 +64,7 @@ winsize sizeOfTerminal() {
   return size;
 }
 
-// What does not fit is told by their count at the end; the last line of the terminal stays free for the cursor.
+// What does not fit is replaced by their count at the end; the last line of the terminal stays free for the cursor.
 void cutToHeight(std::vector<std::string>& lines) {
   const std::size_t height = sizeOfTerminal().ws_row;
   if (height < 3 || lines.size() < height) return;

@@ -18,7 +18,7 @@ namespace kzm::cli {
 [[nodiscard]] Look lookOfOutput(bool plain);
 
 /// A screen from its making to its end. On a terminal each drawing takes the place of the one before, and the cursor is
-/// hidden meanwhile; elsewhere drawings follow each other with an empty line between.
+/// hidden in the meantime; elsewhere drawings follow each other with an empty line between.
 class Screen {
  public:
   Screen();

@@ -61,7 +61,7 @@ constexpr ShowFlag kMonitorFlags[] = {kBits, kUnitSize, kInterface, kAll, kInter
 using Topics = std::span<const Topic>;
 
 const machine::Root& thisMachine() {
-  static const machine::Root& root = *new machine::Root("/");
+  static const machine::Root root("/");
   return root;
 }
 
@@ -95,7 +95,7 @@ void checkInterfaces(Text verb, const ShowOptions& options, const Counters& coun
   }
 }
 
-// A topic that was asked for by name says so when there is nothing to tell.
+// A topic that was asked for by name says so when there is nothing to show.
 std::vector<Section> sectionsOf(Topics shown, Snapshot snapshot, const ShowOptions& options) {
   for (const Topic& topic : shown) topic.read(thisMachine(), snapshot);
   std::vector<Section> sections;

@@ -50,7 +50,7 @@ Section disksSection(const Snapshot& snapshot, const RowChoice& choice) {
   return section;
 }
 
-// Bars stand in the fourth column, whatever the row has before it.
+// Bars are in the fourth column, whatever the row has before it.
 void addBar(double part, Row& row) {
   row.cells.resize(3);
   row.cells.push_back(bar(part));
@@ -105,21 +105,21 @@ Section loadSection(const Snapshot& snapshot, const RowChoice& choice) {
   return section;
 }
 
-// More readings of one kind than these are told by their least and their greatest.
+// More readings of one kind than these are shown by their least and their greatest.
 constexpr std::size_t kSingly = 16;
 
-std::vector<machine::Reading> readingsOf(const Snapshot& snapshot, Kind kind) {
-  std::vector<machine::Reading> readings;
+std::vector<machine::SensorReading> readingsOf(const Snapshot& snapshot, Kind kind) {
+  std::vector<machine::SensorReading> readings;
   std::copy_if(snapshot.sensors.begin(), snapshot.sensors.end(), std::back_inserter(readings),
-               [kind](const machine::Reading& reading) { return reading.kind == kind; });
+               [kind](const machine::SensorReading& reading) { return reading.kind == kind; });
   return readings;
 }
 
-std::string nameOf(const machine::Reading& reading) {
+std::string nameOf(const machine::SensorReading& reading) {
   return reading.source.empty() ? reading.label : reading.source + "  " + reading.label;
 }
 
-void addExtremes(const std::vector<machine::Reading>& readings, Section& section) {
+void addExtremes(const std::vector<machine::SensorReading>& readings, Section& section) {
   const auto [least, greatest] = std::minmax_element(readings.begin(), readings.end(),
                                                      [](const auto& a, const auto& b) { return a.value < b.value; });
   section.rows.push_back({nameOf(*least) + " (" + word("Rows.least") + ")", {sensorCell(least->kind, least->value)}});
@@ -129,12 +129,12 @@ void addExtremes(const std::vector<machine::Reading>& readings, Section& section
 
 Section sensorSection(const char* title, Kind kind, const Snapshot& snapshot, const RowChoice& choice) {
   Section section{word(title), {}, {}};
-  const std::vector<machine::Reading> readings = readingsOf(snapshot, kind);
+  const std::vector<machine::SensorReading> readings = readingsOf(snapshot, kind);
   if (readings.size() > kSingly && !choice.all) {
     addExtremes(readings, section);
     return section;
   }
-  for (const machine::Reading& reading : readings) {
+  for (const machine::SensorReading& reading : readings) {
     section.rows.push_back({nameOf(reading), {sensorCell(kind, reading.value)}});
   }
   return section;
@@ -147,8 +147,8 @@ Section batterySection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
   Section section{word("Topics.Battery"), {}, {}};
   for (const machine::Battery& battery : snapshot.batteries) {
     if (!battery.status.empty()) section.rows.push_back({battery.name, {{Piece{batteryWord(battery.status)}}}});
-    for (const machine::Reading& reading : battery.readings) {
-      machine::Reading named = reading;
+    for (const machine::SensorReading& reading : battery.readings) {
+      machine::SensorReading named = reading;
       named.label = batteryWord(reading.label);
       section.rows.push_back({nameOf(named), {sensorCell(reading.kind, reading.value)}});
       if (reading.kind == Kind::percentage) addBar(reading.value, section.rows.back());

@@ -10,7 +10,7 @@
 
 namespace kzm::panel {
 
-/// What only means something beside a second reading.
+/// What means something only when there is a second reading.
 struct ActivitySamples {
   machine::Sample network;  // of interfaces that were used, without what the machine tells itself
   machine::Sample disks;

@@ -34,7 +34,7 @@ constexpr double kBarTop = 40.0;
 constexpr double kBarHeight = 8.0;
 constexpr double kThinBarHeight = 5.0;
 
-// How bright a badge is next to its row's colour, and the upper end of a shade next to its lower one.
+// How bright a badge is next to its row's color, and the upper end of a shade next to its lower one.
 constexpr float kBadgeBrightness = 0.30F;
 constexpr float kLitBrightness = 1.2F;
 

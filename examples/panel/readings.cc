@@ -99,11 +99,11 @@ constexpr SensorRow kSensorRows[] = {
 };
 
 void addSensors(const Root& root, std::vector<Row>& rows) {
-  const std::vector<machine::Reading> readings = machine::readSensors(root);
+  const std::vector<machine::SensorReading> readings = machine::readSensors(root);
   for (const SensorRow& wanted : kSensorRows) {
     std::vector<double> levels;
     std::vector<std::string> names;
-    for (const machine::Reading& reading : readings) {
+    for (const machine::SensorReading& reading : readings) {
       if (reading.kind != wanted.kind) continue;
       levels.push_back(reading.value / wanted.full);
       names.push_back(reading.label);
@@ -118,7 +118,7 @@ void addSensors(const Root& root, std::vector<Row>& rows) {
 
 void addBatteries(const Root& root, std::vector<Row>& rows) {
   for (const machine::Battery& battery : machine::readBatteries(root)) {
-    for (const machine::Reading& reading : battery.readings) {
+    for (const machine::SensorReading& reading : battery.readings) {
       if (reading.kind != Kind::percentage) continue;
       const AttributedString label = labelText({cli::word("Topics.Battery")});
       rows.push_back(

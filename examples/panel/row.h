@@ -39,7 +39,7 @@ struct Heading {
   std::vector<double> hours;
 };
 
-/// So many bars that show one part of a whole, 0 to 1: full ones, then one in part, then empty ones.
+/// The given number of bars that show one part of a whole, 0 to 1: full ones, then one in part, then empty ones.
 [[nodiscard]] inline std::vector<double> segments(double part, int count) {
   std::vector<double> levels;
   for (int i = 0; i < count; ++i) levels.push_back(part * count - i);

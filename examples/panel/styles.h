@@ -1,4 +1,4 @@
-// The text styles of the panel: attribute sets of its own kind, which the library hands through and the drawing reads
+// The text styles of the panel: attribute sets of its own kind, which the library passes on and the drawing reads
 // back from the runs.
 #ifndef KZM_EXAMPLES_PANEL_STYLES_H
 #define KZM_EXAMPLES_PANEL_STYLES_H

@@ -1,9 +1,9 @@
 // The user's settings, by dotted key path.
 //
-// This library stands for the settings part of the product it is built into: another one may take its place, as long as
-// it offers KZMSettingsObjectForKeyPath. The settings are kept in one JSON file, KZMUtilities/settings.json under the
+// This library is the settings part of the product it is built into. Another one may take its place, as long as it
+// offers KZMSettingsObjectForKeyPath. The settings are kept in one JSON file, KZMUtilities/settings.json under the
 // user's configuration directory (XDG_CONFIG_HOME, else ~/.config). A missing, broken or unreadable file means that
-// there are no settings; a broken or unreadable one is told in one line of the log.
+// there are no settings; a broken or unreadable one is reported in one line of the log.
 //
 // Every function may be called from any thread at any time, also while a thread or the process ends. A read takes no
 // lock unless the settings changed since the thread's last one, and reading a number does not allocate.

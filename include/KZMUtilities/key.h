@@ -1,6 +1,6 @@
 // The keys of a Dictionary, and the names of all options and results.
 //
-// Like value.h, this header stands on its own: there is no library code behind it.
+// Like value.h, this header needs no library: all of its code is here.
 #ifndef KZMUTILITIES_KEY_H
 #define KZMUTILITIES_KEY_H
 

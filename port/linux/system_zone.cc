@@ -4,6 +4,7 @@
 #include <memory>
 #include <system_error>
 
+#include "port/never_destroyed.h"
 #include "port/time_zone.h"
 
 namespace kzm::port {
@@ -63,7 +64,7 @@ ZonePointer localZone(std::string identifier) {
   return std::make_shared<const LocalZone>(std::move(identifier));
 }
 
-// Named zones are there for ever.
+// Named zones are there forever.
 ZonePointer unowned(const Zone& zone) { return {ZonePointer(), &zone}; }
 
 // Whether the C library would open something that is no file: it would wait for the other end of a FIFO.
@@ -96,10 +97,9 @@ ZonePointer findSystemZone(const char* variable, const std::filesystem::path& li
 }
 
 const Zone& systemZone() {
-  // Never destroyed, as zones are handed out.
   // NOLINTNEXTLINE(concurrency-mt-unsafe): read once, and never written here
-  static const ZonePointer& zone = *new ZonePointer(findSystemZone(std::getenv("TZ"), "/etc/localtime"));
-  return *zone;
+  static const NeverDestroyed<ZonePointer> zone(findSystemZone(std::getenv("TZ"), "/etc/localtime"));
+  return **zone;
 }
 
 }  // namespace kzm::port

@@ -171,7 +171,7 @@ TEST(BarGraph, LeavesTheCairoContextAsItWas) {
   EXPECT_TRUE(canvas.isSound());
 }
 
-TEST(BarGraph, HonoursTheHostsClip) {
+TEST(BarGraph, HonorsTheHostsClip) {
   const Canvas canvas(24, 24);
   cairo_rectangle(canvas.cairo(), 0.0, 0.0, 10.0, 24.0);
   cairo_clip(canvas.cairo());

@@ -24,7 +24,7 @@ int descriptorsInUse() {
   return count;
 }
 
-// Takes all descriptors but so many; what it takes is lost with the process.
+// Takes all descriptors but the given number; what it takes is lost with the process.
 void leave(int free) {
   const rlimit limit{kLimit, kLimit};
   ::setrlimit(RLIMIT_NOFILE, &limit);

@@ -1,4 +1,4 @@
-// What is left behind by an allocation that fails, in our own code or inside ICU. ICU's own code ends the process at
+// What is left by an allocation that fails, in our own code or inside ICU. ICU's own code ends the process at
 // some of its allocations; at all others the call fails or gives the right answer, and so do all that follow.
 #include <cstddef>
 #include <functional>

@@ -48,7 +48,7 @@ configure() {
     rm -f "$log"
 }
 
-# build PRESET [TARGET...]: tells how far it is.
+# build PRESET [TARGET...]: shows how far it is.
 build() {
     local preset=$1
     shift

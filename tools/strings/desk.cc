@@ -39,8 +39,8 @@ struct Failure : std::runtime_error {
 
 using Arguments = std::vector<std::string>;
 
-int tell(const Faults& faults) {
-  for (const Fault& fault : faults) std::cerr << told(fault) << '\n';
+int complain(const Faults& faults) {
+  for (const Fault& fault : faults) std::cerr << asLine(fault) << '\n';
   return faults.empty() ? 0 : 1;
 }
 
@@ -74,7 +74,7 @@ Faults faultsOf(const Catalog& catalog, std::string_view language) {
 
 int check(const Catalog& catalog, const fs::path& /*folder*/, const Arguments& arguments) {
   if (!arguments.empty()) needTable(catalog, arguments[0]);
-  return tell(faultsOf(catalog, arguments.empty() ? "" : arguments[0]));
+  return complain(faultsOf(catalog, arguments.empty() ? "" : arguments[0]));
 }
 
 int report(const Catalog& catalog, const fs::path& /*folder*/, const Arguments& arguments) {
@@ -179,9 +179,9 @@ int importTexts(const Catalog& catalog, const fs::path& folder, const Arguments&
   if (language == kDevelopmentLanguage) throw Failure("the English texts are the keys");
   const std::vector<Message> messages = readFile(path);
   const Change change = changeOf(catalog, folder, language, path, messages);
-  if (!change.faults.empty()) return tell(change.faults);
+  if (!change.faults.empty()) return complain(change.faults);
   const Faults faults = faultsOfImport(catalog, change.tables, language, path, messages);
-  if (!faults.empty()) return tell(faults);
+  if (!faults.empty()) return complain(faults);
   for (const Table& table : change.tables) {
     fs::create_directories(fs::path(table.path).parent_path());
     writeFile(table.path, table.content);
@@ -215,9 +215,9 @@ int run(const Arguments& arguments) {
   if (faults.empty() && catalog.find(kDevelopmentLanguage, kUnitTable) == nullptr) {
     throw Failure(folder.string() + " has no table of the development language");
   }
-  // A check tells all faults; the other verbs need tables that can be taken apart.
+  // A check reports all faults; the other verbs need tables that can be taken apart.
   if (faults.empty() && verb->run != check) faults = structureFaults(catalog);
-  return faults.empty() ? verb->run(catalog, folder, {arguments.begin() + 2, arguments.end()}) : tell(faults);
+  return faults.empty() ? verb->run(catalog, folder, {arguments.begin() + 2, arguments.end()}) : complain(faults);
 }
 
 }  // namespace

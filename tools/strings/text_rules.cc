@@ -1,4 +1,4 @@
-// What each text must be on its own, as far as plain bytes tell.
+// What each text must be on its own, as far as plain bytes show.
 #include <algorithm>
 
 #include "tools/strings/allowed.h"

@@ -1,4 +1,4 @@
-// What is told of the languages.
+// What is reported of the languages.
 #include "tools/strings/report.h"
 
 #include <gtest/gtest.h>

@@ -26,7 +26,7 @@ TEST(Layout, NamesAtTheLeftNumbersAtTheRight) {
 
 TEST(Layout, LinesWithTextFromRightToLeftAreIsolatedCellByCell) {
   const Section memory{
-      "זיכרון", {"used"}, {{"main", {{{"19.7", Style::strong}, {" GB"}}}}, {"ראשי", {cell("19.7 GB")}}}};
+      "זיכרון", {"used"}, {{"main", {{{"19.7", Emphasis::strong}, {" GB"}}}}, {"ראשי", {cell("19.7 GB")}}}};
   EXPECT_EQ(laidOut({memory}, {}), (Lines{
                                        "\u2068זיכרון\u2069                          \u2068used\u2069",
                                        "  main                       19.7 GB",
@@ -76,7 +76,7 @@ TEST(Layout, NarrowTerminalsCutTheLines) {
 }
 
 TEST(Layout, StylesAreTheTerminals) {
-  const Section section{"Load", {"now"}, {{"processor", {{{"42", Style::strong}, {" %"}}}}}};
+  const Section section{"Load", {"now"}, {{"processor", {{{"42", Emphasis::strong}, {" %"}}}}}};
   EXPECT_EQ(laidOut({section}, {.styles = true}),
             (Lines{"\x1b[1mLoad\x1b[0m                             \x1b[2mnow\x1b[0m",
                    "  processor                     \x1b[1m42\x1b[0m %"}));

@@ -58,8 +58,8 @@ TEST(Topics, TheNumberIsStrongAndTheUnitIsPlain) {
   Snapshot snapshot;
   snapshot.disks = {{{"sda", 3145728.0, 0.0}, true}};
   const Section section = topics()[1].section(snapshot, {});
-  EXPECT_EQ(section.rows[0].cells[0], (Cell{{"3.00", Style::strong}, {" MB/s", Style::plain}}));
-  EXPECT_EQ(section.rows[0].cells[1], (Cell{{"-", Style::strong}}));
+  EXPECT_EQ(section.rows[0].cells[0], (Cell{{"3.00", Emphasis::strong}, {" MB/s", Emphasis::plain}}));
+  EXPECT_EQ(section.rows[0].cells[1], (Cell{{"-", Emphasis::strong}}));
 }
 
 TEST(Topics, Volumes) {

@@ -19,7 +19,7 @@ struct Case {
   int status;
 };
 
-TEST(Neighbours, WhatNeedsMoreThanThePromisedFunctionSaysSoInOneLine) {
+TEST(Companions, WhatNeedsMoreThanThePromisedFunctionSaysSoInOneLine) {
   const std::string pressure = "KZMUtilitiesFormatWeatherPressure";
   const Case cases[] = {
       {kForeignSettings, {"call", pressure, R"({"units": true})", "1000"}, "1,000mb\n", "", 0},
@@ -51,7 +51,7 @@ TEST(Neighbours, WhatNeedsMoreThanThePromisedFunctionSaysSoInOneLine) {
   }
 }
 
-TEST(Neighbours, ABatchGoesOnAfterSettingsThatCannotBeGiven) {
+TEST(Companions, ABatchGoesOnAfterSettingsThatCannotBeGiven) {
   const Outcome outcome = run({"call", "--batch"},
                               "{\"call\": \"mpsToKph\", \"args\": [1], \"settings\": {\"a\": 1}}\n"
                               "{\"call\": \"mpsToKph\", \"args\": [1]}\n",

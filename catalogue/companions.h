@@ -2,8 +2,8 @@
 //
 // A product may have put libraries of its own in their place. All that needs no more than the promised functions works
 // over them all the same.
-#ifndef KZM_CATALOGUE_NEIGHBOURS_H
-#define KZM_CATALOGUE_NEIGHBOURS_H
+#ifndef KZM_CATALOGUE_COMPANIONS_H
+#define KZM_CATALOGUE_COMPANIONS_H
 
 #include <string>
 #include <string_view>

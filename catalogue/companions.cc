@@ -1,4 +1,4 @@
-#include "catalogue/neighbours.h"
+#include "catalogue/companions.h"
 
 #include <stdexcept>
 #include <utility>
