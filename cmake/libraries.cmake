@@ -29,6 +29,20 @@ function(kzm_library name)
   endif()
 endfunction()
 
+# kzm_module(NAME FILE OBJECTS TARGET... [LIBRARIES ...]): what a library loads when it is first needed, from the folder
+# KZMUtilities beside it. The file has the version in its name, for a module fits only the library of its own version.
+function(kzm_module name file)
+  cmake_parse_arguments(ARG "" "" "OBJECTS;LIBRARIES" ${ARGN})
+  add_library(${name} MODULE)
+  foreach(objects ${ARG_OBJECTS})
+    target_sources(${name} PRIVATE $<TARGET_OBJECTS:${objects}>)
+  endforeach()
+  target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES})
+  target_link_options(${name} PRIVATE -Wl,-z,defs -Wl,-z,nodelete -Wl,--as-needed)
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX OUTPUT_NAME ${file} PREFIX "" SUFFIX ".so.${PROJECT_VERSION}"
+    LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/KZMUtilities)
+endfunction()
+
 # kzm_precompile(TARGET HEADER...): the headers that most sources of the target include, compiled once for all of them.
 function(kzm_precompile target)
   if(KZM_PRECOMPILED_HEADERS)

@@ -16,7 +16,7 @@ void barGraphWithRectFill(const Rect& rect, const Color& fill) {
   if (!context) return;
   // Deliberate: the colour stays the context's fill colour, also when nothing can be drawn.
   context->setFillColor(fill);
-  port::fillRoundedRect(context->cairo(), rect, kCornerRadius, fill);
+  port::canvas().fillRoundedRect(context->cairo(), rect, kCornerRadius, port::Paint(fill));
 }
 
 void barGraphWithRectBorder(const Rect& rect, const Color& border) {
@@ -25,7 +25,7 @@ void barGraphWithRectBorder(const Rect& rect, const Color& border) {
   // Deliberate: the colour stays the context's stroke colour, also when nothing can be drawn.
   context->setStrokeColor(border);
   // Deliberate: the rectangle is not inset, so half of the line lies outside it, along the edge of the fill.
-  port::strokeRoundedRect(context->cairo(), rect, kCornerRadius, kOutlineWidth, border);
+  port::canvas().strokeRoundedRect(context->cairo(), rect, kCornerRadius, kOutlineWidth, port::Paint(border));
 }
 
 }  // namespace kzm
