@@ -14,9 +14,7 @@ const char* drawn() {
   return image.size().width == 4.0 ? "an image" : "no image";
 }
 
-const char* kept(cairo_t* cairo) {
-  return kzm::GraphicsContext(cairo).cairo() == cairo ? "a context" : "no context";
-}
+const char* kept(cairo_t* cairo) { return kzm::GraphicsContext(cairo).cairo() == cairo ? "a context" : "no context"; }
 
 }  // namespace
 
