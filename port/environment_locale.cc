@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <set>
 #include <string>
 #include <unicode/localebuilder.h>
 #include <unicode/locid.h>
@@ -87,17 +86,14 @@ void forEachAvailableName(Use use) {
   uenum_close(names);
 }
 
-std::set<std::string, std::less<>> availableLanguages() {
-  std::set<std::string, std::less<>> languages;
-  forEachAvailableName([&](const char* name) { languages.emplace(name, std::strcspn(name, "_")); });
-  return languages;
-}
-
 // Asked of ICU's list, not by opening the language's data: with fallback every name would be found, in the data of the
 // process's own locale; without it ICU would keep a bundle that has lost its parents ("nb" that of "no") for everybody.
 bool isLanguageKnown(const icu::Locale& locale) {
-  static const std::set<std::string, std::less<>>& known = *new auto(availableLanguages());
-  return known.contains(locale.getLanguage());
+  const std::string_view language = locale.getLanguage();
+  bool isKnown = false;
+  forEachAvailableName(
+      [&](const char* name) { isKnown = isKnown || language == std::string_view(name, std::strcspn(name, "_")); });
+  return isKnown;
 }
 
 std::string likelyScript(icu::Locale locale) {
@@ -172,8 +168,9 @@ std::string localeIdentifier(std::string_view name) {
 
 std::string usableLocale(std::string_view name) {
   std::string identifier = localeIdentifier(name);
+  if (identifier.empty()) return std::string(kFallbackLocale);
   const icu::Locale locale = canonical(identifier);
-  if (identifier.empty() || !isLanguageKnown(locale)) return std::string(kFallbackLocale);
+  if (!isLanguageKnown(locale)) return std::string(kFallbackLocale);
   return isScriptKnown(locale) ? identifier : withoutScript(locale);
 }
 
