@@ -19,7 +19,7 @@ function(kzm_library name)
   endif()
   target_include_directories(${name} PUBLIC
     $<BUILD_INTERFACE:${headers}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX INSTALL_RPATH "$ORIGIN"
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(BUILD_SHARED_LIBS)
     # Ending threads call into the libraries, so they stay loaded once they are (nodelete).
@@ -39,7 +39,8 @@ function(kzm_module name file)
   endforeach()
   target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES})
   target_link_options(${name} PRIVATE -Wl,-z,defs -Wl,-z,nodelete -Wl,--as-needed)
-  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX OUTPUT_NAME ${file} PREFIX "" SUFFIX ".so.${PROJECT_VERSION}"
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX INSTALL_RPATH ""
+    OUTPUT_NAME ${file} PREFIX "" SUFFIX ".so.${PROJECT_VERSION}"
     LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/KZMUtilities)
 endfunction()
 
