@@ -40,7 +40,7 @@ Span rates() {
 }
 
 Span sizes() {
-  static const Array values = logUniform(0.0, 64.0);
+  static const Array values = logUniform(0.0, 62.0);
   return values;
 }
 

@@ -12,7 +12,7 @@ inline constexpr std::size_t kValues = 4096;
 
 /// Bytes per second, from one byte to 16 terabytes.
 [[nodiscard]] Span rates();
-/// Bytes, from one byte to 16 exabytes.
+/// Bytes, from one byte to 4 exabytes.
 [[nodiscard]] Span sizes();
 /// What a sensor or a weather station reads, from 0.01 to 10,000.
 [[nodiscard]] Span readings();
