@@ -14,7 +14,7 @@ packages_build=("${compiler[@]}" cmake ninja-build pkg-config
     libicu-dev libglib2.0-dev libcairo2-dev libcctz-dev nlohmann-json3-dev tzdata)
 packages_test=("${packages_build[@]}" libgtest-dev)
 packages_bench=("${packages_build[@]}" valgrind)
-packages_peers=(libfmt-dev libbytesize-dev qtbase5-dev libkf5coreaddons-dev)
+packages_peers=(libfmt-dev libbytesize-dev qtbase5-dev libkf5coreaddons-dev libkf5sysguard-dev)
 packages_all=("${packages_test[@]}" libpango1.0-dev fonts-dejavu-core fish zsh)
 packages_check=("${packages_all[@]}" clang-format clang-tidy valgrind)
 
