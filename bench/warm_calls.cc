@@ -41,11 +41,14 @@ std::vector<Timed> withReferences(std::span<const Call> calls) {
   return all;
 }
 
+std::string allocationsOf(const Call& call) {
+  return std::to_string(mostAllocations(call.pass, call.values())) + " allocations";
+}
+
 std::string remarkOn(const Call& call, double nanoseconds) {
-  std::array<char, 64> text{};
-  std::snprintf(text.data(), text.size(), "%6.1f ns, %d allocations", nanoseconds,
-                static_cast<int>(mostAllocations(call.pass, call.values())));
-  return text.data();
+  std::array<char, 32> time{};
+  std::snprintf(time.data(), time.size(), "%6.1f ns, ", nanoseconds);
+  return time.data() + allocationsOf(call);
 }
 
 void measureKind(const Heading& heading) {
@@ -70,21 +73,14 @@ void chooseLocale(const std::string& locale) {
   KZMUtilities::shared().setCache(nullptr);
 }
 
-std::vector<Timed> callsOfLocales() {
-  std::vector<Timed> all;
+// Those whose texts depend on the locale.
+std::vector<Call> callsOfLocales() {
+  std::vector<Call> all;
   for (const Kind kind : {Kind::plain, Kind::weather, Kind::attributed, Kind::data}) {
-    const std::vector<Timed> some = timed(calls(kind));
+    const std::span<const Call> some = calls(kind);
     all.insert(all.end(), some.begin(), some.end());
   }
   return all;
-}
-
-std::vector<std::string> namesOfLocales() {
-  std::vector<std::string> names;
-  for (const Kind kind : {Kind::plain, Kind::weather, Kind::attributed, Kind::data}) {
-    for (const Call& call : calls(kind)) names.emplace_back(call.name);
-  }
-  return names;
 }
 
 }  // namespace
@@ -96,17 +92,18 @@ void measureCalls() {
 void measureLocales() {
   constexpr const char* kLocales[] = {"de_CH", "hi_IN", "ar_EG", "sv_SE", "fr_FR"};
   constexpr int kRounds = 15;
-  const std::vector<Timed> all = callsOfLocales();
-  const std::vector<std::string> names = namesOfLocales();
+  const std::vector<Call> all = callsOfLocales();
   printHeading("The slowest call of each locale", "x en_US");
   for (const char* locale : kLocales) {
     chooseLocale("en_US");
-    const std::vector<double> english = leastTimes(all, kRounds);
+    const std::vector<double> english = leastTimes(timed(all), kRounds);
     chooseLocale(locale);
-    std::vector<double> ratios = leastTimes(all, kRounds);
+    std::vector<double> ratios = leastTimes(timed(all), kRounds);
     for (std::size_t i = 0; i < ratios.size(); ++i) ratios[i] /= english[i];
-    const auto worst = std::max_element(ratios.begin(), ratios.end());
-    printRow(locale, *worst, atMost(1.5), names[static_cast<std::size_t>(worst - ratios.begin())]);
+    const auto slowest = std::max_element(ratios.begin(), ratios.end()) - ratios.begin();
+    const Call& call = all[static_cast<std::size_t>(slowest)];
+    printRow(locale, ratios[static_cast<std::size_t>(slowest)], atMost(1.5),
+             call.name + std::string(", ") + allocationsOf(call));
   }
   chooseLocale("en_US");
 }
