@@ -35,12 +35,15 @@ struct Wanted {
   std::atomic<const Choice*> latest{nullptr};
 };
 
-std::string scriptOf(icu::Locale locale) {
+/// With the script and the region that are likely where it names none.
+icu::Locale inFull(icu::Locale locale) {
   UErrorCode status = U_ZERO_ERROR;
   locale.addLikelySubtags(status);
   port::demandMemory(status);
-  return locale.getScript();
+  return locale;
 }
+
+std::string scriptOf(const icu::Locale& locale) { return inFull(locale).getScript(); }
 
 /// The locale with the characters that its readers expect: where Chinese is written in traditional ones, in Taiwan,
 /// Hong Kong and Macau, so are the other Chinese languages.
@@ -113,10 +116,27 @@ std::set<std::string> scriptsOf(const std::vector<icu::Locale>& languages) {
   return scripts;
 }
 
+/// The table of this very language: that of "de" for "de_DE". The matcher would choose it too, but it reads all that it
+/// knows of languages first, which takes longer than everything else at the start of a program.
+const StringTable* tableOf(const icu::Locale& language, const std::vector<const StringTable*>& tables) {
+  const icu::Locale wanted = inFull(language);
+  for (const StringTable* table : tables) {
+    if (!table->language.starts_with(wanted.getLanguage())) continue;
+    const icu::Locale offered = inFull(localeOf(table->language));
+    const auto isSame = [&](const char* (icu::Locale::*part)() const) {
+      return std::string_view((wanted.*part)()) == (offered.*part)();
+    };
+    if (isSame(&icu::Locale::getLanguage) && isSame(&icu::Locale::getScript) && isSame(&icu::Locale::getCountry))
+      return table;
+  }
+  return nullptr;
+}
+
 /// The table whose language serves the wanted ones best; null when none of them does. A nearest language serves only
 /// readers of its script: the matcher, left alone, gives Russian to readers of Latin letters.
 const StringTable* bestOf(const std::vector<const StringTable*>& tables, std::vector<icu::Locale> languages) {
   while (!languages.empty()) {
+    if (const StringTable* same = tableOf(languages.front(), tables)) return same;
     const std::set<std::string> scripts = scriptsOf(languages);
     std::vector<const StringTable*> readable;
     std::vector<icu::Locale> offered;

@@ -17,7 +17,7 @@ void barGraphWithRectFill(const Rect& rect, const Color& fill) {
   // Deliberate: the color stays the context's fill color, also when nothing can be drawn
   // (GraphicsContext.ColorsStaySetAfterABar).
   context->setFillColor(fill);
-  port::fillRoundedRect(context->cairo(), rect, kCornerRadius, fill);
+  port::canvas().fillRoundedRect(context->cairo(), rect, kCornerRadius, port::Paint(fill));
 }
 
 void barGraphWithRectBorder(const Rect& rect, const Color& border) {
@@ -28,7 +28,7 @@ void barGraphWithRectBorder(const Rect& rect, const Color& border) {
   context->setStrokeColor(border);
   // Deliberate: the rectangle is not inset, so half of the line is outside it, along the edge of the fill
   // (BarGraphBorder.LiesOnTheEdgeHalfOutside).
-  port::strokeRoundedRect(context->cairo(), rect, kCornerRadius, kOutlineWidth, border);
+  port::canvas().strokeRoundedRect(context->cairo(), rect, kCornerRadius, kOutlineWidth, port::Paint(border));
 }
 
 }  // namespace kzm

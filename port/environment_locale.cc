@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <set>
 #include <string>
 #include <unicode/localebuilder.h>
 #include <unicode/locid.h>
@@ -80,28 +79,27 @@ std::string canonicalName(const std::string& name) {
   return locale.isBogus() || *locale.getLanguage() == '\0' ? std::string() : locale.getName();
 }
 
-template <typename Use>
-void forEachAvailableName(Use use) {
+/// Whether that holds for one of the locales that ICU has data for.
+template <typename Predicate>
+bool holdsForAnyName(Predicate predicate) {
+  const MemoryWatch memory;
   UErrorCode status = U_ZERO_ERROR;
   UEnumeration* names = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
-  while (const char* name = uenum_next(names, nullptr, &status)) use(name);
+  bool holds = false;
+  for (const char* name = nullptr; !holds && (name = uenum_next(names, nullptr, &status)) != nullptr;) {
+    holds = predicate(name);
+  }
   uenum_close(names);
   demandMemory(status);
-}
-
-std::set<std::string, std::less<>> availableLanguages() {
-  const MemoryWatch memory;
-  std::set<std::string, std::less<>> languages;
-  forEachAvailableName([&](const char* name) { languages.emplace(name, std::strcspn(name, "_")); });
   memory.demand();
-  return languages;
+  return holds;
 }
 
 // Asked of ICU's list, not by opening the language's data: with fallback every name would be found, in the data of the
 // process's own locale; without it ICU would keep a bundle that has lost its parents ("nb" that of "no") for everybody.
 bool isLanguageKnown(const icu::Locale& locale) {
-  static const NeverDestroyed<std::set<std::string, std::less<>>> known(availableLanguages());
-  return known->contains(locale.getLanguage());
+  const std::string_view language = locale.getLanguage();
+  return holdsForAnyName([&](const char* name) { return language == std::string_view(name, std::strcspn(name, "_")); });
 }
 
 std::string likelyScript(icu::Locale locale) {
@@ -114,13 +112,10 @@ std::string likelyScript(icu::Locale locale) {
 /// Whether ICU has data for the language in the script that the locale names, if it names one.
 bool isScriptKnown(const icu::Locale& locale) {
   const std::string script = locale.getScript();
-  bool isKnown = script.empty();
-  forEachAvailableName([&](const char* name) {
-    if (isKnown) return;
-    const icu::Locale available(name);
-    isKnown = std::strcmp(available.getLanguage(), locale.getLanguage()) == 0 && likelyScript(available) == script;
-  });
-  return isKnown;
+  return script.empty() || holdsForAnyName([&](const char* name) {
+           const icu::Locale available(name);
+           return std::strcmp(available.getLanguage(), locale.getLanguage()) == 0 && likelyScript(available) == script;
+         });
 }
 
 std::string withoutScript(const icu::Locale& locale) {

@@ -5,6 +5,9 @@
 // and none puts the host's cairo context into an error state. Its source, path, line width, clip and transformation are
 // as before after each call. Each thread has its own current context; one context or image is used by one thread at a
 // time.
+//
+// The first drawing loads the library's canvas module, and cairo with it; a process that draws nothing loads neither.
+// Where the module is missing, contexts are as if made with null, images are empty, and the log has one line of it.
 #ifndef KZMUTILITIES_DRAWING_H
 #define KZMUTILITIES_DRAWING_H
 

@@ -64,14 +64,14 @@ constexpr std::size_t signatureOf(std::uint32_t hash) noexcept { return (hash >>
 // The slot of the name with each signature.
 inline constexpr std::array<std::uint8_t, kSignatures> kSlotOfSignature = [] {
   constexpr std::uint8_t kNone = kSlottedNames.size();
-  std::array<std::uint8_t, kSignatures> slots{};
-  slots.fill(kNone);
+  std::array<std::uint8_t, kSignatures> places{};
+  places.fill(kNone);
   for (std::size_t i = 0; i < kSlottedNames.size(); ++i) {
-    std::uint8_t& slot = slots[signatureOf(hashOf(kSlottedNames[i]))];
+    std::uint8_t& slot = places[signatureOf(hashOf(kSlottedNames[i]))];
     if (slot != kNone) throw "two names have one signature";
     slot = static_cast<std::uint8_t>(i);
   }
-  return slots;
+  return places;
 }();
 
 }  // namespace internal

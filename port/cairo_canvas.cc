@@ -1,9 +1,11 @@
-#include "port/canvas.h"
+#include "port/cairo_canvas.h"
 
 #include <algorithm>
-#include <array>
+#include <cairo.h>
 #include <cmath>
 #include <optional>
+
+#include "port/never_destroyed.h"
 
 namespace kzm::port {
 namespace {
@@ -139,8 +141,8 @@ void addRoundedRect(cairo_t* cairo, const Rect& rect, double radius) {
   cairo_close_path(cairo);
 }
 
-void setSource(cairo_t* cairo, const Color& color) {
-  cairo_set_source_rgba(cairo, color.red(), color.green(), color.blue(), color.alpha());
+void setSource(cairo_t* cairo, const Paint& paint) {
+  cairo_set_source_rgba(cairo, paint.red, paint.green, paint.blue, paint.alpha);
 }
 
 // From the context's coordinate to the image's, in one direction: image = context * scale + offset.
@@ -200,82 +202,104 @@ Surface makePixels(int width, int height, double scaleX, double scaleY) {
 }
 
 // Draws all over a surface of ours, in a context of ours; false if that fails.
-template <typename Paint>
-bool paintOver(cairo_surface_t* surface, cairo_operator_t compositing, Paint setPaint) {
-  const std::unique_ptr<cairo_t, decltype(&cairo_destroy)> cairo(cairo_create(surface), &cairo_destroy);
-  setPaint(cairo.get());
+template <typename SetSource>
+bool paintOver(cairo_surface_t* surface, cairo_operator_t compositing, SetSource set) {
+  const Context cairo(cairo_create(surface));
+  set(cairo.get());
   cairo_set_operator(cairo.get(), compositing);
   cairo_paint(cairo.get());
   return cairo_status(cairo.get()) == CAIRO_STATUS_SUCCESS;
 }
 
+class CairoCanvas final : public Canvas {
+ public:
+  Context kept(cairo_t* cairo) const override { return Context(cairo_reference(cairo)); }
+  Context contextOn(cairo_surface_t* surface) const override { return Context(cairo_create(surface)); }
+  void release(cairo_t* cairo) const override { cairo_destroy(cairo); }
+  void release(cairo_surface_t* surface) const override { cairo_surface_destroy(surface); }
+
+  void fillRoundedRect(cairo_t* cairo, const Rect& rect, double radius, const Paint& paint) const override {
+    const std::optional<Rect> part = fillablePart(cairo, rect);
+    if (!part) return;
+    const Saved saved(cairo);
+    addRoundedRect(cairo, *part, radius);
+    setSource(cairo, paint);
+    cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_WINDING);
+    cairo_fill(cairo);
+  }
+
+  void strokeRoundedRect(cairo_t* cairo, const Rect& rect, double radius, double lineWidth,
+                         const Paint& paint) const override {
+    const std::optional<Rect> part = visiblePart(cairo, rect);
+    if (!part) return;
+    const Saved saved(cairo);
+    addRoundedRect(cairo, *part, radius);
+    setSource(cairo, paint);
+    cairo_set_line_width(cairo, lineWidth);
+    cairo_set_dash(cairo, nullptr, 0, 0.0);
+    cairo_set_line_join(cairo, CAIRO_LINE_JOIN_MITER);
+    cairo_stroke(cairo);
+  }
+
+  void drawSurface(cairo_t* cairo, cairo_surface_t* surface, const Size& size, const Rect& rect,
+                   bool mirrored) const override {
+    const std::optional<Rect> part = fillablePart(cairo, rect);
+    if (!part) return;
+    // An image that is drawn into itself is drawn as it was before.
+    const Surface copy = cairo_get_target(cairo) == surface ? copySurface(surface) : nullptr;
+    paintSurface(cairo, copy ? copy.get() : surface, imageMatrix(cairo, size, rect, *part, mirrored), *part);
+  }
+
+  Surface makeSurface(const Size& size, double scale) const override {
+    constexpr double kMostPixels = 32767.0;  // of a side; cairo has none larger
+    const double width = std::ceil(size.width * scale);
+    const double height = std::ceil(size.height * scale);
+    const bool possible = size.width > 0.0 && size.height > 0.0 && isWithin(scale, kSmallestScale, kLargestScale) &&
+                          isWithin(width, 1.0, kMostPixels) && isWithin(height, 1.0, kMostPixels);
+    return possible ? makePixels(static_cast<int>(width), static_cast<int>(height), scale, scale) : nullptr;
+  }
+
+  Surface copySurface(cairo_surface_t* original) const override {
+    if (!isImage(original)) return nullptr;
+    double scaleX = 1.0;
+    double scaleY = 1.0;
+    double offsetX = 0.0;
+    double offsetY = 0.0;
+    cairo_surface_get_device_scale(original, &scaleX, &scaleY);
+    cairo_surface_get_device_offset(original, &offsetX, &offsetY);
+    Surface copy =
+        makePixels(cairo_image_surface_get_width(original), cairo_image_surface_get_height(original), scaleX, scaleY);
+    const bool copied = copy && paintOver(copy.get(), CAIRO_OPERATOR_SOURCE, [&](cairo_t* cairo) {
+                          cairo_set_source_surface(cairo, original, offsetX / scaleX, offsetY / scaleY);
+                          cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
+                        });
+    return copied ? std::move(copy) : nullptr;
+  }
+
+  Surface readPNG(const std::string& path) const override {
+    return Surface(cairo_image_surface_create_from_png(path.c_str()));
+  }
+
+  bool writePNG(cairo_surface_t* surface, const std::string& path) const override {
+    return cairo_surface_write_to_png(surface, path.c_str()) == CAIRO_STATUS_SUCCESS;
+  }
+
+  Size surfaceSize(cairo_surface_t* surface) const override {
+    double scaleX = 1.0;
+    double scaleY = 1.0;
+    cairo_surface_get_device_scale(surface, &scaleX, &scaleY);
+    return {cairo_image_surface_get_width(surface) / scaleX, cairo_image_surface_get_height(surface) / scaleY};
+  }
+
+  void fillSourceIn(cairo_surface_t* surface, const Paint& paint) const override {
+    paintOver(surface, CAIRO_OPERATOR_IN, [&](cairo_t* cairo) { setSource(cairo, paint); });
+  }
+};
+
 }  // namespace
-
-void fillRoundedRect(cairo_t* cairo, const Rect& rect, double radius, const Color& color) {
-  const std::optional<Rect> part = fillablePart(cairo, rect);
-  if (!part) return;
-  const Saved saved(cairo);
-  addRoundedRect(cairo, *part, radius);
-  setSource(cairo, color);
-  cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_WINDING);
-  cairo_fill(cairo);
-}
-
-void strokeRoundedRect(cairo_t* cairo, const Rect& rect, double radius, double lineWidth, const Color& color) {
-  const std::optional<Rect> part = visiblePart(cairo, rect);
-  if (!part) return;
-  const Saved saved(cairo);
-  addRoundedRect(cairo, *part, radius);
-  setSource(cairo, color);
-  cairo_set_line_width(cairo, lineWidth);
-  cairo_set_dash(cairo, nullptr, 0, 0.0);
-  cairo_set_line_join(cairo, CAIRO_LINE_JOIN_MITER);
-  cairo_stroke(cairo);
-}
-
-void drawSurface(cairo_t* cairo, cairo_surface_t* surface, const Size& size, const Rect& rect, bool mirrored) {
-  const std::optional<Rect> part = fillablePart(cairo, rect);
-  if (!part) return;
-  // An image that is drawn into itself is drawn as it was before.
-  const Surface copy = cairo_get_target(cairo) == surface ? copySurface(surface) : nullptr;
-  paintSurface(cairo, copy ? copy.get() : surface, imageMatrix(cairo, size, rect, *part, mirrored), *part);
-}
-
-Surface makeSurface(const Size& size, double scale) {
-  constexpr double kMostPixels = 32767.0;  // of a side; cairo has none larger
-  const double width = std::ceil(size.width * scale);
-  const double height = std::ceil(size.height * scale);
-  const bool possible = size.width > 0.0 && size.height > 0.0 && isWithin(scale, kSmallestScale, kLargestScale) &&
-                        isWithin(width, 1.0, kMostPixels) && isWithin(height, 1.0, kMostPixels);
-  return possible ? makePixels(static_cast<int>(width), static_cast<int>(height), scale, scale) : nullptr;
-}
-
-Surface copySurface(cairo_surface_t* original) {
-  if (!isImage(original)) return nullptr;
-  double scaleX = 1.0;
-  double scaleY = 1.0;
-  double offsetX = 0.0;
-  double offsetY = 0.0;
-  cairo_surface_get_device_scale(original, &scaleX, &scaleY);
-  cairo_surface_get_device_offset(original, &offsetX, &offsetY);
-  Surface copy =
-      makePixels(cairo_image_surface_get_width(original), cairo_image_surface_get_height(original), scaleX, scaleY);
-  const bool copied = copy && paintOver(copy.get(), CAIRO_OPERATOR_SOURCE, [&](cairo_t* cairo) {
-                        cairo_set_source_surface(cairo, original, offsetX / scaleX, offsetY / scaleY);
-                        cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
-                      });
-  return copied ? std::move(copy) : nullptr;
-}
-
-Size surfaceSize(cairo_surface_t* surface) {
-  double scaleX = 1.0;
-  double scaleY = 1.0;
-  cairo_surface_get_device_scale(surface, &scaleX, &scaleY);
-  return {cairo_image_surface_get_width(surface) / scaleX, cairo_image_surface_get_height(surface) / scaleY};
-}
-
-void fillSourceIn(cairo_surface_t* surface, const Color& color) {
-  paintOver(surface, CAIRO_OPERATOR_IN, [&](cairo_t* cairo) { setSource(cairo, color); });
-}
-
 }  // namespace kzm::port
+
+const kzm::port::Canvas* kzmCairoCanvas() {
+  static const kzm::port::NeverDestroyed<kzm::port::CairoCanvas> canvas;
+  return &*canvas;
+}
