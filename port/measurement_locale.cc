@@ -3,10 +3,9 @@
 #include <new>
 #include <string_view>
 
+#include "port/ascii.h"
 #include "port/canonical_locale.h"
 #include "port/memory_watch.h"
-
-#include "port/ascii.h"
 
 namespace kzm::port {
 namespace {
