@@ -175,7 +175,7 @@ Replaced replace(const std::string& path, std::string_view text) {
   const Descriptor file(open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
   if (!file.isOpen()) return failed();
   if (!moveInPlace(file.number(), temporary, target, text)) {
-    const Replaced result = failed();
+    Replaced result = failed();  // before another call leaves another reason
     unlink(temporary.c_str());
     return result;
   }

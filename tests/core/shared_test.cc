@@ -111,6 +111,16 @@ TEST_F(SharedState, AHostsUnitTableIsHonoredByTheNextCall) {
   EXPECT_TRUE(KZMUtilitiesBandwidthData(options, 5.0).find("format")->isNull());
 }
 
+TEST_F(SharedState, AUnitTableThatAHostMakesAnewIsHonouredByTheNextCall) {
+  const Dictionary options{{"unitsize", 2}, {"space", true}};
+  EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "5 GB");
+  const auto isHosts = [](const Value& value) {
+    return value.dictionary() != nullptr && value.dictionary()->size() == 1;
+  };
+  cache()->findOrMake("Localizations-Units-Network", isHosts, [] { return Value(Dictionary{{"%@ GB", "Go: %@"}}); });
+  EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "Go: 5");
+}
+
 TEST_F(SharedState, AHostsCacheTakesThePlaceOfTheFormerOne) {
   EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2");
   auto own = std::make_shared<Cache>();
