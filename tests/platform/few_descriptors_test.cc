@@ -45,7 +45,8 @@ bool endsBySigterm(const ChildProcess& child) {
   return child.exitStatus() == ExitStatus{ExitStatus::Reason::signaled, SIGTERM} && logged() > 0;
 }
 
-enum Answer { kStartFailed, kStarted, kLeftChild, kLeftDescriptors, kLogged, kNotEnded };
+// No exit codes of a sanitizer are among them.
+enum Answer { kStartFailed = 50, kStarted, kLeftChild, kLeftDescriptors, kLogged, kNotEnded };
 
 // A watchdog of a thirtieth of a second, so that a child with one ends at once.
 Answer launchWith(int free, bool hasContext, ChildConfiguration configuration) {
