@@ -175,8 +175,9 @@ std::string identifierOf(std::string_view name) {
 
 std::string usableOf(std::string_view name) {
   std::string identifier = identifierOf(name);
+  if (identifier.empty()) return std::string(kFallbackLocale);
   const icu::Locale locale = canonicalLocale(identifier);
-  if (identifier.empty() || !isLanguageKnown(locale)) return std::string(kFallbackLocale);
+  if (!isLanguageKnown(locale)) return std::string(kFallbackLocale);
   return isScriptKnown(locale) ? identifier : withoutScript(locale);
 }
 
