@@ -47,7 +47,7 @@ constexpr UnitText kTexts[] = {
 // clang-format on
 constexpr auto kRows = core::unitRows("Units.Network.", kTexts);
 constexpr UnitIndex kIndex = unitIndex(kTexts);
-static_assert(core::wellFormed(kRows));
+static_assert(core::wellFormed(kTexts));
 
 constexpr core::UnitTable kTable{"Localizations-Units-Network", kRows};
 

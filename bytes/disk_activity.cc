@@ -24,7 +24,7 @@ constexpr UnitText kTexts[] = {
 // clang-format on
 constexpr auto kRows = core::unitRows("Units.Activity.", kTexts);
 constexpr UnitIndex kIndex = unitIndex(kTexts);
-static_assert(core::wellFormed(kRows));
+static_assert(core::wellFormed(kTexts));
 
 // Deliberate: the keys of disk activity begin with "Units.Activity.", its cache key ends in "DiskActivity"
 // (Lookups.ActivityKeysDifferFromItsCacheKey).

@@ -23,7 +23,6 @@ constexpr Rung kRungs[] = {
 constexpr Ladder kLadder{kRungs};
 
 constexpr auto kRows = core::unitRows("Units.Space.", kSizeTexts);
-static_assert(core::wellFormed(kRows));
 constexpr core::UnitTable kTable{"Localizations-Units-Space", kRows};
 constexpr Scale kToKilobytes = over(1000.0);
 

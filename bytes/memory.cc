@@ -21,7 +21,6 @@ constexpr Rung kRungs[] = {
 constexpr Ladder kLadder{kRungs};
 
 constexpr auto kRows = core::unitRows("Units.Memory.", kSizeTexts);
-static_assert(core::wellFormed(kRows));
 constexpr core::UnitTable kTable{"Localizations-Units-Memory", kRows};
 constexpr Scale kToKilobytes = times(0x1p-10);
 

@@ -22,6 +22,10 @@ Json numberAsItCame(double value, const std::string& text) {
 // Builds the tree as the parser meets its parts.
 class TreeBuilder final : public Json::json_sax_t {
  public:
+  TreeBuilder() = default;
+  TreeBuilder(const TreeBuilder&) = delete;
+  TreeBuilder& operator=(const TreeBuilder&) = delete;
+
   Json take() { return std::move(root_); }
 
   bool null() override { return add(nullptr); }
