@@ -22,7 +22,7 @@ Json numberAsItCame(double value, const std::string& text) {
 // Builds the tree as the parser meets its parts.
 class TreeBuilder final : public Json::json_sax_t {
  public:
-  TreeBuilder() = default;
+  TreeBuilder() noexcept(false) = default;  // as Json has it in fact
   TreeBuilder(const TreeBuilder&) = delete;
   TreeBuilder& operator=(const TreeBuilder&) = delete;
 

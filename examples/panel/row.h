@@ -2,6 +2,7 @@
 #ifndef KZM_EXAMPLES_PANEL_ROW_H
 #define KZM_EXAMPLES_PANEL_ROW_H
 
+#include <cstddef>
 #include <utility>
 #include <vector>
 
@@ -41,8 +42,8 @@ struct Heading {
 
 /// The given number of bars that show one part of a whole, 0 to 1: full ones, then one in part, then empty ones.
 [[nodiscard]] inline std::vector<double> segments(double part, int count) {
-  std::vector<double> levels;
-  for (int i = 0; i < count; ++i) levels.push_back(part * count - i);
+  std::vector<double> levels(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) levels[static_cast<std::size_t>(i)] = part * count - i;
   return levels;
 }
 

@@ -111,7 +111,7 @@ TEST_F(SharedState, AHostsUnitTableIsHonoredByTheNextCall) {
   EXPECT_TRUE(KZMUtilitiesBandwidthData(options, 5.0).find("format")->isNull());
 }
 
-TEST_F(SharedState, AUnitTableThatAHostMakesAnewIsHonouredByTheNextCall) {
+TEST_F(SharedState, AUnitTableThatAHostMakesAnewIsHonoredByTheNextCall) {
   const Dictionary options{{"unitsize", 2}, {"space", true}};
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "5 GB");
   const auto isHosts = [](const Value& value) {

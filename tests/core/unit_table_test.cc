@@ -18,15 +18,12 @@ constexpr Text kTwice[] = {{"%@ V"}, {"%@ V"}};
 constexpr Text kTwoPlaces[] = {{"%@ of %@"}, {"%@ V"}};
 constexpr Text kLonePercentSign[] = {{"%@%"}, {"%@ V"}};
 
-template <const auto& texts>
-constexpr auto kUnitRows = unitRows("Units.Test.", texts);
-
 TEST(UnitTable, IsWellFormedWithOnePlaceForTheNumberOrNone) {
-  EXPECT_TRUE(wellFormed(kUnitRows<kOnePlaceOrNone>));
-  EXPECT_TRUE(wellFormed(kUnitRows<kWithPercentSign>));
-  EXPECT_FALSE(wellFormed(kUnitRows<kTwice>));
-  EXPECT_FALSE(wellFormed(kUnitRows<kTwoPlaces>));
-  EXPECT_FALSE(wellFormed(kUnitRows<kLonePercentSign>));
+  EXPECT_TRUE(wellFormed(kOnePlaceOrNone));
+  EXPECT_TRUE(wellFormed(kWithPercentSign));
+  EXPECT_FALSE(wellFormed(kTwice));
+  EXPECT_FALSE(wellFormed(kTwoPlaces));
+  EXPECT_FALSE(wellFormed(kLonePercentSign));
 }
 
 enum class Unit { volts, off };
