@@ -53,6 +53,9 @@ TEST(AttributedString, NeverSplitsACharacter) {
   AttributedString text("a°b", "bold");
   text.replace(2, 0, AttributedString("-"));  // between the two bytes of the degree sign
   EXPECT_EQ(text.text(), "a-b") << "the range grows to the whole character";
+  text = AttributedString("%@\x85", "bold");  // no UTF-8: a byte that continues nothing
+  text.replace(0, 2, AttributedString("3"));
+  EXPECT_EQ(text.text(), "3\x85") << "it is text of its own";
 }
 
 TEST(AttributedString, ReplacesTheFirstOccurrenceOnly) {
