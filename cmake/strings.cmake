@@ -11,6 +11,7 @@ foreach(source allowed catalog cpp_source key note structure_rules table text_ru
 endforeach()
 target_include_directories(kzm_strings PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(kzm_strings PRIVATE kzm_warnings)
+kzm_precompile(kzm_strings kzm_common_headers)
 
 add_executable(kzm_compile_strings ${PROJECT_SOURCE_DIR}/tools/strings/compile_strings.cc)
 target_link_libraries(kzm_compile_strings PRIVATE kzm_strings kzm_warnings)
