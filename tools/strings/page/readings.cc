@@ -13,8 +13,8 @@
 #include <KZMSettings/KZMSettings.h>
 #include <KZMUtilities/KZMUtilities.h>
 
-#include "cli/machine/sensors.h"
 #include "cli/words.h"
+#include "machine/sensors.h"
 #include "port/canonical_locale.h"
 
 namespace kzm::strings {
