@@ -1,5 +1,3 @@
-#include "cli/show/display_width.h"
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -7,7 +5,9 @@
 #include <unicode/uchar.h>
 #include <unicode/utf8.h>
 
-namespace kzm::cli {
+#include <KZMUtilities/display_width.h>
+
+namespace kzm {
 namespace {
 
 constexpr UChar32 kSoftHyphen = 0x00AD;  // an invisible one by its category, but terminals show it
@@ -81,4 +81,4 @@ bool hasRightToLeft(std::string_view text) noexcept {
   return false;
 }
 
-}  // namespace kzm::cli
+}  // namespace kzm

@@ -1,8 +1,8 @@
-#include "cli/show/display_width.h"
+#include <KZMUtilities/display_width.h>
 
 #include <gtest/gtest.h>
 
-namespace kzm::cli {
+namespace kzm {
 namespace {
 
 TEST(DisplayWidth, CountsColumns) {
@@ -53,4 +53,4 @@ TEST(DisplayWidth, CutsBetweenCharacters) {
 }
 
 }  // namespace
-}  // namespace kzm::cli
+}  // namespace kzm
