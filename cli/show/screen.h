@@ -39,11 +39,13 @@ class Screen {
   /// Draws the lines; false when nobody reads any more. Throws when they cannot be written for another reason.
   [[nodiscard]] bool draw(std::vector<std::string> lines);
 
+  /// Writes the text as it is; the same result.
+  bool write(std::string_view text);
+
   /// Whether the screen has come to its end because nobody reads any more.
   [[nodiscard]] bool readerHasLeft() const { return readerHasLeft_; }
 
  private:
-  bool write(std::string_view text);
   [[nodiscard]] Event signalled();
 
   bool terminal_;

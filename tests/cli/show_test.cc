@@ -1,5 +1,6 @@
 // The real program on the real machine: only what holds on every machine is asked for.
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <sys/ioctl.h>
 #include <utility>
@@ -50,6 +51,50 @@ TEST(Show, EverythingWithoutATopic) {
   EXPECT_EQ(all.status, 0);
   for (const char* title : {"Memory ", "\n\nLoad\n"}) EXPECT_NE(all.output.find(title), std::string::npos) << title;
   EXPECT_EQ(all.output.find("  –\n"), std::string::npos) << "what the machine lacks is left out";
+}
+
+TEST(Show, SeveralTopicsInTheOrderOfTheCommandLine) {
+  const Outcome two = run({"show", "load", "memory", "load", "--interval", "0.1"});
+  EXPECT_EQ(two.status, 0) << two.errors;
+  EXPECT_TRUE(two.output.starts_with("Load\n")) << two.output;
+  EXPECT_NE(two.output.find("\n\nMemory "), std::string::npos);
+  EXPECT_EQ(countOf(two.output, "Load"), 1U) << "each once";
+}
+
+TEST(Show, ForPrograms) {
+  for (const char* output : {"json", "waybar", "polybar", "plain"}) {
+    const Outcome once = run({"show", "memory", "load", "--interval", "0.1", "--output", output});
+    EXPECT_EQ(once.status, 0) << output << once.errors;
+    EXPECT_EQ(countOf(once.output, "\n"), 1U) << output << once.output;
+  }
+  const auto json = nlohmann::json::parse(run({"--locale", "he_IL", "show", "memory", "--output=json"}).output);
+  EXPECT_EQ(json.at("direction"), "rtl");
+  EXPECT_EQ(json.at("topics").at(0).at("items").at(0).at("id"), "main");
+  const std::string bar = run({"show", "memory", "--output", "i3bar"}).output;
+  EXPECT_TRUE(bar.starts_with("{\"version\":1}\n[\n[]\n,[{")) << bar;
+  EXPECT_EQ(nlohmann::json::parse(bar.substr(bar.find('\n'))).size(), 2U) << "an array to its end";
+}
+
+TEST(Monitor, WritesALineAtEachRefreshAndTheEnd) {
+  const Outcome lines = run({"monitor", "memory", "--output", "json", "--interval", "0.1", "--count", "3"});
+  EXPECT_EQ(lines.status, 0);
+  EXPECT_EQ(countOf(lines.output, "{\"direction\""), 3U) << lines.output;
+  EXPECT_EQ(countOf(lines.output, "\n"), 3U);
+  const Outcome bar = run({"monitor", "memory", "--output", "i3bar", "--interval", "0.1", "--count", "2"});
+  EXPECT_EQ(countOf(bar.output, "\n,["), 2U) << bar.output;
+  EXPECT_TRUE(bar.output.ends_with("]\n]\n")) << bar.output;
+}
+
+TEST(Monitor, WhoReadsALineHasAllOfItAtOnce) {
+  Pipe out;
+  const pid_t process = started({"monitor", "memory", "--output", "plain", "--interval", "3600"}, STDIN_FILENO,
+                                out.writer(), STDERR_FILENO);
+  out.closeWriter();
+  std::string text;
+  ASSERT_TRUE(readSome(out.reader(), text));
+  EXPECT_TRUE(text.ends_with("\n")) << text;
+  out.closeReader();
+  EXPECT_EQ(statusOf(process), 1) << "nobody reads any more";
 }
 
 TEST(Monitor, EndsAfterTheCount) {
