@@ -22,20 +22,8 @@ std::string dumped(const Json& json) { return json.dump(-1, ' ', false, Json::er
 
 // ---- What all bars share -------------------------------------------------------------------------------------------
 
-// How a bar tells readings apart without words.
-struct Sign {
-  std::string_view reading;
-  std::string_view sign;
-};
-constexpr Sign kSigns[] = {{"received", "↓"}, {"sent", "↑"}, {"read", "↓"}, {"written", "↑"}};
-
 // Of what is full, a bar shows how full.
 constexpr std::string_view kLeftOut = "free";
-
-std::string_view signOf(std::string_view reading) {
-  const auto* row = std::ranges::find(kSigns, reading, &Sign::reading);
-  return row == std::end(kSigns) ? std::string_view() : row->sign;
-}
 
 // A text at the right of the room that it has.
 std::string padded(const std::string& text, std::size_t columns, std::string_view space) {

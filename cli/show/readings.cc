@@ -45,6 +45,13 @@ static_assert([] {
   return std::size(kRows) == static_cast<std::size_t>(Quantity::state) + 1;
 }());
 
+// How readings of one item are told apart without words.
+struct Sign {
+  std::string_view reading;
+  std::string_view sign;
+};
+constexpr Sign kSigns[] = {{"received", "↓"}, {"sent", "↑"}, {"read", "↓"}, {"written", "↑"}};
+
 const QuantityRow& rowOf(Quantity quantity) { return kRows[static_cast<std::size_t>(quantity)]; }
 
 }  // namespace
@@ -63,6 +70,11 @@ Level levelOf(const Reading& reading) {
   };
   if (isAt(row.critical)) return Level::critical;
   return isAt(row.warning) ? Level::warning : Level::normal;
+}
+
+std::string_view signOf(std::string_view name) {
+  const auto* row = std::ranges::find(kSigns, name, &Sign::reading);
+  return row == std::end(kSigns) ? std::string_view() : row->sign;
 }
 
 }  // namespace kzm::cli

@@ -64,6 +64,9 @@ struct Item {
 /// The level of the value; what is not known is normal.
 [[nodiscard]] Level levelOf(const Reading& reading);
 
+/// An arrow for a reading that goes in or out, by its name; empty for all others.
+[[nodiscard]] std::string_view signOf(std::string_view name);
+
 }  // namespace kzm::cli
 
 #endif

@@ -12,10 +12,12 @@
 #include <KZMUtilities/dictionary.h>
 
 #include "cli/flags.h"
+#include "cli/monitor/monitor.h"
 #include "cli/numbers.h"
+#include "cli/show/feed.h"
 #include "cli/show/outputs.h"
-#include "cli/show/screen.h"
 #include "cli/show/watch.h"
+#include "cli/terminal/terminal.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
@@ -63,7 +65,7 @@ constexpr ShowFlag kInterface{
     [](ShowOptions& options, Text, Text value) { options.rows.interfaces.emplace_back(value); }};
 constexpr ShowFlag kAll{{"--all", "", "also what was never used, every processor and every sensor"},
                         [](ShowOptions& options, Text, Text) { options.rows.all = true; }};
-constexpr ShowFlag kNoColor{{"--no-color", "", "without bold and faint text"},
+constexpr ShowFlag kNoColor{{"--no-color", "", "without colors, bold and faint text"},
                             [](ShowOptions& options, Text, Text) { options.plain = true; }};
 constexpr ShowFlag kInterval{{"--interval", "SECONDS", "time between two readings, 0.1 to 3600; 1 without it"},
                              useInterval};
@@ -99,6 +101,15 @@ Topics topicsIn(const std::vector<Text>& words) {
   return shown;
 }
 
+// The look of standard output as it is now.
+Look lookOfOutput(bool plain) {
+  Look look;
+  if (!writesToTerminal()) return look;
+  look.styles = dressOfOutput(plain) == Dress::colors;
+  if (const Size size = sizeOfOutput(); size.columns > 0) look.columns = size.columns;
+  return look;
+}
+
 // The whole text of a refresh.
 std::string tableOf(const std::vector<Group>& groups, const Texts& texts, const Look& look) {
   std::string text;
@@ -121,35 +132,23 @@ int showOnce(Watch& watch, const ShowOptions& options) {
   return std::cout.flush() ? 0 : 1;
 }
 
-// Draws the groups again whenever the terminal has another size; false when it is to end.
-bool waited(Screen& screen, double until, const std::vector<Group>& groups, const Texts& texts,
-            const ShowOptions& options) {
-  for (;;) {
-    const Screen::Event event = screen.wait(until);
-    if (event != Screen::Event::resized) return event == Screen::Event::due;
-    if (groups.empty() || options.output->line != nullptr) continue;
-    if (!screen.draw(laidOut(sectionsOf(groups, texts), lookOfOutput(options.plain)))) return false;
-  }
-}
-
-bool drawn(Screen& screen, const std::vector<Group>& groups, const Texts& texts, const ShowOptions& options) {
-  if (options.output->line != nullptr) return screen.write(lineOf(groups, texts, options));
-  return screen.draw(laidOut(sectionsOf(groups, texts), lookOfOutput(options.plain)));
-}
-
 int showContinuously(Watch& watch, const ShowOptions& options) {
   constexpr double kFirst = 1.0;  // the first drawing does not keep anyone waiting longer
+  const bool isTable = options.output->line == nullptr;
+  if (isTable && writesToTerminal())
+    return monitor(watch, {options.bandwidth, options.seconds, options.count, dressOfOutput(options.plain)});
   const Texts texts(options.bandwidth);
-  Screen screen;
-  if (!screen.write(options.output->first)) return 1;
-  std::vector<Group> groups;
+  Feed feed;
+  if (!feed.write(options.output->first)) return 1;
   double due = watch.seconds() + (watch.needsTime() ? std::min(kFirst, options.seconds) : 0.0);
-  for (std::int64_t drawings = 0; waited(screen, due, groups, texts, options);) {
-    groups = watch.read();
-    if (!drawn(screen, groups, texts, options) || ++drawings == options.count) break;
+  for (std::int64_t drawings = 0; feed.waited(due);) {
+    const std::vector<Group> groups = watch.read();
+    const std::string_view between = isTable && drawings > 0 ? "\n" : "";
+    const std::string text = isTable ? tableOf(groups, texts, {}) : lineOf(groups, texts, options);
+    if (!feed.write(std::string(between) + text) || ++drawings == options.count) break;
     due = std::max(due + options.seconds, watch.seconds());
   }
-  return screen.readerHasLeft() || !screen.write(options.output->last) ? 1 : 0;
+  return feed.readerHasLeft() || !feed.write(options.output->last) ? 1 : 0;
 }
 
 void checkWidth(const ShowOptions& options) {
