@@ -8,14 +8,20 @@ namespace {
 
 constexpr std::size_t kUsualParts = 3;  // the number, and what is before and after it
 
-bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+// Whether a character of several bytes goes on at the offset. A byte that only looks like it, after an ASCII character,
+// is text of its own.
+bool isInCharacter(std::string_view text, std::size_t offset) {
+  const auto byteAt = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  if (offset == 0 || offset >= text.size()) return false;
+  return (byteAt(offset) & 0xC0U) == 0x80U && byteAt(offset - 1) >= 0x80U;
+}
 
 // The byte offsets of a range that lies inside the text and splits no character.
 std::pair<std::size_t, std::size_t> wholeCharacters(std::string_view text, std::size_t position, std::size_t length) {
   std::size_t first = std::min(position, text.size());
   std::size_t last = first + std::min(length, text.size() - first);
-  while (first > 0 && first < text.size() && continuesCharacter(text[first])) --first;
-  while (last < text.size() && continuesCharacter(text[last])) ++last;
+  while (isInCharacter(text, first)) --first;
+  while (isInCharacter(text, last)) ++last;
   return {first, last};
 }
 

@@ -49,7 +49,7 @@ struct UnitTable {
 
 /// The rows of a family's own table, whose rows have members `text` and `comment` among others.
 template <class Row, std::size_t N>
-consteval std::array<UnitRow, N> unitRows(std::string_view keyPrefix, const Row (&rows)[N]) {
+constexpr std::array<UnitRow, N> unitRows(std::string_view keyPrefix, const Row (&rows)[N]) {
   std::array<UnitRow, N> units;
   for (std::size_t i = 0; i < N; ++i) units[i] = UnitRow(keyPrefix, rows[i].text, rows[i].comment);
   return units;
@@ -75,7 +75,7 @@ struct UnitIndex {
 
 /// Where each unit's rows are. Rows have members `spacing` and `unit`, whose number is below Units.
 template <std::size_t Units, class Row, std::size_t N>
-consteval UnitIndex<Units> unitIndex(const Row (&rows)[N]) {
+constexpr UnitIndex<Units> unitIndex(const Row (&rows)[N]) {
   UnitIndex<Units> index{};
   for (auto& forms : index.rows) forms.fill(UnitIndex<Units>::kNone);
   for (std::size_t i = 0; i < N; ++i) {

@@ -19,19 +19,6 @@ struct Decimal {
   int power;
 };
 
-Decimal shortestDecimal(double magnitude) {
-  char text[40];
-  for (int precision = 0;; ++precision) {
-    std::snprintf(text, sizeof text, "%.*e", precision, magnitude);
-    if (std::strtod(text, nullptr) == magnitude) break;
-  }
-  const std::string all = text;
-  const std::size_t mark = all.find('e');
-  Decimal decimal{all.substr(0, 1), std::atoi(all.c_str() + mark + 1) + 1};
-  if (mark > 2) decimal.digits += all.substr(2, mark - 2);
-  return decimal;
-}
-
 // Adds one to the last digit.
 std::string nextOf(std::string digits) {
   std::size_t i = digits.size();
@@ -39,6 +26,26 @@ std::string nextOf(std::string digits) {
   if (i == 0) return "1" + digits;
   ++digits[i - 1];
   return digits;
+}
+
+double valueOf(const Decimal& decimal) {
+  return std::strtod(("0." + decimal.digits + "e" + std::to_string(decimal.power)).c_str(), nullptr);
+}
+
+// Of each number of digits the two decimals around the number are tried, the nearer one first: next to a power of two
+// the farther one may be the only one that reads back.
+Decimal shortestDecimal(double magnitude) {
+  for (int precision = 0;; ++precision) {
+    char text[40];
+    std::snprintf(text, sizeof text, "%.*e", precision, magnitude);
+    const std::string all = text;
+    const std::size_t mark = all.find('e');
+    Decimal decimal{all.substr(0, 1), std::atoi(text + mark + 1) + 1};
+    if (mark > 2) decimal.digits += all.substr(2, mark - 2);
+    if (valueOf(decimal) == magnitude) return decimal;
+    decimal.digits = nextOf(decimal.digits);
+    if (decimal.digits.size() == static_cast<std::size_t>(precision) + 1 && valueOf(decimal) == magnitude) return decimal;
+  }
 }
 
 std::string onPaper(double value, int least, int most) {
@@ -79,7 +86,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   while (!input.empty()) {
     const auto value = input.take<double>();
     const std::string text = kzm::core::numberAlone(kzm::core::decimalStyle(symbols, least, most), value);
-    if (std::isfinite(value)) demand(text == onPaper(value, least, most), "the digits are those on paper");
+    if (std::isfinite(value)) demand(text == onPaper(value, least, most), text + " is as on paper: " + onPaper(value, least, most));
   }
   return 0;
 }
