@@ -47,7 +47,7 @@ constexpr UnitText kTexts[] = {
 // clang-format on
 constexpr auto kRows = core::unitRows("Units.Network.", kTexts);
 constexpr UnitIndex kIndex = unitIndex(kTexts);
-static_assert(core::wellFormed(kRows));
+static_assert(core::wellFormed(kTexts));
 
 constexpr core::UnitTable kTable{"Localizations-Units-Network", kRows};
 
@@ -59,7 +59,8 @@ constexpr Form kFormsOfSize[][2] = {
 };
 
 // What the format codes 0 to 3 show, and the code that "reverse-type" makes of them. Any other code shows as 0.
-// Deliberate: the swap is one-way, 3 stays 3 and never turns back into 1; any other code turns into 3.
+// Deliberate: the swap is one-way, 3 stays 3 and never turns back into 1; any other code turns into 3
+// (Bandwidth.TheReversedFormatIsOneWay).
 struct Format {
   bool bits;
   Level lowest;
@@ -104,7 +105,7 @@ core::Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
 }
 
 // Deliberate: two styles of one text differ when there are no decimals. The plain one groups thousands in the locale's
-// way, the attributed one never does (Bandwidth.AttributedWholeNumbersAreNotGrouped).
+// way, the attributed one never does (Bandwidth.WithoutDecimalsTheAttributedNumberIsNeverGrouped).
 core::Reading withPlainWhole(core::Reading reading) {
   if (reading.amount.decimals <= 0) reading.amount.digits = core::Digits::plain;
   return reading;

@@ -6,8 +6,8 @@
 namespace kzm::bytes {
 namespace {
 
-// Deliberate: the translator hints are wrong on purpose: the list petabyte to kilobyte is laid on the first five rows
-// in order (Lookups.ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome).
+// Deliberate: the translator hints are wrong on purpose: the list petabyte to kilobyte is applied to the first five
+// rows in order (Lookups.ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome).
 // clang-format off
 //   form                  level           spacing                template    translator's hint
 constexpr UnitText kTexts[] = {
@@ -24,7 +24,7 @@ constexpr UnitText kTexts[] = {
 // clang-format on
 constexpr auto kRows = core::unitRows("Units.Activity.", kTexts);
 constexpr UnitIndex kIndex = unitIndex(kTexts);
-static_assert(core::wellFormed(kRows));
+static_assert(core::wellFormed(kTexts));
 
 // Deliberate: the keys of disk activity begin with "Units.Activity.", its cache key ends in "DiskActivity"
 // (Lookups.ActivityKeysDifferFromItsCacheKey).

@@ -8,7 +8,8 @@ namespace {
 
 // Deliberate: the first three tests reach their threshold, the tera test does not: 10^12 bytes stay 1000 giga, 10^15
 // bytes move up to peta. The peta divisor is 10^12 as single precision holds it, so petabytes come out 4 in 10^9 large.
-// NaN ends in peta (DiskSpace.ThresholdsAreReachedButForTera).
+// NaN ends in peta (DiskSpace.TheFirstThreeThresholdsAreReachedTheFourthIsNot,
+// DiskSpace.ThePetaDivisorIsInSinglePrecision).
 // clang-format off
 //   level        taken when       kilobytes        shown as
 constexpr Rung kRungs[] = {
@@ -22,7 +23,6 @@ constexpr Rung kRungs[] = {
 constexpr Ladder kLadder{kRungs};
 
 constexpr auto kRows = core::unitRows("Units.Space.", kSizeTexts);
-static_assert(core::wellFormed(kRows));
 constexpr core::UnitTable kTable{"Localizations-Units-Space", kRows};
 constexpr Scale kToKilobytes = over(1000.0);
 

@@ -9,6 +9,7 @@
 #include <span>
 #include <string_view>
 
+#include "core/rows.h"
 #include "core/unit_table.h"
 
 namespace kzm::bytes {
@@ -16,11 +17,11 @@ namespace kzm::bytes {
 using core::Spacing;
 
 enum class Level : std::uint8_t { kilo, mega, giga, tera, peta };
-inline constexpr std::size_t kLevels = 5;
+inline constexpr std::size_t kLevels = core::countEnumerators<Level>();
 
-/// What is said of the unit. Sizes and disk activity know the bare letter ("%@G") and one full form; bandwidth has all.
+/// What is said of the unit. Sizes and disk activity have the bare letter ("%@G") and one full form; bandwidth has all.
 enum class Form : std::uint8_t { brief, bytes, bits, bytesPerSecond, bitsPerSecond };
-inline constexpr std::size_t kForms = 5;
+inline constexpr std::size_t kForms = core::countEnumerators<Form>();
 
 /// One unit: a form at a level.
 struct Unit {

@@ -7,7 +7,7 @@ namespace kzm::bytes {
 namespace {
 
 // Deliberate: 1024 KB stays KB (at most), but 1024 MB is already 1 GB (below). NaN ends in peta
-// (Memory.OneThousandTwentyFourKiloStayAndMegaMoveUp).
+// (Memory.TheFirstThresholdIsReachedTheOthersAreNot).
 // clang-format off
 //   level        taken when       kilobytes        shown as
 constexpr Rung kRungs[] = {
@@ -21,7 +21,6 @@ constexpr Rung kRungs[] = {
 constexpr Ladder kLadder{kRungs};
 
 constexpr auto kRows = core::unitRows("Units.Memory.", kSizeTexts);
-static_assert(core::wellFormed(kRows));
 constexpr core::UnitTable kTable{"Localizations-Units-Memory", kRows};
 constexpr Scale kToKilobytes = times(0x1p-10);
 

@@ -27,7 +27,7 @@ inline constexpr Rung kBinaryFromMegaRungs[] = {
 };
 
 // Deliberate: an early upgrade moves the thresholds alone, the factors stay binary. 10^9 bytes show as 0.93 giga
-// (Bandwidth.EarlyUpgradeMovesTheThresholdsAlone).
+// (Bandwidth.AnEarlyUpgradeMovesTheThresholdsButNotTheFactors).
 inline constexpr Rung kEarlyRungs[] = {
     {Level::kilo, Test::notAtLeast, 1000000.0,    kToKilo},
     {Level::mega, Test::notAtLeast, 1000000000.0, kToMega},

@@ -27,6 +27,7 @@ inline constexpr UnitText kSizeTexts[] = {
 };
 // clang-format on
 inline constexpr UnitIndex kSizeIndex = unitIndex(kSizeTexts);
+static_assert(core::wellFormed(kSizeTexts));
 
 }  // namespace kzm::bytes
 

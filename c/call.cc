@@ -1,9 +1,5 @@
 #include "c/call.h"
 
-#include <cstdlib>
-#include <cstring>
-#include <new>
-
 #include "catalogue/errors.h"
 
 namespace kzm::c {
@@ -19,14 +15,6 @@ catalogue::Json stringFrom(const char* text) {
     throw catalogue::InputError("a text is not UTF-8");
   }
   return json;
-}
-
-char* copyOf(std::string_view text) {
-  auto* const copy = static_cast<char*>(std::malloc(text.size() + 1));
-  if (copy == nullptr) throw std::bad_alloc();
-  std::memcpy(copy, text.data(), text.size());
-  copy[text.size()] = '\0';
-  return copy;
 }
 
 }  // namespace kzm::c

@@ -1,11 +1,12 @@
 #include "c/choices.h"
 
 #include <mutex>
+#include <string>
 
 #include <KZMUtilities/formatters.h>
 
+#include "catalogue/companions.h"
 #include "catalogue/errors.h"
-#include "catalogue/neighbours.h"
 
 namespace kzm::c {
 namespace {
@@ -29,7 +30,7 @@ void chooseLocale(std::string_view identifier) {
   }
   setCurrentLocale(identifier);
   // A localization library that has no such choice keeps its own language.
-  static_cast<void>(catalogue::chooseLanguage(currentLocale()));
+  static_cast<void>(catalogue::chooseLanguage(std::string(identifier)));
 }
 
 }  // namespace kzm::c

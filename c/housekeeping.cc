@@ -6,8 +6,8 @@
 
 #include "c/call.h"
 #include "c/kzm.h"
+#include "catalogue/companions.h"
 #include "catalogue/errors.h"
-#include "catalogue/neighbours.h"
 
 namespace kzm::c {
 namespace {
@@ -40,9 +40,9 @@ extern "C" {
 
 void kzm_free(void* result) { std::free(result); }
 
-const char* kzm_last_error() { return lastError(); }
+const char* kzm_last_error() { return lastError; }
 
-const char* kzm_version() { return KZM_VERSION; }
+const char* kzm_version() { return KZM_LIBRARY_VERSION; }
 
 int kzm_set_locale(const char* identifier) { return call<setLocale>(identifier); }
 

@@ -11,7 +11,7 @@
  * Time points  are seconds since 1970-01-01 00:00:00 UTC. NaN is none, as argument and as result.
  * Truth        is an int: 1 or 0.
  * Errors       Nothing throws and nothing ends the process. An argument that cannot be read gives NULL, NaN or 0, and
- *              kzm_last_error tells why. NULL and NaN are also what a call gives that has nothing to say; then
+ *              kzm_last_error says why. NULL and NaN are also what a call gives that has nothing to say; then
  *              kzm_last_error gives NULL.
  * Threads      Every function may be called from any thread at any time.
  * Languages    Numbers, units and texts follow the environment (LC_ALL, LC_NUMERIC, LC_MEASUREMENT, LANGUAGE, LANG), or
@@ -53,6 +53,7 @@
 #define KZM_CALENDAR_UNIT_NANOSECOND            32768    /* 0 to 999999999, truncated */
 #define KZM_CALENDAR_UNIT_CALENDAR              1048576  /* the text "gregorian" */
 #define KZM_CALENDAR_UNIT_TIME_ZONE             2097152  /* the zone's identifier, a text */
+
 #ifdef __cplusplus
 extern "C" {
 #endif

@@ -9,22 +9,17 @@ namespace {
 constexpr std::size_t kRoom = 256;  // bytes
 constinit thread_local char errorText[kRoom];
 
-// Apart from the buffer, since every call clears it: initial-exec makes that one store.
-[[gnu::tls_model("initial-exec")]] constinit thread_local const char* error = nullptr;
-
 bool continuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
 
 }  // namespace
 
-const char* lastError() noexcept { return error; }
-
-void clearError() noexcept { error = nullptr; }
+constinit thread_local const char* lastError = nullptr;
 
 void setError(std::string_view text) noexcept {
   std::size_t size = std::min(text.size(), kRoom - 1);
   while (size > 0 && size < text.size() && continuesCharacter(text[size])) --size;
   errorText[std::copy_n(text.begin(), size, errorText) - errorText] = '\0';
-  error = errorText;
+  lastError = errorText;
 }
 
 }  // namespace kzm::c

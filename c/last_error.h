@@ -9,23 +9,24 @@
 namespace kzm::c {
 
 /// Null when the thread's last call did not fail. The text is good until the thread's next call.
-[[nodiscard]] const char* lastError() noexcept;
-
-void clearError() noexcept;
+/// Every call clears it: initial-exec makes that one store.
+[[gnu::tls_model("initial-exec")]] extern constinit thread_local const char* lastError;
 
 /// A text that is too long is cut between two characters.
 void setError(std::string_view text) noexcept;
 
 /// What the call gives, or `failure` with an error.
 template <class R, class Call>
-[[nodiscard]] R guarded(R failure, const Call& call) noexcept {
-  clearError();
+[[nodiscard, gnu::always_inline]] inline R guarded(R failure, const Call& call) noexcept {
+  lastError = nullptr;
   try {
     return call();
   } catch (const std::bad_alloc&) {
     setError("out of memory");
   } catch (const std::exception& error) {
     setError(error.what());
+  } catch (...) {
+    setError("something was thrown that is no error");
   }
   return failure;
 }

@@ -3,8 +3,8 @@
 #define KZM_C_OPTIONS_MEMO_H
 
 #include <cstddef>
+#include <cstring>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <KZMUtilities/dictionary.h>
@@ -20,7 +20,12 @@ class OptionsMemo {
 
   /// The dictionary of a JSON object; "null" and no text are an empty one. Good until the next call. Anything else is
   /// an InputError, which is not remembered.
-  [[nodiscard]] const Dictionary& read(const char* text);
+  [[nodiscard]] const Dictionary& read(const char* text) {
+    // One pass over the text is all that the text costs that comes again.
+    if (text != nullptr && recent_ != nullptr && std::strcmp(recent_->text.c_str(), text) == 0) [[likely]]
+      return recent_->options;
+    return readAnother(text);
+  }
 
  private:
   struct Entry {
@@ -28,13 +33,13 @@ class OptionsMemo {
     Dictionary options;
   };
 
-  [[nodiscard]] const Dictionary* find(std::string_view text);
-  [[nodiscard]] const Dictionary& remember(std::string_view text, Dictionary options);
+  [[nodiscard]] const Dictionary& readAnother(const char* text);
+  [[nodiscard]] Entry& room();
 
   std::vector<Entry> entries_;
-  std::size_t recent_ = 0;  // the entry that was asked for last
-  std::size_t oldest_ = 0;  // the entry to be replaced next, once all are taken
-  Dictionary passing_;      // of a text that is too long to be remembered
+  const Entry* recent_ = nullptr;  // what was asked for last
+  std::size_t oldest_ = 0;         // the entry to be replaced next, once all are taken
+  Dictionary passing_;             // of a text that is too long to be remembered
 };
 
 }  // namespace kzm::c

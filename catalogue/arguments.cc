@@ -8,13 +8,13 @@ namespace kzm::catalogue {
 namespace {
 
 [[noreturn]] void refuse(std::string_view wanted, const Json& json) {
-  throw InputError("expected " + std::string(wanted) + ", not " + std::string(json.type_name()));
+  throw InputError("expected " + std::string(wanted) + ", not " + (isNumber(json) ? "number" : json.type_name()));
 }
 
 }  // namespace
 
 double Argument<double>::read(const Json& json) {
-  if (json.is_number()) return json.get<double>();
+  if (isNumber(json)) return numberFrom(json);
   if (json.is_string()) {
     if (const std::optional<double> named = namedDouble(json.get_ref<const std::string&>())) return *named;
   }

@@ -9,7 +9,7 @@
 
 namespace kzm::catalogue {
 
-/// Input that a person can mend. Its text is one line: standard error of the program, or what the C library tells.
+/// Input that a person can correct. Its text is one line: on the program's standard error, or as kzm_last_error.
 class InputError : public std::runtime_error {
  public:
   explicit InputError(std::string text) : std::runtime_error(oneLine(std::move(text))) {}

@@ -5,14 +5,11 @@
 #include <limits>
 #include <memory>
 
-#include "catalogue/errors.h"
 #include "catalogue/json_attributes.h"
 #include "catalogue/json_text.h"
 
 namespace kzm::catalogue {
 namespace {
-
-constexpr int kDeepest = 256;
 
 struct NamedDouble {
   std::string_view name;
@@ -26,20 +23,6 @@ constexpr NamedDouble kNamedDoubles[] = {
 
 }  // namespace
 
-Json parseJson(std::string_view text) {
-  const auto refuseDepth = [](int depth, Json::parse_event_t, Json&) {
-    if (depth > kDeepest) throw InputError("nested deeper than " + std::to_string(kDeepest) + " levels");
-    return true;
-  };
-  try {
-    return Json::parse(text, refuseDepth);
-  } catch (const Json::parse_error& error) {
-    throw InputError("malformed JSON at byte " + std::to_string(error.byte));
-  } catch (const Json::out_of_range&) {
-    throw InputError("a number in the JSON is out of range");
-  }
-}
-
 Value valueFromJson(const Json& json) {
   switch (json.type()) {
     case Json::value_t::boolean:
@@ -49,7 +32,8 @@ Value valueFromJson(const Json& json) {
     case Json::value_t::number_unsigned:
       return json.get<std::uint64_t>();
     case Json::value_t::number_float:
-      return json.get<double>();
+    case Json::value_t::binary:
+      return numberFrom(json);
     case Json::value_t::string:
       return json.get<std::string>();
     case Json::value_t::array: {

@@ -13,8 +13,16 @@ namespace kzm::catalogue {
 
 using Json = nlohmann::json;
 
-/// Reads one JSON text. Malformed or absurdly deep ones are an InputError.
+/// Reads one JSON text. Malformed or absurdly deep ones are an InputError, and so is a number beyond all doubles. A
+/// number that no 64-bit type holds keeps its text: ask isNumber and numberFrom for it.
 [[nodiscard]] Json parseJson(std::string_view text);
+
+/// Whether it is a number of any kind, and its nearest double.
+[[nodiscard]] bool isNumber(const Json& json);
+[[nodiscard]] double numberFrom(const Json& json);
+
+/// The text of a number that keeps it, which is bytes to the parser's type; nothing for all others.
+[[nodiscard]] std::optional<std::string> keptText(const Json& json);
 
 /// The JSON as a Value, an object's members with it.
 [[nodiscard]] Value valueFromJson(const Json& json);

@@ -32,7 +32,23 @@ void appendRun(std::string& text, const AttributedString::Run& run) {
 }  // namespace
 
 void appendJson(std::string& text, const Json& json) {
-  text += json.dump(-1, ' ', false, Json::error_handler_t::replace);
+  if (const std::optional<std::string> kept = keptText(json)) {
+    text += *kept;
+  } else if (json.is_number_float()) {
+    appendJson(text, json.get<double>());
+  } else if (json.is_array()) {
+    appendList(
+        text, '[', json, ']', [&text](const Json& element) { appendJson(text, element); }, ",");
+  } else if (json.is_object()) {
+    const auto appendMember = [&text](const auto& member) {
+      appendJson(text, std::string_view(member.key()));
+      text += ':';
+      appendJson(text, member.value());
+    };
+    appendList(text, '{', json.items(), '}', appendMember, ",");
+  } else {
+    text += json.dump(-1, ' ', false, Json::error_handler_t::replace);
+  }
 }
 
 void appendJson(std::string& text, const double& number) {
@@ -40,8 +56,12 @@ void appendJson(std::string& text, const double& number) {
     text.append("\"").append(nameOf(number)).append("\"");
     return;
   }
+  constexpr std::size_t kMostDigits = 18;  // and a sign: no double has more digits of its own
   char room[32];
-  const std::string_view digits(room, std::to_chars(room, room + sizeof room, number).ptr);
+  std::string_view digits(room, std::to_chars(room, room + sizeof room, number).ptr);
+  const bool isWhole = digits.find_first_of(".e") == std::string_view::npos;
+  if (isWhole && digits.size() > kMostDigits)
+    digits = {room, std::to_chars(room, room + sizeof room, number, std::chars_format::scientific).ptr};
   text += digits;
   if (digits.find_first_of(".e") == std::string_view::npos) text += ".0";
 }

@@ -32,13 +32,14 @@ template <class T>
 
 /// Adds `[a, b]`, `{a, b}` and the like; `append` adds one element.
 template <class Range, class Append>
-void appendList(std::string& text, char open, const Range& range, char close, const Append& append) {
+void appendList(std::string& text, char open, const Range& range, char close, const Append& append,
+                const char* between = ", ") {
   const char* separator = "";
   text += open;
   for (const auto& element : range) {
     text += separator;
     append(element);
-    separator = ", ";
+    separator = between;
   }
   text += close;
 }

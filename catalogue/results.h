@@ -18,7 +18,7 @@ namespace kzm::catalogue {
 
 /// What `kzmutil list --json` calls a result of type R.
 template <class R>
-inline constexpr std::string_view kResultName = "";
+inline constexpr std::string_view kResultName{};
 // clang-format off
 template <> inline constexpr std::string_view kResultName<double>                                 = "double";
 template <> inline constexpr std::string_view kResultName<bool>                                   = "boolean";

@@ -1,6 +1,6 @@
 // The one way in which the verbs read their command lines.
 //
-// A verb lists its flags as rows. A flag is written "--name", with its value after it or after a "=". Flags may stand
+// A verb lists its flags as rows. A flag is written "--name", with its value after it or after a "=". Flags may be
 // anywhere among the other words; "--" ends them. Words that begin with one dash are numbers, not flags.
 #ifndef KZM_CLI_FLAGS_H
 #define KZM_CLI_FLAGS_H
@@ -28,13 +28,13 @@ struct Flag : FlagText {
 /// What a verb without flags gathers.
 struct None {};
 
-/// Takes the flag off the front, if it stands there, and gives its value ("" when it takes none).
+/// Takes the flag off the front, if it is there, and gives its value ("" when it takes none).
 [[nodiscard]] std::optional<std::string_view> takeFlagNamed(Words& words, std::string_view name, bool takesValue);
 
 /// Refuses a word that looks like a flag and is none of the verb's.
 [[noreturn]] void refuseFlag(std::string_view verb, std::string_view word);
 
-/// Takes one of the flags off the front and puts it to use; false when none stands there.
+/// Takes one of the flags off the front and puts it to use; false when none is there.
 template <class Target>
 bool takeFlag(Words& words, std::span<const Flag<Target>> flags, Target& target) {
   for (const Flag<Target>& flag : flags) {
@@ -69,7 +69,7 @@ struct Operands {
   bool help = false;  // "--help" was among the flags
 };
 
-/// Reads the whole command line of a verb, wherever its flags stand.
+/// Reads the whole command line of a verb, wherever its flags are.
 template <class Target>
 Operands takeFlags(std::string_view verb, Words words, std::span<const Flag<Target>> flags, Target& target) {
   Operands operands;

@@ -61,7 +61,8 @@ bool readerHasGone() {
   return poll(&output, 1, 0) == 1 && (output.revents & POLLERR) != 0;
 }
 
-// Input that ended in an error and output that was lost are told, and are a failure whatever the verb thought of it.
+// Input that ended in an error and output that was lost are reported, and are a failure whatever the verb thought of
+// it.
 int withStreams(int status) {
   if (std::ferror(stdin) != 0) {
     std::cerr << "kzmutil: standard input could not be read\n";

@@ -7,14 +7,20 @@
 #include <KZMUtilities/dates.h>
 #include <KZMUtilities/formatters.h>
 
-#include "catalogue/neighbours.h"
+#include "catalogue/companions.h"
 #include "cli/errors.h"
 #include "cli/flags.h"
+#include "cli/locale_name.h"
 
 namespace kzm::cli {
 namespace {
 
 void useLocale(std::string_view identifier) {
+  const LocaleName judged = judgeLocaleName(identifier);
+  if (judged == LocaleName::malformed)
+    throw InputError("no locale " + inQuotes(identifier) + "; names are such as de_CH");
+  if (judged == LocaleName::unknownLanguage)
+    throw InputError("locale " + inQuotes(identifier) + " is of no known language");
   setCurrentLocale(identifier);
   if (!catalogue::chooseLanguage(std::string(identifier))) {
     std::cerr << "kzmutil: the localization library in use cannot choose a language; texts stay in its own\n";

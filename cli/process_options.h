@@ -14,7 +14,7 @@ namespace kzm::cli {
 std::string_view takeValue(Words& words);
 
 /// Takes "--locale ID" or "--time-zone ID" off the front and puts it into force; false when neither is there.
-/// An unknown time zone is an InputError.
+/// An unknown time zone, and a locale that is none or of no known language, is an InputError.
 bool takeProcessOption(Words& words);
 
 /// What they are, for the help.

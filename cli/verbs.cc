@@ -8,6 +8,7 @@ constexpr Verb kVerbs[] = {
     {"monitor", "show them continuously", monitorVerb, describeMonitor},
     {"format", "write numbers as text, for scripts and status bars", formatVerb, describeFormat},
     {"settings", "list and choose the user's units", settingsVerb, describeSettings},
+    {"languages", "list the languages and how far they are translated", languagesVerb, describeLanguages},
     {"call", "call a function of the library by name, with JSON arguments", callVerb, describeCall},
     {"list", "list the functions that `call` knows", listVerb, describeList},
 };

@@ -25,6 +25,7 @@ struct Verb {
 
 int callVerb(Words words);
 int formatVerb(Words words);
+int languagesVerb(Words words);
 int listVerb(Words words);
 int monitorVerb(Words words);
 int settingsVerb(Words words);
@@ -32,6 +33,7 @@ int showVerb(Words words);
 
 [[nodiscard]] Description describeCall();
 [[nodiscard]] Description describeFormat();
+[[nodiscard]] Description describeLanguages();
 [[nodiscard]] Description describeList();
 [[nodiscard]] Description describeMonitor();
 [[nodiscard]] Description describeSettings();

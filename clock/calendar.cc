@@ -53,7 +53,7 @@ constexpr CivilDate gregorianDate(std::int64_t dayNumber) {
   const std::int64_t days = dayNumber - kGregorianMarchOfYear0;
   const std::int64_t cycle = floorDivide(days, kDaysIn400Years);
   const std::int64_t dayOfCycle = floorRemainder(days, kDaysIn400Years);
-  // Takes out the leap days that lie before this one: each ends a group of four years, of a hundred, of 400.
+  // Takes out the leap days before this one: each ends a group of four years, of a hundred, of 400.
   const std::int64_t yearOfCycle =
       (dayOfCycle - dayOfCycle / 1460 + dayOfCycle / 36524 - dayOfCycle / (kDaysIn400Years - 1)) / 365;
   const std::int64_t dayOfYear = dayOfCycle - (365 * yearOfCycle + yearOfCycle / 4 - yearOfCycle / 100);

@@ -148,7 +148,7 @@ TimePoint dateFromComponents(CalendarUnits units) {
   return today.has_value() ? Selection(*today, units).timePoint() : std::nullopt;
 }
 
-// Deliberate: where there is no date, the interval is 0, as that of the platform's null object.
+// Deliberate: where there is no date, the interval is 0 (DateFromComponents.NoDateWhereNowHasNone).
 double timeIntervalFromComponents(CalendarUnits units) { return dateFromComponents(units).value_or(0.0); }
 
 }  // namespace kzm

@@ -6,6 +6,7 @@
 #include "port/time_zone.h"
 
 namespace kzm::clock {
+
 TimePoint supported(TimePoint t) noexcept {
   return t.has_value() && *t >= kEarliest && *t <= kLatest ? t : std::nullopt;
 }

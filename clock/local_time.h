@@ -13,7 +13,7 @@ namespace kzm::clock {
 
 inline constexpr std::int64_t kSecondsInDay = 86400;
 
-/// The platform's limits of calendar work: noon of 1 January 4713 BC, where Julian day numbers begin, and
+/// The limits of calendar work: noon of 1 January 4713 BC, where Julian day numbers begin, and
 /// 7 February 506713.
 inline constexpr double kEarliest = -210866760000.0;
 inline constexpr double kLatest = 15928153804800.0;
@@ -24,7 +24,7 @@ struct Instant {
   double fraction;
 };
 
-/// Null for no date, NaN, an infinity, and all that lies outside the supported range.
+/// Null for no date, NaN, an infinity, and everything outside the supported range.
 [[nodiscard]] std::optional<Instant> instantOf(TimePoint t) noexcept;
 /// Null outside the supported range.
 [[nodiscard]] TimePoint timePointOf(const Instant& instant) noexcept;

@@ -3,7 +3,8 @@
 
 namespace kzm {
 
-// Deliberate: the suffixes are English in every language, and any number that is no day of a month has "th".
+// Deliberate: the suffixes are English in every language, and any number that is no day of a month has "th"
+// (OrdinalSuffix.NumbersThatAreNoDayAlwaysHaveTh).
 std::string ordinalSuffixFromDay(std::int64_t day) {
   switch (day) {
     case 1:

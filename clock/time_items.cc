@@ -5,6 +5,8 @@
 
 #include <KZMUtilities/time_items.h>
 
+#include "port/never_destroyed.h"
+
 namespace kzm::clock {
 namespace {
 
@@ -17,7 +19,8 @@ struct TimeItemRow {
   bool force = false;
 };
 
-// Deliberate: the minute group, too, names its two sub-groups after the seconds; hosts look for these names.
+// Deliberate: the minute group, too, names its two sub-groups after the seconds; hosts look for these names
+// (TimeItems.AreTheWholeCatalogueInOrder).
 // clang-format off
 //   group         marker       token                           label                force
 constexpr TimeItemRow kRows[] = {
@@ -122,7 +125,6 @@ Array buildGroups() {
 }  // namespace kzm::clock
 
 kzm::Array KZMUtilitiesTimeItems() {
-  // Never destroyed: a host may still ask while the process ends.
-  static const kzm::Array& groups = *new kzm::Array(kzm::clock::buildGroups());
-  return groups;
+  static const kzm::port::NeverDestroyed<kzm::Array> groups(kzm::clock::buildGroups());
+  return *groups;
 }

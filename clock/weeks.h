@@ -8,7 +8,7 @@
 
 namespace kzm::clock {
 
-/// The day on which the first week begins of the year or month whose first day is given. It may lie before that day.
+/// The day on which the first week begins of the year or month whose first day is given. It may be before that day.
 [[nodiscard]] std::int64_t firstWeekOf(std::int64_t firstDay, const port::WeekRules& rules) noexcept;
 
 /// The number of the day's week in the year or month whose first day is given; 0 before its first week.

@@ -19,7 +19,8 @@ TimePoint exchangeOffsets(TimePoint t, TimeZone removed, TimeZone added) {
 
 }  // namespace
 
-// Deliberate: this reads the default zone, while the two conversions below read the system zone.
+// Deliberate: this reads the default zone, while the two conversions below read the system zone
+// (ZoneShift.CorrectedReadsAsTheLocalClockOfTheDefaultZone, ZoneShiftDeathTest.ConversionsUseTheSystemZone).
 TimePoint corrected(TimePoint t) {
   if (!clock::supported(t).has_value()) return std::nullopt;
   return clock::supported(*t + offsetAt(*t, TimeZone::defaultZone()));

@@ -1,4 +1,4 @@
-# What the libraries stand on. The installed package looks for the same when the libraries are static ones.
+# What the libraries need. The installed package looks for the same when the libraries are static ones.
 find_package(ICU 72 REQUIRED COMPONENTS uc i18n)
 find_package(nlohmann_json REQUIRED)
 find_package(Threads REQUIRED)

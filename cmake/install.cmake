@@ -1,4 +1,5 @@
-# Installation, in three components: the libraries, what is needed to build against them, and the program.
+# Installation, in components: the libraries, what is needed to build against them, the program, and what other
+# languages load.
 include(CMakePackageConfigHelpers)
 
 set(KZM_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/KZMUtilities)
@@ -11,6 +12,9 @@ endif()
 install(TARGETS ${KZM_LIBRARIES} EXPORT KZMUtilitiesTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT libraries NAMELINK_COMPONENT development
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+if(BUILD_SHARED_LIBS)
+  install(TARGETS KZMCanvas LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/KZMUtilities COMPONENT libraries)
+endif()
 install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 install(EXPORT KZMUtilitiesTargets NAMESPACE KZMUtilities:: DESTINATION ${KZM_PACKAGE_DIR} COMPONENT development)
 
@@ -25,7 +29,7 @@ if(NOT BUILD_SHARED_LIBS)
   install(FILES cmake/dependencies.cmake cmake/FindCCTZ.cmake DESTINATION ${KZM_PACKAGE_DIR} COMPONENT development)
 endif()
 
-# An installed tree can be moved: the .pc files find their prefix from where they lie. Where a folder is an absolute
+# An installed tree can be moved: the .pc files find their prefix from where they are. Where a folder is an absolute
 # path, it is named as such.
 set(KZM_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(KZM_PC_LIBDIR ${CMAKE_INSTALL_FULL_LIBDIR})

@@ -19,7 +19,7 @@ function(kzm_library name)
   endif()
   target_include_directories(${name} PUBLIC
     $<BUILD_INTERFACE:${headers}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
-  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX INSTALL_RPATH "$ORIGIN"
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(BUILD_SHARED_LIBS)
     # Ending threads call into the libraries, so they stay loaded once they are (nodelete).
@@ -27,6 +27,21 @@ function(kzm_library name)
       -Wl,--version-script=${ARG_VERSION_SCRIPT})
     set_target_properties(${name} PROPERTIES LINK_DEPENDS ${ARG_VERSION_SCRIPT})
   endif()
+endfunction()
+
+# kzm_module(NAME FILE OBJECTS TARGET... [LIBRARIES ...]): what a library loads when it is first needed, from the folder
+# KZMUtilities beside it. The file has the version in its name, for a module fits only the library of its own version.
+function(kzm_module name file)
+  cmake_parse_arguments(ARG "" "" "OBJECTS;LIBRARIES" ${ARGN})
+  add_library(${name} MODULE)
+  foreach(objects ${ARG_OBJECTS})
+    target_sources(${name} PRIVATE $<TARGET_OBJECTS:${objects}>)
+  endforeach()
+  target_link_libraries(${name} PRIVATE ${ARG_LIBRARIES})
+  target_link_options(${name} PRIVATE -Wl,-z,defs -Wl,-z,nodelete -Wl,--as-needed)
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX INSTALL_RPATH ""
+    OUTPUT_NAME ${file} PREFIX "" SUFFIX ".so.${PROJECT_VERSION}"
+    LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/KZMUtilities)
 endfunction()
 
 # kzm_precompile(TARGET HEADER...): the headers that most sources of the target include, compiled once for all of them.

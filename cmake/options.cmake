@@ -1,8 +1,10 @@
-# What is built beside the libraries. A project that embeds this one gets the libraries alone and none of its settings.
+# What is built besides the libraries. A project that embeds this one gets the libraries alone and none of its settings.
 option(KZM_BUILD_PROGRAM "Build kzmutil" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_BUILD_C "Build the C library" ${PROJECT_IS_TOP_LEVEL})
+option(KZM_INTROSPECTION "Make what other languages load of the C library; needs gobject-introspection" OFF)
 option(KZM_BUILD_EXAMPLES "Build the examples" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_BUILD_BENCHMARKS "Build the benchmarks" ${PROJECT_IS_TOP_LEVEL})
+option(KZM_BUILD_PEERS "Build the benchmark of what a program could use instead" OFF)
 option(KZM_BUILD_TESTS "Build the tests, and what they test" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_INSTALL "Install what is built" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_PRECOMPILED_HEADERS "Compile the headers that most sources include only once" OFF)

@@ -16,7 +16,7 @@ bool isInCharacter(std::string_view text, std::size_t offset) {
   return (byteAt(offset) & 0xC0U) == 0x80U && byteAt(offset - 1) >= 0x80U;
 }
 
-// The byte offsets of a range that lies inside the text and splits no character.
+// The byte offsets of a range that is inside the text and splits no character.
 std::pair<std::size_t, std::size_t> wholeCharacters(std::string_view text, std::size_t position, std::size_t length) {
   std::size_t first = std::min(position, text.size());
   std::size_t last = first + std::min(length, text.size() - first);
@@ -64,7 +64,7 @@ void AttributedString::append(std::string_view text, const Value& attributes) {
   extendTo(text_.size(), attributes);
 }
 
-// Adds what lies between two offsets of the other text.
+// Adds what is between two offsets of the other text.
 void AttributedString::appendPart(const AttributedString& from, std::size_t first, std::size_t last) {
   std::size_t start = 0;
   for (const Run& run : from.runs()) {

@@ -29,8 +29,8 @@ NumberStyle HeldStyles::fetch(DigitRule rule, std::int64_t digits) {
   return styles_[static_cast<std::size_t>(rule)][static_cast<std::size_t>(digits)] = style;
 }
 
-// Looking texts up may lead through a host's own library and back here, and the cache may change meanwhile: what was
-// made is kept under the count that it was made for.
+// Looking texts up may lead through a host's own library and back here, and the cache may change in the meantime: what
+// was made is kept under the count that it was made for.
 void HeldTexts::fetch(const UnitTable& table) {
   const std::uint64_t epoch = cacheEpoch();
   std::shared_ptr<const Dictionary> texts = cachedTexts(table);

@@ -1,7 +1,7 @@
 // What each thread holds of the shared cache, so that a call in the steady state takes no lock.
 //
 // A thread keeps the unit texts and number styles that it used, and fetches them anew when a host has changed the
-// cache: an entry that a host puts there is honored by the very next call. What is handed out is good until the same
+// cache: an entry that a host puts there is honored by the very next call. What is given out is good until the same
 // thread asks for the same table again, which nobody needs to know but core/rendering: it asks and uses in one step.
 #ifndef KZM_CORE_HELD_H
 #define KZM_CORE_HELD_H

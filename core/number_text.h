@@ -167,7 +167,7 @@ inline void ShortNumber::putPlainDigits(char* end) const noexcept {
   }
   for (; rest >= 10; rest /= 100) {
     end -= 2;
-    std::memcpy(end, &kDigitPairs[rest % 100 * 2], 2);
+    std::memcpy(end, &kDigitPairs[std::size_t{rest % 100} * 2], 2);
   }
   if (integerDigits_ % 2 != 0) *--end = static_cast<char>('0' + rest);
 }

@@ -4,12 +4,11 @@
 #include <limits>
 #include <system_error>
 
+#include "port/ascii.h"
 #include "port/never_destroyed.h"
 
 namespace kzm::core {
 namespace {
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 std::string_view withoutLeadingBlanks(std::string_view text) {
   const std::size_t start = text.find_first_not_of(" \t\n\v\f\r");
@@ -25,11 +24,11 @@ bool takeSign(std::string_view& text) {
 
 std::size_t countDigits(std::string_view text) {
   std::size_t count = 0;
-  while (count < text.size() && isDigit(text[count])) ++count;
+  while (count < text.size() && port::isDigit(text[count])) ++count;
   return count;
 }
 
-// What std::from_chars will not tell of a number out of range: whether it is too large, not too small. A number is
+// What std::from_chars does not say of a number out of range: whether it is too large, not too small. A number is
 // larger than one when the place of its first digit that counts, moved by the exponent, is before the point.
 bool isLarge(std::string_view digits, std::size_t integerDigits, std::int64_t exponent) {
   const std::size_t first = digits.find_first_of("123456789");

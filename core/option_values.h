@@ -1,4 +1,4 @@
-// How options are read: as an integer, a boolean or a double, and never in vain.
+// Reads an option as an integer, a boolean or a double. Every value, present or not, has a result.
 #ifndef KZM_CORE_OPTION_VALUES_H
 #define KZM_CORE_OPTION_VALUES_H
 
@@ -12,11 +12,11 @@
 
 namespace kzm::core {
 
-/// The integer a text spells: blanks, a sign, digits; it ends at anything else and saturates ("2.9" is 2, "" is 0).
+/// The integer a text spells: spaces, a sign, digits; it ends at anything else and saturates ("2.9" is 2, "" is 0).
 [[nodiscard]] std::int64_t integerFromText(std::string_view text) noexcept;
 /// The double a text spells, with a point whatever the locale: " -2.5e3x" is -2500.0, "nan" is 0.0.
 [[nodiscard]] double doubleFromText(std::string_view text) noexcept;
-/// Whether a text says yes: it begins, after blanks, with Y, y, T, t or a digit from 1 to 9.
+/// Whether a text says yes: it begins, after spaces, with Y, y, T, t or a digit from 1 to 9.
 [[nodiscard]] bool booleanFromText(std::string_view text) noexcept;
 
 /// Truncated toward zero, saturated at the 64-bit limits; NaN is 0.

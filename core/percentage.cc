@@ -8,7 +8,7 @@ namespace kzm::core {
 namespace {
 
 // Deliberate: both end in one lone percent sign, which the format operation leaves as it is, in every language
-// (Percentage.TheSignIsALonePercent).
+// (Percentage.TextsInBothRenderings).
 constexpr Template kTight("%@%");
 constexpr Template kSpaced("%@ %");
 

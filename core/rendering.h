@@ -1,4 +1,4 @@
-// The one way from a reading to what is handed out: a unit text and a number become a string, text in two styles, or a
+// The one way from a reading to its result: a unit text and a number become a string, text in two styles, or a
 // result dictionary.
 #ifndef KZM_CORE_RENDERING_H
 #define KZM_CORE_RENDERING_H

@@ -29,7 +29,7 @@ consteval std::size_t countEnumerators() {
 /// Whether every enumerator has its row, and each row is at the position that its column names, so that the column's
 /// enumerator is the row's index.
 template <class Row, std::size_t N, class Enum>
-consteval bool standInOrder(const Row (&rows)[N], Enum Row::*column) {
+consteval bool areInOrder(const Row (&rows)[N], Enum Row::*column) {
   for (std::size_t i = 0; i < N; ++i) {
     if (static_cast<std::size_t>(rows[i].*column) != i) return false;
   }

@@ -32,12 +32,10 @@ std::string longText(std::string_view before, const Number& number, std::string_
   return text;
 }
 
-// Any number, in a text of any size.
+// Any number at all.
 [[gnu::noinline]] std::string anyText(std::string_view before, NumberStyle style, double value, std::string_view after,
                                       std::size_t& numberSize) {
-  const ShortNumber number(style, value);
-  return number.isLaidOut() ? longText(before, number, after, numberSize)
-                            : longText(before, LongNumber(style, value), after, numberSize);
+  return longText(before, LongNumber(style, value), after, numberSize);
 }
 
 // The pieces with the number between them; says how long that is. Nearly every text fits a string's own room: the
@@ -46,8 +44,10 @@ std::string longText(std::string_view before, const Number& number, std::string_
                                                   std::string_view after, std::size_t& numberSize) {
   const ShortNumber number(style, value);
   const std::size_t size = before.size() + number.size() + after.size();
-  if (!number.isLaidOut() || size > kOwnRoom) [[unlikely]]
+  if (!number.isLaidOut()) [[unlikely]]
     return anyText(before, style, value, after, numberSize);
+  if (size > kOwnRoom) [[unlikely]]
+    return longText(before, number, after, numberSize);
   numberSize = number.size();
   return shortText(size, [&](char* to) { putPieces(to, before, number, after); });
 }

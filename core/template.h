@@ -28,7 +28,7 @@ class Template {
   /// lone "%" and a second "%@" too. A template without a place for the number gives its own text.
   [[nodiscard]] std::string filled(NumberStyle style, double value) const;
 
-  /// The text exactly as it stands, in the attributes of the units, but for its first "%@", which becomes the number in
+  /// The text exactly as it is, in the attributes of the units, but for its first "%@", which becomes the number in
   /// the main attributes. No format operation here: "%%" stays two signs.
   [[nodiscard]] AttributedString composed(NumberStyle style, double value, const Value& main, const Value& units) const;
 

@@ -90,15 +90,17 @@ constexpr UnitIndex<Units> unitIndex(const Row (&rows)[N]) {
   return index;
 }
 
-/// For the build's own check of a table: no template is there twice, and each has one place for the number, or none.
-consteval bool wellFormed(std::span<const UnitRow> rows) {
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    const std::string_view text = rows[i].text();
+/// For the build's own check of a family's table: no template is there twice, and each has one place for the number, or
+/// none.
+template <class Row, std::size_t N>
+consteval bool wellFormed(const Row (&rows)[N]) {
+  for (std::size_t i = 0; i < N; ++i) {
+    const std::string_view text = rows[i].text;
     const std::size_t place = text.find("%@");
     const std::string_view after = place == std::string_view::npos ? std::string_view() : text.substr(place + 2);
     if (after.find('%') != std::string_view::npos && after != "%%") return false;
     for (std::size_t j = 0; j < i; ++j) {
-      if (text == rows[j].text()) return false;
+      if (text == rows[j].text) return false;
     }
   }
   return true;

@@ -1,4 +1,4 @@
-// Draws a small bar graph, with a tinted icon beside it, into the file that is named: bar_graph [FILE.png]
+// Draws a small bar graph, with a tinted icon next to it, into the named file: bar_graph [FILE.png]
 #include <cstdio>
 
 #include <KZMUtilities/drawing.h>

@@ -13,7 +13,7 @@ int main() {
                            .standardInput = kzm::NullStream{},
                            .standardOutput = output});
 
-  // The watchdog and the handler run on GLib's main loop, which a GTK or Qt program turns anyway.
+  // The watchdog and the handler run on GLib's main loop, which a GTK or Qt program runs anyway.
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
   child.setTerminationHandler([loop](const kzm::ExitStatus& status) {
     const bool signaled = status.reason == kzm::ExitStatus::Reason::signaled;

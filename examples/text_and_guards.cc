@@ -6,7 +6,7 @@
 #include <KZMUtilities/KZMUtilities.h>
 
 int main() {
-  kzm::AttributedString text("%@ rpm", "grey");
+  kzm::AttributedString text("%@ rpm", "gray");
   kzm::replaceStringWithStringAttributes(text, "%@", "42", "bold");
   std::cout << text.text() << " in " << text.runs().size() << " runs; ";
 

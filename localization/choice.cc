@@ -13,6 +13,7 @@
 #include <KZMUtilities/key.h>
 
 #include "port/environment_locale.h"
+#include "port/memory_watch.h"
 #include "port/never_destroyed.h"
 
 namespace kzm::localization {
@@ -34,11 +35,15 @@ struct Wanted {
   std::atomic<const Choice*> latest{nullptr};
 };
 
-std::string scriptOf(icu::Locale locale) {
+/// With the script and the region that are likely where it names none.
+icu::Locale inFull(icu::Locale locale) {
   UErrorCode status = U_ZERO_ERROR;
   locale.addLikelySubtags(status);
-  return locale.getScript();
+  port::demandMemory(status);
+  return locale;
 }
+
+std::string scriptOf(const icu::Locale& locale) { return inFull(locale).getScript(); }
 
 /// The locale with the characters that its readers expect: where Chinese is written in traditional ones, in Taiwan,
 /// Hong Kong and Macau, so are the other Chinese languages.
@@ -47,6 +52,7 @@ icu::Locale asRead(const icu::Locale& locale) {
   UErrorCode status = U_ZERO_ERROR;
   const std::string script = scriptOf(icu::Locale("zh", locale.getCountry()));
   const icu::Locale changed = icu::LocaleBuilder().setLocale(locale).setScript(script).build(status);
+  port::demandMemory(status);
   return U_FAILURE(status) ? locale : changed;
 }
 
@@ -57,12 +63,14 @@ constinit std::atomic<Wanted*> latestWanted{nullptr};
 
 // Under the lock.
 Wanted& want(std::span<const std::string> identifiers) {
+  const port::MemoryWatch memory;
   std::vector<icu::Locale> languages;
   for (const std::string& identifier : identifiers) {
     // Anything may be asked for; a name that is none is passed over.
     const std::string canonical = port::localeIdentifier(identifier);
     if (!canonical.empty()) languages.push_back(asRead(icu::Locale(canonical.c_str())));
   }
+  memory.demand();
   // Texts are asked for up to the very end of the process, from the destructors of static objects too.
   static port::NeverDestroyed<std::forward_list<Wanted>> all;
   Wanted& fresh = all->emplace_front();
@@ -90,11 +98,13 @@ struct Match {
 
 std::optional<Match> match(const std::vector<icu::Locale>& desired, const std::vector<icu::Locale>& offered) {
   using Locales = icu::Locale::RangeIterator<std::vector<icu::Locale>::const_iterator>;
+  const port::MemoryWatch memory;
   UErrorCode status = U_ZERO_ERROR;
   Locales supported(offered.begin(), offered.end());
   Locales wanted(desired.begin(), desired.end());
   const auto matcher = icu::LocaleMatcher::Builder().setSupportedLocales(supported).setNoDefaultLocale().build(status);
   const auto result = matcher.getBestMatchResult(wanted, status);
+  memory.demand(status);
   if (U_FAILURE(status) || result.getSupportedIndex() < 0) return std::nullopt;
   return Match{static_cast<std::size_t>(result.getDesiredIndex()),
                static_cast<std::size_t>(result.getSupportedIndex())};
@@ -106,10 +116,27 @@ std::set<std::string> scriptsOf(const std::vector<icu::Locale>& languages) {
   return scripts;
 }
 
+/// The table of this very language: that of "de" for "de_DE". The matcher would choose it too, but it reads all that it
+/// knows of languages first, which takes longer than everything else at the start of a program.
+const StringTable* tableOf(const icu::Locale& language, const std::vector<const StringTable*>& tables) {
+  const icu::Locale wanted = inFull(language);
+  for (const StringTable* table : tables) {
+    if (!table->language.starts_with(wanted.getLanguage())) continue;
+    const icu::Locale offered = inFull(localeOf(table->language));
+    const auto isSame = [&](const char* (icu::Locale::*part)() const) {
+      return std::string_view((wanted.*part)()) == (offered.*part)();
+    };
+    if (isSame(&icu::Locale::getLanguage) && isSame(&icu::Locale::getScript) && isSame(&icu::Locale::getCountry))
+      return table;
+  }
+  return nullptr;
+}
+
 /// The table whose language serves the wanted ones best; null when none of them does. A nearest language serves only
 /// readers of its script: the matcher, left alone, gives Russian to readers of Latin letters.
 const StringTable* bestOf(const std::vector<const StringTable*>& tables, std::vector<icu::Locale> languages) {
   while (!languages.empty()) {
+    if (const StringTable* same = tableOf(languages.front(), tables)) return same;
     const std::set<std::string> scripts = scriptsOf(languages);
     std::vector<const StringTable*> readable;
     std::vector<icu::Locale> offered;

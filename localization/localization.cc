@@ -3,18 +3,17 @@
 #include <KZMLocalization/KZMLocalization.h>
 
 #include "localization/choice.h"
+#include "port/ascii.h"
 
 namespace {
 
 constexpr std::string_view kPrefix = "Units.";
 
-constexpr bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-
 /// The template that a key ends in, so that no prefix ever reaches the screen; the key itself when it has no prefix.
 std::string_view templateOf(std::string_view key) {
   if (!key.starts_with(kPrefix)) return key;
   std::size_t end = kPrefix.size();
-  while (end < key.size() && isLetter(key[end])) ++end;
+  while (end < key.size() && kzm::port::isLetter(key[end])) ++end;
   if (end == kPrefix.size() || end == key.size() || key[end] != '.') return key;
   return key.substr(end + 1);
 }

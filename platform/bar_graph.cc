@@ -14,18 +14,21 @@ constexpr double kOutlineWidth = 0.5;  // points
 void barGraphWithRectFill(const Rect& rect, const Color& fill) {
   const std::optional<GraphicsContext> context = GraphicsContext::current();
   if (!context) return;
-  // Deliberate: the colour stays the context's fill colour, also when nothing can be drawn.
+  // Deliberate: the color stays the context's fill color, also when nothing can be drawn
+  // (GraphicsContext.ColorsStaySetAfterABar).
   context->setFillColor(fill);
-  port::fillRoundedRect(context->cairo(), rect, kCornerRadius, fill);
+  port::canvas().fillRoundedRect(context->cairo(), rect, kCornerRadius, port::Paint(fill));
 }
 
 void barGraphWithRectBorder(const Rect& rect, const Color& border) {
   const std::optional<GraphicsContext> context = GraphicsContext::current();
   if (!context) return;
-  // Deliberate: the colour stays the context's stroke colour, also when nothing can be drawn.
+  // Deliberate: the color stays the context's stroke color, also when nothing can be drawn
+  // (GraphicsContext.ColorsStaySetAfterABar).
   context->setStrokeColor(border);
-  // Deliberate: the rectangle is not inset, so half of the line lies outside it, along the edge of the fill.
-  port::strokeRoundedRect(context->cairo(), rect, kCornerRadius, kOutlineWidth, border);
+  // Deliberate: the rectangle is not inset, so half of the line is outside it, along the edge of the fill
+  // (BarGraphBorder.LiesOnTheEdgeHalfOutside).
+  port::canvas().strokeRoundedRect(context->cairo(), rect, kCornerRadius, kOutlineWidth, port::Paint(border));
 }
 
 }  // namespace kzm

@@ -1,6 +1,5 @@
 #include "platform/child.h"
 
-#include <csignal>
 #include <utility>
 
 #include <KZMUtilities/guards.h>
@@ -67,15 +66,17 @@ bool Child::launch() {
 }
 
 void Child::launchWithTimeout(double seconds) {
-  // Deliberate: a second start is a failed start too, and cleans up the child that is running since the first.
+  // Deliberate: a second start is a failed start too, and cleans up the child that is running since the first
+  // (ChildTest.ASecondStartIsAFailedStartAndCleansUp).
   if (!launch()) return cleanup();
   const auto delay = timeoutNanoseconds(seconds);
   if (!delay) return;
   try {
-    // Deliberate: the watchdog is never disarmed, and keeps the child until it fires.
+    // Deliberate: the watchdog is never disarmed, and keeps the child until it fires
+    // (ChildTest.TheWatchdogKeepsTheChildUntilItFires).
     host_.queue.after(*delay, [self = shared_from_this()] { self->forceCancel(); });
   } catch (...) {
-    run()->signal(SIGKILL);  // a child without its watchdog must not run
+    run()->stop(port::Stop::force);  // a child without its watchdog must not run
     throw;
   }
 }
@@ -83,23 +84,25 @@ void Child::launchWithTimeout(double seconds) {
 void Child::forceCancel() {
   if (!isRunning()) return;
   host_.log.write(kTerminating);
-  run()->signal(SIGTERM);
+  run()->stop(port::Stop::request);
   host_.queue.after(kGraceNanoseconds, [self = shared_from_this()] { self->killIfStillRunning(); });
 }
 
 void Child::killIfStillRunning() {
   if (!isRunning()) return;
   host_.log.write(kKilling);
-  run()->signal(SIGKILL);
+  run()->stop(port::Stop::force);
 }
 
 void Child::cleanup() {
   KZMTryCatchBlock([this] {
-    // Deliberate: the guard ends the whole block without a word if the standard input is not a pipe.
+    // Deliberate: the guard ends the whole block without a word if the standard input is not a pipe
+    // (ChildTest.CleanupEndsSilentlyIfTheInputIsNotAPipe).
     const Pipe input = inputPipe(configuration());
     input.readingEnd().close();
     input.writingEnd().close();
-    // Deliberate: the standard output is only cleared, not closed.
+    // Deliberate: the standard output is only cleared, not closed
+    // (ChildTest.CleanupOnlyClearsTheOutputAndDoesNotCloseIt).
     setConnection(&ChildConfiguration::standardOutput, NullStream{});
     setTerminationHandler(nullptr);
   });

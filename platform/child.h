@@ -1,4 +1,4 @@
-// What stands behind a ChildProcess: its configuration, its run, and the timers that end it.
+// What a ChildProcess is a handle on: its configuration, its run, and the timers that end it.
 #ifndef KZM_PLATFORM_CHILD_H
 #define KZM_PLATFORM_CHILD_H
 
@@ -21,7 +21,7 @@ struct Host {
   port::Log& log;
 };
 
-/// A time-out in whole nanoseconds, cut toward zero; 0: on the next turn; none: never.
+/// A time-out in whole nanoseconds, cut toward zero; 0: when the queue next runs; null: never.
 [[nodiscard]] std::optional<std::int64_t> timeoutNanoseconds(double seconds);
 
 class Child : public std::enable_shared_from_this<Child> {

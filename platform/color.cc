@@ -1,4 +1,4 @@
-// Colours: hue, saturation and brightness, and what they are in red, green and blue.
+// Colors: hue, saturation and brightness, and what they are in red, green and blue.
 #include <algorithm>
 #include <cmath>
 
@@ -7,20 +7,20 @@
 namespace kzm {
 namespace {
 
-constexpr double kSectors = 6.0;  // of the colour wheel, from red by yellow, green, cyan, blue and magenta
+constexpr double kSectors = 6.0;  // of the color wheel, from red by yellow, green, cyan, blue and magenta
 
-// 0 to 1; what is no number is 0, and so is minus zero.
+// 0 to 1; NaN is 0, and so is minus zero.
 double component(double value) { return value > 0.0 ? std::min(value, 1.0) : 0.0; }
 
-// The sector's distance from the primary colour at `centre`, counted around the wheel: 0 to 3.
-double distance(double hue, double centre) {
-  const double apart = std::fabs(hue * kSectors - centre);
+// The sector's distance from the primary color at `center`, counted around the wheel: 0 to 3.
+double distance(double hue, double center) {
+  const double apart = std::fabs(hue * kSectors - center);
   return std::min(apart, kSectors - apart);
 }
 
 // A primary is full within one sector of its own hue, and absent beyond two.
-double primary(const Color& color, double centre) {
-  const double absence = std::clamp(distance(color.hue(), centre) - 1.0, 0.0, 1.0);
+double primary(const Color& color, double center) {
+  const double absence = std::clamp(distance(color.hue(), center) - 1.0, 0.0, 1.0);
   return color.brightness() * (1.0 - color.saturation() * absence);
 }
 

@@ -1,8 +1,9 @@
-// The current context of each thread, and the two colours that cairo, with its single source, does not keep.
-#include <cairo.h>
+// The current context of each thread, and the two colors that cairo, with its single source, does not keep.
 #include <utility>
 
 #include <KZMUtilities/drawing.h>
+
+#include "port/canvas.h"
 
 namespace kzm {
 namespace {
@@ -15,14 +16,10 @@ std::unique_ptr<GraphicsContext>& currentContext() {
 }  // namespace
 
 struct GraphicsContext::State {
-  State(cairo_t* context, bool yGrowsDown) : cairo(context ? cairo_reference(context) : nullptr), flipped(yGrowsDown) {}
-  State(const State&) = delete;
-  State& operator=(const State&) = delete;
-  ~State() {
-    if (cairo) cairo_destroy(cairo);
-  }
+  State(cairo_t* context, bool yGrowsDown)
+      : cairo(context ? port::canvas().kept(context) : nullptr), flipped(yGrowsDown) {}
 
-  cairo_t* cairo;
+  port::Context cairo;
   bool flipped;
   Color fill;
   Color stroke;
@@ -36,7 +33,7 @@ std::optional<GraphicsContext> GraphicsContext::current() {
 
 GraphicsContext::Current GraphicsContext::makeCurrent() const { return Current(*this); }
 
-cairo_t* GraphicsContext::cairo() const noexcept { return state_->cairo; }
+cairo_t* GraphicsContext::cairo() const noexcept { return state_->cairo.get(); }
 bool GraphicsContext::isFlipped() const noexcept { return state_->flipped; }
 Color GraphicsContext::fillColor() const noexcept { return state_->fill; }
 Color GraphicsContext::strokeColor() const noexcept { return state_->stroke; }

@@ -1,4 +1,4 @@
-// The platform's exception and the two guards that catch it.
+// The host's exception and the two guards that catch it.
 #include <utility>
 
 #include <KZMUtilities/guards.h>
@@ -25,8 +25,9 @@ void KZMTryCatchBlockWithError(const std::function<void()>& block,
                                const std::function<void(const kzm::Exception*)>& completion) {
   try {
     if (block) block();
-    // Deliberate: the success call stands inside the guarded region, so a platform exception that it raises leads to a
-    // second call of the completion.
+    // Deliberate: the success call is inside the guarded region, so an exception of the host that it raises leads to a
+    // second call of the completion
+    // (TryCatchBlockWithError.AnExceptionFromTheSuccessCallCallsTheCompletionASecondTime).
     if (completion) completion(nullptr);
   } catch (const kzm::Exception& exception) {
     if (completion) completion(&exception);

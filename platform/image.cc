@@ -21,11 +21,8 @@ struct Image::Pixels {
 namespace {
 
 GraphicsContext contextOn(cairo_surface_t* surface) {
-  if (!surface) return GraphicsContext(nullptr);
-  cairo_t* cairo = cairo_create(surface);
-  GraphicsContext context(cairo);
-  cairo_destroy(cairo);
-  return context;
+  const port::Context context = surface ? port::canvas().contextOn(surface) : nullptr;
+  return GraphicsContext(context.get());
 }
 
 }  // namespace
@@ -35,22 +32,22 @@ Image::Focus::Focus(const Image& image)
 
 Image::Image() noexcept = default;
 Image::Image(std::shared_ptr<const Pixels> pixels) noexcept : pixels_(std::move(pixels)) {}
-Image::Image(Size size, double scale) : pixels_(Pixels::make(port::makeSurface(size, scale), size)) {}
+Image::Image(Size size, double scale) : pixels_(Pixels::make(port::canvas().makeSurface(size, scale), size)) {}
 
 Image Image::fromSurface(cairo_surface_t* surface) {
-  port::Surface copy = port::copySurface(surface);
+  port::Surface copy = port::canvas().copySurface(surface);
   if (!copy) return {};
-  const Size size = port::surfaceSize(copy.get());
+  const Size size = port::canvas().surfaceSize(copy.get());
   return Image(Pixels::make(std::move(copy), size));
 }
 
 Image Image::fromPNG(const std::string& path) {
-  const port::Surface surface(cairo_image_surface_create_from_png(path.c_str()));
+  const port::Surface surface = port::canvas().readPNG(path);
   return fromSurface(surface.get());
 }
 
 bool Image::writePNG(const std::string& path) const {
-  return pixels_ && cairo_surface_write_to_png(pixels_->surface.get(), path.c_str()) == CAIRO_STATUS_SUCCESS;
+  return pixels_ && port::canvas().writePNG(pixels_->surface.get(), path);
 }
 
 Size Image::size() const noexcept { return pixels_ ? pixels_->size : Size{}; }
@@ -60,13 +57,13 @@ void Image::drawAtPoint(const Point& point) const { drawInRect({point, size()});
 void Image::drawInRect(const Rect& rect) const {
   const std::optional<GraphicsContext> context = GraphicsContext::current();
   if (!context || !pixels_) return;
-  port::drawSurface(context->cairo(), pixels_->surface.get(), pixels_->size, rect, !context->isFlipped());
+  port::canvas().drawSurface(context->cairo(), pixels_->surface.get(), pixels_->size, rect, !context->isFlipped());
 }
 
 Image Image::tint(const Color& color) const {
   if (!pixels_) return {};
-  port::Surface copy = port::copySurface(pixels_->surface.get());
-  if (copy) port::fillSourceIn(copy.get(), color);
+  port::Surface copy = port::canvas().copySurface(pixels_->surface.get());
+  if (copy) port::canvas().fillSourceIn(copy.get(), port::Paint(color));
   return Image(Pixels::make(std::move(copy), pixels_->size));
 }
 

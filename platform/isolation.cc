@@ -1,14 +1,13 @@
 // Texts that keep their order in a line of any direction.
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <unicode/uchar.h>
-#include <unicode/unistr.h>
 
 #include <KZMUtilities/text.h>
+
+#include "port/writing_direction.h"
 
 namespace kzm {
 namespace {
@@ -21,30 +20,14 @@ constexpr std::string_view kBeginnings[] = {kLeftToRight, kRightToLeft, kFirstSt
 
 bool isBeginning(std::string_view mark) { return std::ranges::find(kBeginnings, mark) != std::end(kBeginnings); }
 
-constexpr std::size_t kMostToLetter = 1024;  // bytes in which the first letter is looked for
-
-bool isDirectionMark(UChar32 character) { return character == 0x061C || character == 0x200E || character == 0x200F; }
-
 /// A first-strong isolate, but where that would take a mark of direction for the first letter: some locales have one in
 /// their minus sign, and the unit would change sides with the sign. Arabic digits alone are from right to left.
 std::string_view beginningFor(std::string_view text) {
-  bool hasMark = false;
-  bool hasArabicDigits = false;
-  text = text.substr(0, kMostToLetter);
-  const auto all = icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
-  for (std::int32_t at = 0; at < all.length(); at = all.moveIndex32(at, 1)) {
-    const UChar32 character = all.char32At(at);
-    const UCharDirection direction = u_charDirection(character);
-    if (isDirectionMark(character)) {
-      hasMark = true;
-    } else if (direction == U_LEFT_TO_RIGHT) {
-      return hasMark ? kLeftToRight : kFirstStrong;
-    } else if (direction == U_RIGHT_TO_LEFT || direction == U_RIGHT_TO_LEFT_ARABIC) {
-      return hasMark ? kRightToLeft : kFirstStrong;
-    }
-    hasArabicDigits = hasArabicDigits || direction == U_ARABIC_NUMBER;
-  }
-  return hasArabicDigits ? kRightToLeft : kFirstStrong;
+  using Letter = port::WritingDirection::Letter;
+  const port::WritingDirection direction = port::writingDirectionOf(text);
+  if (direction.letter == Letter::none) return direction.hasArabicDigits ? kRightToLeft : kFirstStrong;
+  if (!direction.hasMark) return kFirstStrong;
+  return direction.letter == Letter::leftToRight ? kLeftToRight : kRightToLeft;
 }
 
 /// The marks that make one isolate of a text.

@@ -28,7 +28,7 @@ port::Stream streamOf(const ChildConfiguration& configuration, const StreamRow& 
 
 bool isUsable(const port::Stream& stream) { return stream.kind != Kind::file || stream.file.isOpen(); }
 
-// The system's texts end at a zero byte; what stands behind one would silently be lost.
+// The system's texts end at a zero byte; what comes after one would silently be lost.
 bool isWhole(std::string_view text) { return text.find('\0') == std::string_view::npos; }
 
 bool isName(const std::string& name) { return !name.empty() && name.find('=') == std::string::npos; }

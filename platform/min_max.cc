@@ -15,7 +15,8 @@ bool bothFinite(double a, double b) { return std::isfinite(a) && std::isfinite(b
 
 }  // namespace
 
-// Deliberate: on a tie the maximum is its first argument and the minimum its second, which shows with signed zeros.
+// Deliberate: on a tie the maximum is its first argument and the minimum its second, which shows with signed zeros
+// (MinMax.ATieIsTheFirstArgumentOfTheMaximumAndTheSecondOfTheMinimum).
 double KZMMAXDouble(double a, double b) {
   if (!bothFinite(a, b)) return onlyFinite(a, b);
   return b > a ? b : a;

@@ -1,23 +1,24 @@
 #include "platform/running_child.h"
 
 #include <algorithm>
-#include <csignal>
 #include <list>
 #include <utility>
 #include <vector>
+
+#include "port/never_destroyed.h"
 
 namespace kzm::platform {
 namespace {
 
 using Shared = std::shared_ptr<RunningChild>;
 
-// Every child whose end nobody has seen. It keeps them alive, and so no ended process is left behind uncollected.
+// Every child whose end nobody has seen. It keeps them alive, so that no ended process stays uncollected.
 class Uncollected {
  public:
-  // Never destroyed: children may be released until the very end of the host.
+  // Children may be released until the very end of the host.
   static Uncollected& all() {
-    static Uncollected& instance = *std::make_unique<Uncollected>().release();
-    return instance;
+    static port::NeverDestroyed<Uncollected> instance;
+    return *instance;
   }
 
   // A list of the one child that is to be added: adding it takes no memory any more.
@@ -59,7 +60,7 @@ std::shared_ptr<RunningChild> RunningChild::start(const port::Launch& launch, Ha
     queue.open(place);
     if (child->isRunning()) child->watch();
   } catch (...) {
-    child->signal(SIGKILL);
+    child->stop(port::Stop::force);
     throw;
   }
   return child;
@@ -101,9 +102,9 @@ std::optional<ExitStatus> RunningChild::exitStatus() {
   return status_;
 }
 
-void RunningChild::signal(int number) {
+void RunningChild::stop(port::Stop how) {
   const std::lock_guard lock(mutex_);
-  if (task_) task_->signal(number);
+  if (task_) task_->stop(how);
 }
 
 void RunningChild::setHandler(Handler handler) {

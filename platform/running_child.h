@@ -21,7 +21,7 @@ class RunningChild : public std::enable_shared_from_this<RunningChild> {
   /// Starts it and keeps it until its end is seen; null if the start fails. The handler runs on the queue.
   [[nodiscard]] static std::shared_ptr<RunningChild> start(const port::Launch& launch, Handler handler,
                                                            port::MainQueue& queue);
-  /// Looks after every child that has been started, for the hosts whose main queue is not turned.
+  /// Looks after every child that has been started, for hosts that do not run their main queue.
   static void collectEnded();
 
   RunningChild(Handler handler, port::MainQueue& queue);
@@ -29,7 +29,7 @@ class RunningChild : public std::enable_shared_from_this<RunningChild> {
   [[nodiscard]] int processIdentifier() const { return processIdentifier_; }
   [[nodiscard]] bool isRunning();
   [[nodiscard]] std::optional<ExitStatus> exitStatus();
-  void signal(int number);
+  void stop(port::Stop how);
   void setHandler(Handler handler);
 
  private:

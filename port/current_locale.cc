@@ -49,10 +49,11 @@ const Symbols& currentSymbols() {
 }  // namespace
 
 void setCurrentLocale(std::string_view identifier) {
-  std::string usable = port::usableLocale(identifier);
+  std::string numbers = port::usableLocale(identifier);
+  std::string measurement = numbers;
   const std::lock_guard lock(state().mutex);
-  state().measurement = usable;
-  state().numbers = std::move(usable);
+  state().measurement = std::move(measurement);
+  state().numbers = std::move(numbers);
   current.store(nullptr, std::memory_order_release);
 }
 

@@ -3,12 +3,16 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <set>
 #include <string>
 #include <unicode/localebuilder.h>
 #include <unicode/locid.h>
 #include <unicode/uenum.h>
 #include <unicode/uloc.h>
+
+#include "port/ascii.h"
+#include "port/canonical_locale.h"
+#include "port/memory_watch.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::port {
 namespace {
@@ -32,14 +36,12 @@ constexpr Modifier kModifiers[] = {
 constexpr std::size_t kMaximumLength = ULOC_FULLNAME_CAPACITY - 1;
 constexpr std::size_t kMaximumSubtag = 8;
 
-constexpr bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-constexpr bool isAlphanumeric(char c) { return isLetter(c) || (c >= '0' && c <= '9'); }
 constexpr bool isSeparator(char c) { return c == '_' || c == '-'; }
 constexpr bool isKeywordCharacter(char c) {
   return isAlphanumeric(c) || std::string_view("=;_-+/").find(c) != std::string_view::npos;
 }
 
-/// A language of two or three letters, then subtags of letters and digits, each behind a separator.
+/// A language of two or three letters, then subtags of letters and digits, each after a separator.
 bool isWellFormed(std::string_view head) {
   const auto language = static_cast<std::size_t>(std::ranges::find_if_not(head, isLetter) - head.begin());
   if (language != 2 && language != 3) return false;
@@ -58,7 +60,7 @@ std::string joined(std::string_view language, std::string_view script, std::stri
                    std::string_view variant) {
   std::string identifier(language);
   if (!script.empty()) identifier.append("_").append(script);
-  // A variant behind no region leaves the region's place empty: "ca__VALENCIA".
+  // A variant without a region before it leaves the region's place empty: "ca__VALENCIA".
   if (!region.empty() || !variant.empty()) identifier.append("_").append(region);
   if (!variant.empty()) identifier.append("_").append(variant);
   return identifier;
@@ -71,56 +73,55 @@ std::string withModifier(const icu::Locale& locale, std::string_view name) {
                 locale.getCountry(), modifier->variant.empty() ? locale.getVariant() : modifier->variant);
 }
 
-icu::Locale canonical(const std::string& name) { return icu::Locale::createCanonical(name.c_str()); }
-
 std::string canonicalName(const std::string& name) {
-  const icu::Locale locale = canonical(name);
+  const icu::Locale locale = canonicalLocale(name);
   // The undetermined language, "und", has become an empty one.
   return locale.isBogus() || *locale.getLanguage() == '\0' ? std::string() : locale.getName();
 }
 
-template <typename Use>
-void forEachAvailableName(Use use) {
+/// Whether that holds for one of the locales that ICU has data for.
+template <typename Predicate>
+bool holdsForAnyName(Predicate predicate) {
+  const MemoryWatch memory;
   UErrorCode status = U_ZERO_ERROR;
   UEnumeration* names = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
-  while (const char* name = uenum_next(names, nullptr, &status)) use(name);
+  bool holds = false;
+  for (const char* name = nullptr; !holds && (name = uenum_next(names, nullptr, &status)) != nullptr;) {
+    holds = predicate(name);
+  }
   uenum_close(names);
-}
-
-std::set<std::string, std::less<>> availableLanguages() {
-  std::set<std::string, std::less<>> languages;
-  forEachAvailableName([&](const char* name) { languages.emplace(name, std::strcspn(name, "_")); });
-  return languages;
+  demandMemory(status);
+  memory.demand();
+  return holds;
 }
 
 // Asked of ICU's list, not by opening the language's data: with fallback every name would be found, in the data of the
 // process's own locale; without it ICU would keep a bundle that has lost its parents ("nb" that of "no") for everybody.
 bool isLanguageKnown(const icu::Locale& locale) {
-  static const std::set<std::string, std::less<>>& known = *new auto(availableLanguages());
-  return known.contains(locale.getLanguage());
+  const std::string_view language = locale.getLanguage();
+  return holdsForAnyName([&](const char* name) { return language == std::string_view(name, std::strcspn(name, "_")); });
 }
 
 std::string likelyScript(icu::Locale locale) {
   UErrorCode status = U_ZERO_ERROR;
   locale.addLikelySubtags(status);
+  demandMemory(status);
   return locale.getScript();
 }
 
 /// Whether ICU has data for the language in the script that the locale names, if it names one.
 bool isScriptKnown(const icu::Locale& locale) {
   const std::string script = locale.getScript();
-  bool isKnown = script.empty();
-  forEachAvailableName([&](const char* name) {
-    if (isKnown) return;
-    const icu::Locale available(name);
-    isKnown = std::strcmp(available.getLanguage(), locale.getLanguage()) == 0 && likelyScript(available) == script;
-  });
-  return isKnown;
+  return script.empty() || holdsForAnyName([&](const char* name) {
+           const icu::Locale available(name);
+           return std::strcmp(available.getLanguage(), locale.getLanguage()) == 0 && likelyScript(available) == script;
+         });
 }
 
 std::string withoutScript(const icu::Locale& locale) {
   UErrorCode status = U_ZERO_ERROR;
   const icu::Locale changed = icu::LocaleBuilder().setLocale(locale).setScript({}).build(status);
+  demandMemory(status);
   return U_FAILURE(status) ? locale.getLanguage() : changed.getName();
 }
 
@@ -159,22 +160,41 @@ const char* processEnvironment(const char* name) {
   return std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing in the library ever changes the environment
 }
 
-std::string localeIdentifier(std::string_view name) {
+namespace {
+
+std::string identifierOf(std::string_view name) {
   if (isPlain(name) || name.size() > kMaximumLength) return {};
   const std::size_t at = name.find('@');
   const std::string head(name.substr(0, std::min(name.find('.'), at)));
   if (!isWellFormed(head)) return {};
   const std::string_view modifier = at == std::string_view::npos ? std::string_view() : name.substr(at + 1);
-  if (modifier.find('=') == std::string_view::npos) return canonicalName(withModifier(canonical(head), modifier));
+  if (modifier.find('=') == std::string_view::npos) return canonicalName(withModifier(canonicalLocale(head), modifier));
   if (!std::ranges::all_of(modifier, isKeywordCharacter)) return {};
   return canonicalName(head + "@" + std::string(modifier));
 }
 
-std::string usableLocale(std::string_view name) {
-  std::string identifier = localeIdentifier(name);
-  const icu::Locale locale = canonical(identifier);
-  if (identifier.empty() || !isLanguageKnown(locale)) return std::string(kFallbackLocale);
+std::string usableOf(std::string_view name) {
+  std::string identifier = identifierOf(name);
+  if (identifier.empty()) return std::string(kFallbackLocale);
+  const icu::Locale locale = canonicalLocale(identifier);
+  if (!isLanguageKnown(locale)) return std::string(kFallbackLocale);
   return isScriptKnown(locale) ? identifier : withoutScript(locale);
+}
+
+}  // namespace
+
+std::string localeIdentifier(std::string_view name) {
+  const MemoryWatch memory;
+  std::string identifier = identifierOf(name);
+  memory.demand();
+  return identifier;
+}
+
+std::string usableLocale(std::string_view name) {
+  const MemoryWatch memory;
+  std::string identifier = usableOf(name);
+  memory.demand();
+  return identifier;
 }
 
 std::string numberLocale(const Environment& environment) { return usableLocale(firstSet(environment, "LC_NUMERIC")); }

@@ -6,8 +6,8 @@
 //
 // Everything here is a pure function of its arguments and may be called from any thread; the default environment is
 // as safe as getenv is, that is, as long as no other thread changes the environment.
-#ifndef PORT_ENVIRONMENT_LOCALE_H
-#define PORT_ENVIRONMENT_LOCALE_H
+#ifndef KZM_PORT_ENVIRONMENT_LOCALE_H
+#define KZM_PORT_ENVIRONMENT_LOCALE_H
 
 #include <functional>
 #include <string>
@@ -43,7 +43,7 @@ inline constexpr std::string_view kFallbackLocale = "en_001";
 /// The canonical ICU identifier for a locale name ("iw_IL.UTF-8" -> "he_IL"), whether or not ICU knows the language.
 /// The codeset is dropped; of POSIX modifiers, scripts go to their place ("sr_RS@latin" -> "sr_Latn_RS"), "@valencia"
 /// stays as a variant, and others are dropped. Keywords such as "@numbers=deva" are kept. Empty when the name is
-/// malformed or stands for no language, as C and POSIX do.
+/// malformed or names no language, as C and POSIX do.
 [[nodiscard]] std::string localeIdentifier(std::string_view name);
 
 /// The same, but kFallbackLocale for whatever has no identifier and for languages that ICU has no data for, and without

@@ -1,4 +1,4 @@
-// The system log, where an administrator looks for what programs have to tell.
+// The system log, where an administrator looks for messages of programs.
 #ifndef KZM_PORT_LOG_H
 #define KZM_PORT_LOG_H
 

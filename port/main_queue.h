@@ -1,4 +1,4 @@
-// The host's main queue: a place where actions run one at a time, on the thread that turns it.
+// The host's main queue: a place where actions run one at a time, on the thread that runs it.
 #ifndef KZM_PORT_MAIN_QUEUE_H
 #define KZM_PORT_MAIN_QUEUE_H
 

@@ -1,7 +1,11 @@
 #include "port/measurement_locale.h"
 
+#include <new>
 #include <string_view>
-#include <unicode/locid.h>
+
+#include "port/ascii.h"
+#include "port/canonical_locale.h"
+#include "port/memory_watch.h"
 
 namespace kzm::port {
 namespace {
@@ -42,10 +46,9 @@ std::string_view meaningOf(const Meaning (&meanings)[N], std::string_view value)
   return {};
 }
 
-constexpr bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 constexpr char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
-// The country of an "rg" value: two letters, and behind them "zzzz" or the name of a part of the country.
+// The country of an "rg" value: two letters, and after them "zzzz" or the name of a part of the country.
 std::string overridingRegion(std::string_view value) {
   constexpr std::size_t kCountry = 2;
   constexpr std::size_t kLongest = 6;
@@ -56,6 +59,8 @@ std::string overridingRegion(std::string_view value) {
 std::string ownRegion(icu::Locale locale) {
   UErrorCode status = U_ZERO_ERROR;
   if (*locale.getCountry() == '\0') locale.addLikelySubtags(status);
+  if (status == U_MEMORY_ALLOCATION_ERROR)
+    throw std::bad_alloc();  // from this call or, remembered, from an earlier one
   return U_SUCCESS(status) ? locale.getCountry() : std::string();
 }
 
@@ -70,9 +75,12 @@ std::string regionOf(const icu::Locale& locale) {
 }  // namespace
 
 MeasurementLocale measurementLocaleOf(const std::string& identifier) {
-  const icu::Locale locale = icu::Locale::createCanonical(identifier.c_str());
-  if (locale.isBogus()) return {};
-  return {regionOf(locale), std::string(meaningOf(kTemperatures, keyword(locale, "mu")))};
+  const MemoryWatch memory;
+  const icu::Locale locale = canonicalLocale(identifier);
+  MeasurementLocale result;
+  if (!locale.isBogus()) result = {regionOf(locale), std::string(meaningOf(kTemperatures, keyword(locale, "mu")))};
+  memory.demand();
+  return result;
 }
 
 }  // namespace kzm::port

@@ -7,7 +7,7 @@
 namespace kzm::port {
 
 struct MeasurementLocale {
-  std::string region;       // whose habits hold: "GB"; "001" is the whole world; empty when nothing tells
+  std::string region;       // whose habits hold: "GB"; "001" is the whole world; empty when nothing says
   std::string temperature;  // the scale asked for by name: "celsius", "fahrenheit", "kelvin"; empty when none is
 };
 

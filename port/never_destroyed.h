@@ -8,8 +8,8 @@
 
 namespace kzm::port {
 
-/// Holds a T whose destructor never runs: whoever still calls while the process ends, from the destructor of another
-/// static object or from a thread, finds it. Made for function-local statics:
+/// Holds a T whose destructor never runs: calls that come while the process ends, from the destructor of another
+/// static object or from a thread, still find it. Made for function-local statics:
 ///
 ///   static const NeverDestroyed<Texts> texts(language);
 ///   return *texts;

@@ -8,6 +8,9 @@
 #include <unicode/numberformatter.h>
 #include <unicode/unistr.h>
 
+#include "port/environment_locale.h"
+#include "port/memory_watch.h"
+
 namespace kzm::port {
 namespace {
 
@@ -27,7 +30,7 @@ void readNegativeAffixes(const icu::number::LocalizedNumberFormatter& formatter,
   symbols.negativeSuffix = text.substr(one + symbols.digits[1].size());
 }
 
-// The shortest number that the locale groups tells its minimum: 1234 means 1, 12345 means 2.
+// The shortest number that the locale groups shows its minimum: 1234 means 1, 12345 means 2.
 void readMinimumGrouping(const icu::number::LocalizedNumberFormatter& formatter, NumberSymbols& symbols,
                          UErrorCode& status) {
   constexpr int kLargestProbe = 8;
@@ -42,9 +45,8 @@ void readMinimumGrouping(const icu::number::LocalizedNumberFormatter& formatter,
   symbols.primaryGroup = 0;
 }
 
-std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale) {
+std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale, UErrorCode& status) {
   using Symbol = icu::DecimalFormatSymbols;
-  UErrorCode status = U_ZERO_ERROR;
   const std::unique_ptr<icu::NumberFormat> style(icu::NumberFormat::createInstance(locale, UNUM_DECIMAL, status));
   const auto* decimal = dynamic_cast<const icu::DecimalFormat*>(style.get());
   const auto formatter = icu::number::NumberFormatter::withLocale(locale);
@@ -77,9 +79,15 @@ std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale) {
 }  // namespace
 
 NumberSymbols numberSymbols(const std::string& localeIdentifier) {
+  const MemoryWatch memory;
   const icu::Locale locale(localeIdentifier.c_str());
-  for (const icu::Locale& candidate : {locale, icu::Locale(locale.getBaseName()), icu::Locale("en_001")}) {
-    if (std::optional<NumberSymbols> symbols = symbolsOf(candidate)) return *std::move(symbols);
+  const icu::Locale candidates[] = {locale, icu::Locale(locale.getBaseName()), icu::Locale(kFallbackLocale.data())};
+  memory.demand();  // at once: what follows opens files, and may leave another error
+  for (const icu::Locale& candidate : candidates) {
+    UErrorCode status = U_ZERO_ERROR;
+    std::optional<NumberSymbols> symbols = symbolsOf(candidate, status);
+    memory.demand(status);
+    if (symbols) return *std::move(symbols);
   }
   // Only a machine without any locale data comes here.
   NumberSymbols english = plainSymbols();

@@ -1,7 +1,7 @@
 // One object of a type for each thread, made when the thread first asks and deleted when it ends.
 //
 // A thread_local object of a class with a destructor costs a call and a guard for each access from a shared library,
-// and is gone for whoever is called later while the thread ends. Here the access is one load and one comparison, and an
+// and is gone for calls that come later while the thread ends. Here the access is one load and one comparison, and an
 // object that is asked for after its deletion is simply made anew: destructors of other keys, of thread_local objects
 // and of static objects may all call.
 #ifndef KZM_PORT_PER_THREAD_H
@@ -12,7 +12,7 @@
 
 namespace kzm::port {
 
-/// The holder behind perThread. T needs a default constructor; its destructor may ask for the thread's T again.
+/// The holder that perThread uses. T needs a default constructor; its destructor may ask for the thread's T again.
 template <class T>
 class PerThread {
  public:

@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <string_view>
 #include <unicode/locid.h>
+#include <unicode/uloc.h>
+
+#include "port/memory_watch.h"
 
 namespace kzm::port {
 namespace {
 
-constexpr std::size_t kLongestIdentifier = 156;  // what ICU keeps of a whole identifier
+constexpr std::size_t kLongestIdentifier = ULOC_FULLNAME_CAPACITY - 1;  // what ICU keeps of a whole identifier
 
 bool isWellFormed(std::string_view identifier) {
   const auto isPart = [](char c) {
@@ -22,7 +25,9 @@ bool isWellFormed(std::string_view identifier) {
 
 bool takesPosixVariant(const std::string& identifier) {
   if (!isWellFormed(identifier)) return false;
+  const MemoryWatch memory;
   const icu::Locale locale((identifier + "_POSIX").c_str());
+  memory.demand();
   if (locale.isBogus()) return false;  // an over-long language; such a locale must not be asked for anything
   const std::string variants = std::string("_") + locale.getVariant() + "_";
   return variants.find("_POSIX_") != std::string::npos;

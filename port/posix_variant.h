@@ -6,7 +6,7 @@
 
 namespace kzm::port {
 
-/// Whether `identifier` with "_POSIX" behind it is a well-formed locale that has POSIX among its variants. It has not
+/// Whether `identifier` with "_POSIX" after it is a well-formed locale that has POSIX among its variants. It has not
 /// when the identifier is empty or malformed, or ends in keywords, whose last value would swallow the suffix.
 [[nodiscard]] bool takesPosixVariant(const std::string& identifier);
 

@@ -8,14 +8,14 @@
 #include <unicode/unistr.h>
 #include <utility>
 
-#include "port/icu_memory.h"
+#include "port/memory_watch.h"
 #include "port/per_thread.h"
 #include "port/regex_pattern.h"
 
 namespace kzm::port {
 namespace {
 
-// A search may take this many units of engine work, and one more for each so many bytes of text. A unit is ten thousand
+// A search may take this many units of engine work, and one more for each further piece of text. A unit is ten thousand
 // steps of backtracking, and about 0.13 ms. Searches that pass a text once take up to seven steps a character.
 constexpr std::int32_t kEngineUnits = 2000;
 constexpr std::size_t kBytesPerEngineUnit = 1250;
@@ -60,7 +60,7 @@ class Deadline {
 };
 
 icu::UnicodeString utf16(std::string_view text) {
-  const IcuMemory memory;
+  const MemoryWatch memory;
   icu::UnicodeString result = icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
   memory.demand();
   return result;
@@ -70,7 +70,7 @@ using Program = std::unique_ptr<icu::RegexPattern>;
 
 Program compile(std::string_view pattern) {
   const icu::UnicodeString text = utf16(pattern);
-  const IcuMemory memory;
+  const MemoryWatch memory;
   UErrorCode status = U_ZERO_ERROR;
   Program program(icu::RegexPattern::compile(text, UREGEX_CASE_INSENSITIVE, status));
   memory.demand(status);
@@ -103,7 +103,7 @@ bool isTooLong(std::string_view text, std::string_view pattern) {
 
 // The matcher keeps a reference to the text.
 std::optional<std::string> search(const icu::RegexPattern& pattern, const icu::UnicodeString& text, std::size_t bytes) {
-  const IcuMemory memory;
+  const MemoryWatch memory;
   UErrorCode status = U_ZERO_ERROR;
   const std::unique_ptr<icu::RegexMatcher> matcher(pattern.matcher(text, status));
   memory.demand(status);

@@ -4,6 +4,8 @@
 #include <limits>
 #include <vector>
 
+#include "port/ascii.h"
+
 namespace kzm::port {
 namespace {
 
@@ -29,8 +31,6 @@ constexpr ClassRow kClasses[] = {
     {'W', 0.0,             kMostCharacters},
 };
 // clang-format on
-
-bool isAlphanumeric(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
 // Flags such as "(?x)" or "(?i-sx:" that let a pattern hold comments; turned off counts as well.
 bool mayHoldComments(std::string_view pattern) {

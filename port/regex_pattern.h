@@ -1,4 +1,4 @@
-// What a pattern's text tells about the work that it makes, before it is compiled.
+// What a pattern's text says about the work that it makes, before it is compiled.
 #ifndef KZM_PORT_REGEX_PATTERN_H
 #define KZM_PORT_REGEX_PATTERN_H
 

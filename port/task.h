@@ -3,6 +3,7 @@
 #define KZM_PORT_TASK_H
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,6 +29,9 @@ struct Launch {
   std::array<Stream, 3> streams{};  // input, output, error; files are at 3 or above
 };
 
+/// How a program is stopped: SIGTERM, which it may ignore, or SIGKILL.
+enum class Stop : std::uint8_t { request, force };
+
 /// One thread at a time; its owner holds the lock that keeps a signal and the collecting of the exit apart.
 class Task {
  public:
@@ -41,7 +45,7 @@ class Task {
   /// How the program ended, or none while it runs. After the first answer its number may be given to another program.
   [[nodiscard]] virtual std::optional<ExitStatus> collect() = 0;
   /// Reaches the program, or nobody when it has ended.
-  virtual void signal(int number) = 0;
+  virtual void stop(Stop how) = 0;
 
  protected:
   Task() = default;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cctz/civil_time.h>
 #include <cctz/time_zone.h>
 #include <chrono>
@@ -11,10 +12,14 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <optional>
 #include <shared_mutex>
 #include <string>
 #include <system_error>
+
+#include "port/memory_watch.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::port {
 namespace {
@@ -60,11 +65,8 @@ bool isWellFormed(std::string_view identifier) {
          std::all_of(identifier.begin(), identifier.end(), isAllowed);
 }
 
-// cctz remembers every name it is asked for, so it is asked for zone files only. It looks in the same folder.
-bool isZoneFile(std::string_view identifier) {
-  const char* folder = std::getenv("TZDIR");  // NOLINT(concurrency-mt-unsafe): read only, and cctz reads it as well
-  const std::filesystem::path path =
-      std::filesystem::path(folder != nullptr && *folder != '\0' ? folder : "/usr/share/zoneinfo") / identifier;
+// cctz remembers every name it is asked for, so it is asked for zone files only.
+bool isZoneFile(const std::string& path) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) return false;
   std::ifstream file(path, std::ios::binary);
@@ -72,11 +74,30 @@ bool isZoneFile(std::string_view identifier) {
   return file.read(magic.data(), magic.size()) && std::string_view(magic.data(), magic.size()) == "TZif";
 }
 
-std::unique_ptr<const Zone> loadZone(std::string_view identifier) {
+// cctz also remembers a name whose file it could not load for want of memory, and takes it for UTC ever after. So once
+// that has happened, files are asked for by a path that is written in another way.
+std::string pathOf(std::string_view identifier, std::size_t failures) {
+  return zoneFolder().append(failures + 1, '/').append(identifier);
+}
+
+std::optional<cctz::time_zone> loadFile(const std::string& path) {
   cctz::time_zone zone;
-  const std::string name(identifier);
-  if (!isWellFormed(identifier) || !isZoneFile(identifier) || !cctz::load_time_zone(name, &zone)) return nullptr;
-  return std::make_unique<const NamedZone>(name, zone);
+  const MemoryWatch memory;
+  const bool loaded = isZoneFile(path) && cctz::load_time_zone(path, &zone);
+  memory.demand();
+  return loaded ? std::optional(zone) : std::nullopt;
+}
+
+std::unique_ptr<const Zone> loadZone(std::string_view identifier) {
+  constinit static std::atomic<std::size_t> failures{0};
+  if (!isWellFormed(identifier)) return nullptr;
+  try {
+    const std::optional<cctz::time_zone> zone = loadFile(pathOf(identifier, failures.load(std::memory_order_relaxed)));
+    return zone ? std::make_unique<const NamedZone>(std::string(identifier), *zone) : nullptr;
+  } catch (const std::bad_alloc&) {
+    failures.fetch_add(1, std::memory_order_relaxed);
+    throw;
+  }
 }
 
 struct ZoneTable {
@@ -84,10 +105,9 @@ struct ZoneTable {
   std::map<std::string, std::unique_ptr<const Zone>, std::less<>> zones;
 };
 
-// Never destroyed: zones are handed out for as long as the process lives.
 ZoneTable& zoneTable() {
-  static ZoneTable& table = *new ZoneTable;
-  return table;
+  static NeverDestroyed<ZoneTable> table;
+  return *table;
 }
 
 const Zone* knownZone(std::string_view identifier) {
@@ -106,9 +126,14 @@ const Zone* rememberZone(std::unique_ptr<const Zone> zone) {
 
 }  // namespace
 
+std::string zoneFolder() {
+  const char* folder = std::getenv("TZDIR");  // NOLINT(concurrency-mt-unsafe): read only, and cctz reads it as well
+  return folder != nullptr && *folder != '\0' ? folder : "/usr/share/zoneinfo";
+}
+
 const Zone& utcZone() {
-  static const Zone& zone = *new NamedZone("UTC", cctz::utc_time_zone());
-  return zone;
+  static const NeverDestroyed<NamedZone> zone("UTC", cctz::utc_time_zone());
+  return *zone;
 }
 
 const Zone* namedZone(std::string_view identifier) {

@@ -13,7 +13,7 @@
 
 namespace kzm::port {
 
-/// The instants that a local time stands for, in seconds since 1970 UTC. All three are equal but near a change of
+/// The instants that a local time means, in seconds since 1970 UTC. All three are equal but near a change of
 /// offset. For a local time that is skipped: before > change > after, or equal at the gap's ends. For a repeated one:
 /// before < change <= after.
 struct LocalTimeInstants {
@@ -43,8 +43,11 @@ class Zone {
 };
 
 /// The zone of that name; null when the machine's zone files have none. A file is read at most once: what was found
-/// is kept, what was not found is not.
+/// is kept, what was not found is not. A failed allocation throws std::bad_alloc and leaves nothing behind.
 [[nodiscard]] const Zone* namedZone(std::string_view identifier);
+
+/// The folder of the machine's zone files.
+[[nodiscard]] std::string zoneFolder();
 
 /// UTC, without any file.
 [[nodiscard]] const Zone& utcZone();
@@ -53,7 +56,8 @@ class Zone {
 [[nodiscard]] const Zone& systemZone();
 
 /// Finds the machine's zone anew: by the TZ variable's text (null when unset), else by the link. What is neither a name
-/// nor a link to a named zone is left to the C library's own reading of TZ and /etc/localtime.
+/// nor a link to a named zone is left to the C library's own reading of TZ and /etc/localtime, but for what is no
+/// regular file: that is UTC.
 [[nodiscard]] std::shared_ptr<const Zone> findSystemZone(const char* variable, const std::filesystem::path& link);
 
 }  // namespace kzm::port

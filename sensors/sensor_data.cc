@@ -31,7 +31,7 @@ Converted temperature(const Dictionary& options, double celsius) {
 }
 
 // Deliberate: capped above only, -0.5 is -50; but exactly -1.0, which sources give for an unknown reading, is 0, and
-// NaN is 100 (SensorData.PercentagesAreCappedAboveOnly).
+// NaN is 100 (SensorData.PercentageIsCappedAboveOnly).
 Converted percentage(const Dictionary& /*options*/, double fraction) {
   constexpr double kUnknown = -1.0;
   if (fraction == kUnknown) return {Unit::percent, 0.0};
@@ -105,9 +105,11 @@ constexpr const KindRow* rowOf(std::int64_t type) {
 }
 
 // Every kind that is published has its row.
-static_assert([]<std::size_t... type>(std::index_sequence<type...>) {
-  return ((core::isEnumerator<static_cast<SensorType::Kind>(type)>() == (rowOf(type) != nullptr)) && ...);
-}(std::make_index_sequence<256>()));
+static_assert(
+    []<std::size_t... type>(std::index_sequence<type...>) {
+      return ((core::isEnumerator<static_cast<SensorType::Kind>(type)>() == (rowOf(type) != nullptr)) && ...);
+    }(std::make_index_sequence<256>()),
+    "a kind has no row");
 
 }  // namespace
 

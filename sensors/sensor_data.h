@@ -14,7 +14,7 @@
 namespace kzm::sensors {
 
 /// The row of a percentage: beyond the table.
-/// Deliberate: its text is not looked up (SensorFormat.ThePercentSignIsTheSameInEveryLanguage).
+/// Deliberate: its text is not looked up (SensorData.ThePercentageIsNotLookedUp).
 inline constexpr std::size_t kPercentRow = std::size(kTexts);
 inline constexpr core::Template kPercent("%@%%");
 

@@ -76,7 +76,8 @@ inline constexpr UnitText kTexts[] = {
 // clang-format on
 inline constexpr auto kRows = core::unitRows("Units.Sensors.", kTexts);
 inline constexpr auto kIndex = core::unitIndex<core::countEnumerators<Unit>() - 1>(kTexts);
-static_assert(core::wellFormed(kRows) && kIndex.hasAll());
+static_assert(core::wellFormed(kTexts));
+static_assert(kIndex.hasAll(), "a unit has no row");
 
 inline constexpr core::UnitTable kTable{"Localizations-Units-Sensors", kRows};
 

@@ -57,7 +57,7 @@ Content unreadable(const std::string& path, std::string fault) { return {{}, std
 
 std::string errorText(int error) { return std::generic_category().message(error); }
 
-// Up to one byte more than is allowed, which tells that the file is too large.
+// Up to one byte more than is allowed, which shows that the file is too large.
 std::optional<std::string> readAll(int descriptor) {
   std::string text(kMostBytes + 1, '\0');
   std::size_t length = 0;
@@ -83,9 +83,22 @@ bool writeAll(int descriptor, std::string_view text) {
 
 std::string parentOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
 
+// What root makes in a user's directory is the user's: root may act for a user, as with sudo.
+void giveToOwnerOfParent(const std::string& path, int descriptor) {
+  struct stat parent {};
+  if (geteuid() == 0 && stat(parentOf(path).c_str(), &parent) == 0 && parent.st_uid != 0)
+    static_cast<void>(fchown(descriptor, parent.st_uid, parent.st_gid) == 0);
+}
+
+void makeDirectory(const std::string& directory) {
+  if (mkdir(directory.c_str(), S_IRWXU) != 0) return;
+  const Descriptor made(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  if (made.isOpen()) giveToOwnerOfParent(directory, made.number());
+}
+
 void makeDirectories(const std::string& directory) {
   for (std::size_t end = directory.find('/', 1);; end = directory.find('/', end + 1)) {
-    mkdir(directory.substr(0, end).c_str(), S_IRWXU);
+    makeDirectory(directory.substr(0, end));
     if (end == std::string::npos) return;
   }
 }
@@ -95,9 +108,27 @@ std::string targetOf(const std::string& path) {
   return resolved != nullptr ? resolved.get() : path;
 }
 
+// Owner before mode, for a change of owner may take bits of the mode away. Nothing but the owner's own bits is there
+// until then.
+bool takeOver(const struct stat& old, int descriptor) {
+  struct stat made {};
+  if (fstat(descriptor, &made) != 0) return false;
+  const bool sameOwner = made.st_uid == old.st_uid && made.st_gid == old.st_gid;
+  if (!sameOwner && fchown(descriptor, old.st_uid, old.st_gid) != 0) return false;
+  return fchmod(descriptor, old.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)) == 0;
+}
+
+bool takeOverFrom(const std::string& path, int descriptor) {
+  struct stat old {};
+  if (stat(path.c_str(), &old) == 0) return takeOver(old, descriptor);
+  if (!isAbsent(errno)) return false;
+  giveToOwnerOfParent(path, descriptor);
+  return true;
+}
+
 bool moveInPlace(int descriptor, const std::string& from, const std::string& to, std::string_view text) {
-  if (!writeAll(descriptor, text) || retried([&] { return fsync(descriptor); }) != 0) return false;
-  return std::rename(from.c_str(), to.c_str()) == 0;
+  return takeOverFrom(to, descriptor) && writeAll(descriptor, text) &&
+         retried([&] { return fsync(descriptor); }) == 0 && std::rename(from.c_str(), to.c_str()) == 0;
 }
 
 // The file is in place by now; should the power fail, this decides only whether it is the old or the new one.
@@ -105,6 +136,8 @@ void syncDirectory(const std::string& directory) {
   const Descriptor opened(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (opened.isOpen()) retried([&] { return fsync(opened.number()); });
 }
+
+Replaced failed() { return {{}, errorText(errno)}; }
 
 }  // namespace
 
@@ -133,35 +166,44 @@ Content read(const std::string& path) {
   return {std::move(text), {}, identityFrom(status)};
 }
 
-std::optional<Identity> replace(const std::string& path, std::string_view text) {
-  makeDirectories(parentOf(path));
+// The new file has one name, so that the next writer removes what a killed one has left. Removed and not emptied: it
+// may be a link to something else.
+Replaced replace(const std::string& path, std::string_view text) {
   const std::string target = targetOf(path);
-  std::string temporary = target + ".XXXXXX";
-  const Descriptor file(mkostemp(temporary.data(), O_CLOEXEC));
-  if (!file.isOpen()) return std::nullopt;
+  const std::string temporary = target + ".new";
+  unlink(temporary.c_str());
+  const Descriptor file(open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+  if (!file.isOpen()) return failed();
   if (!moveInPlace(file.number(), temporary, target, text)) {
+    Replaced result = failed();  // before another call leaves another reason
     unlink(temporary.c_str());
-    return std::nullopt;
+    return result;
   }
   syncDirectory(parentOf(target));
   struct stat status {};
-  return fstat(file.number(), &status) == 0 ? identityFrom(status) : Identity{};
+  return {fstat(file.number(), &status) == 0 ? identityFrom(status) : Identity{}, {}};
 }
 
 Lock::Lock(const std::string& path) {
   makeDirectories(parentOf(path));
-  const std::string name = path + ".lock";
+  const std::string name = targetOf(path) + ".lock";
   descriptor_ =
       retried([&] { return open(name.c_str(), O_RDWR | O_CREAT | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR); });
+  if (!held()) {
+    fault_ = name + ": " + errorText(errno);
+    return;
+  }
+  struct stat status {};
+  if (fstat(descriptor_, &status) == 0 && status.st_uid == 0) giveToOwnerOfParent(name, descriptor_);
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(2);
-  while (held() && flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+  while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
     const bool waits = (errno == EWOULDBLOCK || errno == EINTR) && std::chrono::steady_clock::now() < end;
-    if (waits) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(1));
-      continue;
+    if (!waits) {
+      fault_ = name + ": " + (errno == EWOULDBLOCK ? "another process keeps it locked" : errorText(errno));
+      close(std::exchange(descriptor_, -1));
+      return;
     }
-    close(descriptor_);
-    descriptor_ = -1;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
 }
 

@@ -14,7 +14,8 @@ namespace kzm::settings {
 /// Larger files are not read, and none is written.
 inline constexpr std::size_t kMostBytes = std::size_t{1} << 20U;
 
-/// What tells one state of the file from another. All zero when there is no file. Times in nanoseconds since 1970.
+/// What distinguishes one state of the file from another. All zero when there is no file. Times in nanoseconds since
+/// 1970.
 struct Identity {
   int error = 0;  // why the rest is not known
   dev_t device = 0;
@@ -40,26 +41,36 @@ struct Content {
   Identity identity;
 };
 
-/// Reads the file. Never waits, whatever stands in its place: only regular files are read.
+/// Reads the file. Never waits, whatever is in its place: only regular files are read.
 [[nodiscard]] Content read(const std::string& path);
 
-/// Puts a file with this text in the place of the one at the path, all of it or nothing; missing directories are made,
-/// for the user only. Where the path is a symbolic link, its target is replaced. Gives the new file's identity.
-[[nodiscard]] std::optional<Identity> replace(const std::string& path, std::string_view text);
+/// The new file's identity, or why there is none; for example "No space left on device".
+struct Replaced {
+  std::optional<Identity> identity;
+  std::string fault;
+};
+
+/// Puts a file with this text in the place of the one at the path, all of it or nothing, while the lock is held. Mode
+/// and owner stay; where they cannot stay, nothing is replaced. A new file is the user's only. Where the path is a
+/// symbolic link, its target is replaced.
+[[nodiscard]] Replaced replace(const std::string& path, std::string_view text);
 
 /// Held by the one process that changes the file at the moment. It is a file of its own beside the settings, because
 /// those are replaced under it.
 class Lock {
  public:
-  /// Makes missing directories and waits up to two seconds for the process that holds the lock.
+  /// Makes missing directories, for the user only, and waits up to two seconds for the process that holds the lock.
   explicit Lock(const std::string& path);
   Lock(const Lock&) = delete;
   Lock& operator=(const Lock&) = delete;
   ~Lock();
 
   [[nodiscard]] bool held() const noexcept { return descriptor_ >= 0; }
+  /// Why it is not held.
+  [[nodiscard]] const std::string& fault() const noexcept { return fault_; }
 
  private:
+  std::string fault_;
   int descriptor_ = -1;
 };
 

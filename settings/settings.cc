@@ -3,15 +3,15 @@
 
 #include <KZMSettings/KZMSettings.h>
 
+#include "port/never_destroyed.h"
 #include "settings/location.h"
 #include "settings/store.h"
 
 namespace {
 
-// Never destroyed: destructors of static objects may still ask.
 kzm::settings::Store& storeOfUser() {
-  static auto& store = *new kzm::settings::Store(kzm::settings::fileOfUser());
-  return store;
+  static kzm::port::NeverDestroyed<kzm::settings::Store> store(kzm::settings::fileOfUser());
+  return *store;
 }
 
 }  // namespace

@@ -93,34 +93,42 @@ void Store::lookAtFile(std::int64_t now, std::int64_t due) {
   if (isFresh(seen_) || identityOf(path_) != seen_) reload();
 }
 
+// What was seen is noted last: if memory runs out on the way, the file is read again at the next look.
 void Store::reload() {
-  const Parsed file = readFile();
-  publish(settingsIn(file.object));
+  const File file = readFile();
+  complain(file);
+  publish(settingsIn(file.parsed.members));
+  seen_ = file.identity;
 }
 
 // A file that is not there is as good as one without members; nothing is taken from a broken one.
-Parsed Store::readFile() {
-  const Content content = path_.empty() ? Content{} : read(path_);
-  seen_ = content.identity;
-  Parsed parsed = content.text ? parse(*content.text) : Parsed{Json::object(), content.fault};
-  complain(parsed.fault, content.text.value_or(""));
-  return parsed;
+Store::File Store::readFile() const {
+  Content content = path_.empty() ? Content{} : read(path_);
+  Parsed parsed = content.text ? parse(*content.text) : Parsed{{}, std::move(content.fault)};
+  return {std::move(parsed), content.identity, std::hash<std::string>{}(content.text.value_or(""))};
 }
 
 // Once for each fault and content, however often that is read.
-void Store::complain(const std::string& fault, const std::string& text) {
-  const std::size_t complaint = fault.empty() ? 0 : std::hash<std::string>{}(fault + text);
-  if (complaint != 0 && complaint != lastComplaint_) {
-    port::tellStandardError("KZMSettings: " + path_ + " is not used: " + fault + "\n");
-  }
+void Store::complain(const File& file) {
+  const std::string& fault = file.parsed.fault;
+  const std::size_t complaint = fault.empty() ? 0 : std::hash<std::string>{}(fault) ^ file.hash;
+  if (complaint != 0 && complaint != lastComplaint_) tell("is not used", fault);
   lastComplaint_ = complaint;
 }
 
+void Store::tell(std::string_view what, std::string_view fault) const {
+  std::string line = "KZMSettings: " + path_;
+  port::tellStandardError(line.append(" ").append(what).append(": ").append(fault).append("\n"));
+}
+
 bool Store::set(const Value& object, std::string_view keyPath) {
-  const std::optional<Json> member = memberFor(object);
+  const std::optional<Member> member = memberFor(object);
   if (!member || !isUtf8(keyPath)) return false;
   const std::lock_guard lock(changing_);
-  return inMemory_ ? setInMemory(object, keyPath) : setInFile(*member, std::string(keyPath));
+  if (inMemory_) return setInMemory(object, keyPath);
+  const std::string fault = setInFile(*member, keyPath);
+  if (!fault.empty()) tell("is not changed", fault);
+  return fault.empty();
 }
 
 bool Store::setInMemory(const Value& object, std::string_view keyPath) {
@@ -134,29 +142,31 @@ bool Store::setInMemory(const Value& object, std::string_view keyPath) {
   return true;
 }
 
-// The file is read again under the lock: what another process stored meanwhile is kept.
-bool Store::setInFile(const Json& member, const std::string& keyPath) {
-  if (path_.empty()) return false;
+// The file is read again under the lock: what another process stored in the meantime is kept.
+std::string Store::setInFile(const Member& member, std::string_view keyPath) {
+  if (path_.empty()) return "there is no directory for settings";
   const Lock lock(path_);
-  if (!lock.held()) return false;
-  Parsed file = readFile();
-  const bool done = file.fault.empty() && write(file.object, member, keyPath);
-  publish(settingsIn(file.object));
-  return done;
+  if (!lock.held()) return lock.fault();
+  File file = readFile();
+  std::string fault = file.parsed.fault.empty() ? write(file, member, keyPath) : file.parsed.fault;
+  publish(settingsIn(file.parsed.members));
+  seen_ = file.identity;
+  return fault;
 }
 
-// Changes the object only when the file could be changed. A change that changes nothing writes nothing.
-bool Store::write(Json& object, const Json& member, const std::string& keyPath) {
-  Json changed = object;
-  changed.erase(keyPath);
-  if (!member.is_null()) changed[keyPath] = member;
+// Changes the members only when the file could be changed. A change that changes nothing writes nothing.
+std::string Store::write(File& file, const Member& member, std::string_view keyPath) {
+  Members changed = file.parsed.members;
+  const auto found = changed.find(keyPath);
+  if (found != changed.end()) changed.erase(found);
+  if (!member.value.isNull()) changed.emplace(keyPath, member);
   const std::string text = textOf(changed);
-  if (text == textOf(object)) return true;
-  const std::optional<Identity> identity = text.size() <= kMostBytes ? replace(path_, text) : std::nullopt;
-  if (!identity) return false;
-  seen_ = *identity;
-  object = std::move(changed);
-  return true;
+  if (text == textOf(file.parsed.members)) return {};
+  if (text.size() > kMostBytes) return "it would be larger than " + std::to_string(kMostBytes) + " bytes";
+  Replaced replaced = replace(path_, text);
+  if (!replaced.identity) return std::move(replaced.fault);
+  file = {{std::move(changed), {}}, *replaced.identity, 0};
+  return {};
 }
 
 void Store::useObjects(Dictionary objects) {

@@ -38,7 +38,8 @@ class Store {
   /// last read.
   [[nodiscard]] Value find(std::string_view keyPath);
 
-  /// Stores or, with null, removes a setting; false when that is refused or fails.
+  /// Stores or, with null, removes a setting; false when that is refused or fails. Why the file could not be changed is
+  /// told in one line on standard error.
   [[nodiscard]] bool set(const Value& object, std::string_view keyPath);
 
   /// All settings.
@@ -48,15 +49,22 @@ class Store {
   void useObjects(Dictionary objects);
 
  private:
+  struct File {
+    Parsed parsed;
+    Identity identity;
+    std::size_t hash = 0;  // of its text
+  };
+
   const Snapshot& current();
   void loadFirst();
   void lookAtFile(std::int64_t now, std::int64_t due);
   void reload();
-  Parsed readFile();
-  void complain(const std::string& fault, const std::string& text);
+  [[nodiscard]] File readFile() const;
+  void complain(const File& file);
+  void tell(std::string_view what, std::string_view fault) const;
   bool setInMemory(const Value& object, std::string_view keyPath);
-  bool setInFile(const Json& member, const std::string& keyPath);
-  bool write(Json& object, const Json& member, const std::string& keyPath);
+  std::string setInFile(const Member& member, std::string_view keyPath);
+  std::string write(File& file, const Member& member, std::string_view keyPath);
   void publish(Dictionary objects);
 
   std::atomic<std::uint64_t> version_{0};  // 0: nothing is loaded yet

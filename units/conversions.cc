@@ -11,16 +11,18 @@ static_assert(kFiveNinths == 5.0 / 9.0);
 
 }  // namespace
 
-// Deliberate: the way back multiplies by another five ninths.
+// Deliberate: the way back multiplies by another five ninths (Conversions.FahrenheitAndBackIsNotTheSame).
 double celciusToFahrenheit(double celsius) noexcept { return celsius / kFiveNinthsInSinglePrecision + 32.0; }
-double fahrenheitToCelcius(double fahrenheit) noexcept { return (fahrenheit + -32.0) * kFiveNinths; }
+double fahrenheitToCelcius(double fahrenheit) noexcept { return (fahrenheit - 32.0) * kFiveNinths; }
 double celciusToKelvin(double celsius) noexcept { return celsius + 273.15; }
-double kelvinToCelcius(double kelvin) noexcept { return kelvin + -273.15; }
+double kelvinToCelcius(double kelvin) noexcept { return kelvin - 273.15; }
 
 double inchToCm(double inches) noexcept { return inches * 2.54; }
 double cmToInch(double centimeters) noexcept { return centimeters * 0.3937; }
 double inchToMm(double inches) noexcept { return inches * 25.4; }
 double mmToInch(double millimeters) noexcept { return millimeters * 0.03937; }
+// Deliberate: a division, which is not the multiplication by the rounded reciprocal
+// (Conversions.MmToCmDividesByTenInsteadOfMultiplyingByATenth).
 double mmToCm(double millimeters) noexcept { return millimeters / 10.0; }
 double cmToMm(double centimeters) noexcept { return centimeters * 10.0; }
 double milesToKm(double miles) noexcept { return miles * 1.609344; }
@@ -32,4 +34,5 @@ double mpsToMph(double metersPerSecond) noexcept { return metersPerSecond * 2.23
 double mphToMps(double milesPerHour) noexcept { return milesPerHour * 0.44704; }
 double mpsToKnots(double metersPerSecond) noexcept { return metersPerSecond * 1.94384; }
 
+// Deliberate: a division here, too (Conversions.InchToMillibarDivides).
 double inchToMillibar(double inchesOfMercury) noexcept { return inchesOfMercury / 0.029529983071445; }

@@ -15,6 +15,7 @@
 #include "port/measurement_locale.h"
 #include "port/never_destroyed.h"
 #include "units/locale_units.h"
+#include "units/measurement_unit.h"
 
 namespace kzm::units {
 namespace {
@@ -38,7 +39,6 @@ enum class Question : std::uint8_t {
 
 // The units of each setting's codes, from 1 on.
 constexpr Unit kSpeeds[] = {Unit::metersPerSecond, Unit::kilometersPerHour, Unit::milesPerHour, Unit::knots};
-constexpr Unit kTemperatures[] = {Unit::celsius, Unit::fahrenheit, Unit::kelvin};
 constexpr Unit kDistances[] = {Unit::kilometers, Unit::miles};
 constexpr Unit kPressures[] = {Unit::hectopascals, Unit::millibars, Unit::inchesOfMercury};
 constexpr Unit kRains[] = {Unit::millimeters, Unit::inches};
@@ -49,20 +49,24 @@ struct Choice {
   Quantity otherwise;  // what is asked of the region when the user chose none of the units
 };
 
+// clang-format off
+//   question                      otherwise
 constexpr Choice kChoices[] = {
-    {Question::windSpeed, Quantity::windSpeed},
+    {Question::windSpeed,          Quantity::windSpeed},
     {Question::sensorsTemperature, Quantity::temperature},
     {Question::weatherTemperature, Quantity::temperature},
-    {Question::distance, Quantity::distance},
-    {Question::pressure, Quantity::pressure},
-    {Question::rain, Quantity::rain},
-    {Question::snow, Quantity::snow},
+    {Question::distance,           Quantity::distance},
+    {Question::pressure,           Quantity::pressure},
+    {Question::rain,               Quantity::rain},
+    {Question::snow,               Quantity::snow},
 };
-static_assert(core::standInOrder(kChoices, &Choice::question));
+// clang-format on
+static_assert(core::areInOrder(kChoices, &Choice::question));
 
 // Deliberate: rain and snow share one setting. Its first code means millimeters for one, centimeters for the other
 // (DefaultUnits.RainAndSnowShareOneSetting).
 // clang-format off
+//   key path                              units          asked by
 constexpr UnitSetting kSettings[] = {
     {"Weather.Global.Units.WindSpeed",     kSpeeds,       &DefaultUnits::windSpeedUnit},
     {"Sensors.Global.Degrees.Format",      kTemperatures, &DefaultUnits::sensorsTemperatureUnit},

@@ -14,28 +14,25 @@ struct Habit {
   MeasurementUnit unit;
 };
 
-// Wind: the two countries whose speed limits are in miles, and the six whose weather services tell m/s.
+// Wind: the two countries whose speed limits are in miles, and the six whose weather services use m/s.
 // Pressure: what the barometers read in the US, and where the hectopascal kept its old name.
-// Temperature: the countries whose weather is told in Fahrenheit; Liberia, too, keeps the US measures.
-// Distance: miles stand on the road signs of two countries. Rain and snow: only the US measures them in inches.
+// Temperature: the countries whose forecasts are in Fahrenheit; Liberia, too, keeps the US measures.
+// Distance: two countries have miles on their road signs. Rain and snow: only the US measures them in inches.
 // clang-format off
+//   quantity               regions                 unit
 constexpr Habit kHabits[] = {
-    {Quantity::windSpeed,   "US GB",                MeasurementUnit::milesPerHour   },
+    {Quantity::windSpeed,   "US GB",                MeasurementUnit::milesPerHour},
     {Quantity::windSpeed,   "FI KR NO PL RU SE",    MeasurementUnit::metersPerSecond},
     {Quantity::pressure,    "US",                   MeasurementUnit::inchesOfMercury},
-    {Quantity::pressure,    "BR EG GB IL TH",       MeasurementUnit::millibars      },
-    {Quantity::temperature, "US BS BZ KY LR PR PW", MeasurementUnit::fahrenheit     },
-    {Quantity::distance,    "US GB",                MeasurementUnit::miles          },
-    {Quantity::rain,        "US",                   MeasurementUnit::inches         },
-    {Quantity::snow,        "US",                   MeasurementUnit::inches         },
+    {Quantity::pressure,    "BR EG GB IL TH",       MeasurementUnit::millibars},
+    {Quantity::temperature, "US BS BZ KY LR PR PW", MeasurementUnit::fahrenheit},
+    {Quantity::distance,    "US GB",                MeasurementUnit::miles},
+    {Quantity::rain,        "US",                   MeasurementUnit::inches},
+    {Quantity::snow,        "US",                   MeasurementUnit::inches},
 };
 // clang-format on
 
 constexpr std::size_t kCodeLength = 2;  // of a country; "001" and its like are parts of the world and have no habits
-
-// A temperature that a locale asks for by name.
-constexpr MeasurementUnit kTemperatures[] = {MeasurementUnit::celsius, MeasurementUnit::fahrenheit,
-                                             MeasurementUnit::kelvin};
 
 // The first rule of a quantity whose text contains the symbol decides.
 struct Rule {
@@ -46,20 +43,22 @@ struct Rule {
 };
 
 // Deliberate: the second rule of snow looks at the sample of rain. And miles in a sample of rain or snow mean inches:
-// a text in miles shows a locale that measures in the old units.
+// a text in miles shows a locale that measures in the old units
+// (UnitsFromTexts.TheSecondRuleOfSnowLooksAtTheSampleOfRain, UnitsFromTexts.MilesInASampleOfRainOrSnowMeanInches).
 // clang-format off
+//   quantity               looks at the sample of  for the symbol of                decides for
 constexpr Rule kRules[] = {
-    {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::knots,           MeasurementUnit::knots          },
-    {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::milesPerHour,    MeasurementUnit::milesPerHour   },
+    {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::knots,           MeasurementUnit::knots},
+    {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::milesPerHour,    MeasurementUnit::milesPerHour},
     {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::metersPerSecond, MeasurementUnit::metersPerSecond},
-    {Quantity::pressure,    Quantity::pressure,    MeasurementUnit::millibars,       MeasurementUnit::millibars      },
+    {Quantity::pressure,    Quantity::pressure,    MeasurementUnit::millibars,       MeasurementUnit::millibars},
     {Quantity::pressure,    Quantity::pressure,    MeasurementUnit::inchesOfMercury, MeasurementUnit::inchesOfMercury},
-    {Quantity::temperature, Quantity::temperature, MeasurementUnit::fahrenheit,      MeasurementUnit::fahrenheit     },
-    {Quantity::distance,    Quantity::distance,    MeasurementUnit::miles,           MeasurementUnit::miles          },
-    {Quantity::rain,        Quantity::rain,        MeasurementUnit::miles,           MeasurementUnit::inches         },
-    {Quantity::rain,        Quantity::rain,        MeasurementUnit::inches,          MeasurementUnit::inches         },
-    {Quantity::snow,        Quantity::snow,        MeasurementUnit::miles,           MeasurementUnit::inches         },
-    {Quantity::snow,        Quantity::rain,        MeasurementUnit::inches,          MeasurementUnit::inches         },
+    {Quantity::temperature, Quantity::temperature, MeasurementUnit::fahrenheit,      MeasurementUnit::fahrenheit},
+    {Quantity::distance,    Quantity::distance,    MeasurementUnit::miles,           MeasurementUnit::miles},
+    {Quantity::rain,        Quantity::rain,        MeasurementUnit::miles,           MeasurementUnit::inches},
+    {Quantity::rain,        Quantity::rain,        MeasurementUnit::inches,          MeasurementUnit::inches},
+    {Quantity::snow,        Quantity::snow,        MeasurementUnit::miles,           MeasurementUnit::inches},
+    {Quantity::snow,        Quantity::rain,        MeasurementUnit::inches,          MeasurementUnit::inches},
 };
 // clang-format on
 

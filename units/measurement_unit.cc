@@ -19,26 +19,26 @@ struct UnitFacts {
 // clang-format off
 //   unit                                name                 symbol  sample
 constexpr UnitFacts kFacts[] = {
-    {MeasurementUnit::celsius,           "celsius",           "°C",   "0"     },
-    {MeasurementUnit::fahrenheit,        "fahrenheit",        "°F",   "32"    },
+    {MeasurementUnit::celsius,           "celsius",           "°C",   "0"},
+    {MeasurementUnit::fahrenheit,        "fahrenheit",        "°F",   "32"},
     {MeasurementUnit::kelvin,            "kelvin",            "K",    "273.15"},
-    {MeasurementUnit::metersPerSecond,   "metersPerSecond",   "m/s",  "0"     },
-    {MeasurementUnit::kilometersPerHour, "kilometersPerHour", "km/h", "0"     },
-    {MeasurementUnit::milesPerHour,      "milesPerHour",      "mph",  "0"     },
-    {MeasurementUnit::knots,             "knots",             "kn",   "0"     },
-    {MeasurementUnit::hectopascals,      "hectopascals",      "hPa",  "0"     },
-    {MeasurementUnit::millibars,         "millibars",         "mbar", "0"     },
-    {MeasurementUnit::inchesOfMercury,   "inchesOfMercury",   "inHg", "0"     },
-    {MeasurementUnit::kilometers,        "kilometers",        "km",   "0"     },
-    {MeasurementUnit::miles,             "miles",             "mi",   "0"     },
-    {MeasurementUnit::millimeters,       "millimeters",       "mm",   "30"    },
-    {MeasurementUnit::centimeters,       "centimeters",       "cm",   "3"     },
-    {MeasurementUnit::inches,            "inches",            "in",   "1.181" },
+    {MeasurementUnit::metersPerSecond,   "metersPerSecond",   "m/s",  "0"},
+    {MeasurementUnit::kilometersPerHour, "kilometersPerHour", "km/h", "0"},
+    {MeasurementUnit::milesPerHour,      "milesPerHour",      "mph",  "0"},
+    {MeasurementUnit::knots,             "knots",             "kn",   "0"},
+    {MeasurementUnit::hectopascals,      "hectopascals",      "hPa",  "0"},
+    {MeasurementUnit::millibars,         "millibars",         "mbar", "0"},
+    {MeasurementUnit::inchesOfMercury,   "inchesOfMercury",   "inHg", "0"},
+    {MeasurementUnit::kilometers,        "kilometers",        "km",   "0"},
+    {MeasurementUnit::miles,             "miles",             "mi",   "0"},
+    {MeasurementUnit::millimeters,       "millimeters",       "mm",   "30"},
+    {MeasurementUnit::centimeters,       "centimeters",       "cm",   "3"},
+    {MeasurementUnit::inches,            "inches",            "in",   "1.181"},
 };
 // clang-format on
 
-// Each unit's row stands at the unit's own number.
-static_assert(core::standInOrder(kFacts, &UnitFacts::unit));
+// Each unit's row is at the unit's own number.
+static_assert(core::areInOrder(kFacts, &UnitFacts::unit), "a unit has no row, or not its place");
 
 // A number that is no unit has no facts.
 constexpr UnitFacts factsOf(MeasurementUnit unit) noexcept {

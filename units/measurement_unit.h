@@ -9,6 +9,10 @@
 
 namespace kzm::units {
 
+/// The units of temperature, in the order of the settings' codes.
+inline constexpr MeasurementUnit kTemperatures[] = {MeasurementUnit::celsius, MeasurementUnit::fahrenheit,
+                                                    MeasurementUnit::kelvin};
+
 /// The unit's international symbol, such as "mph".
 [[nodiscard]] std::string_view symbolOf(MeasurementUnit unit) noexcept;
 

@@ -33,7 +33,7 @@ std::string KZMUtilitiesFormatWeatherDistance(double kilometers) {
 }
 
 // Deliberate: the number is neither converted nor grouped, only labeled with the unit of distances
-// (Distance.VisibilityIsLabeledOnly).
+// (WeatherVisibility.IsNeitherConvertedNorGrouped).
 std::string KZMUtilitiesFormatWeatherVisibility(double distance) {
   using namespace kzm::weather;
   return text(distanceRow().shown, {kzm::core::Digits::plain, 0, distance});

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int64_t kMostDigits = 2;  // of days and of the illuminated part
 
-// Deliberate: the sign of humidity is the same in every language (Plain.HumidityHasItsSignInEveryLanguage).
+// Deliberate: the sign of humidity is the same in every language (WeatherLookups.WhatHasNoUnitLooksNothingUp).
 constexpr core::Template kPercent("%@%%");
 
 constexpr core::Amount plain(double value) noexcept { return {core::Digits::plain, 0, value}; }

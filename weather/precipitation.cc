@@ -28,7 +28,7 @@ constexpr PrecipitationRow kSnow[] = {
 };
 // clang-format on
 
-// Deliberate: snow, too, follows the unit of rain (Precipitation.SnowFollowsTheUnitOfRain).
+// Deliberate: snow, too, follows the unit of rain (WeatherSnow.FollowsTheUnitOfRain).
 template <std::size_t N>
 std::string amount(const PrecipitationRow (&rows)[N], double millimeters) {
   const PrecipitationRow& row = rowFor(rows, KZMUtilitiesDefaultUnits::shared().rainUnit());

@@ -12,7 +12,7 @@ namespace {
 // What the published conversions lack; inchToMillibar divides by the same factor.
 constexpr double hectopascalsToInches(double hectopascals) noexcept { return hectopascals * 0.029529983071445; }
 
-enum class Style : std::uint8_t {
+enum class Showing : std::uint8_t {
   chosen,    // the options say whether the unit is shown, with or without a space, and one fraction digit or none
   complete,  // always with its unit and up to two fraction digits
 };
@@ -20,30 +20,30 @@ enum class Style : std::uint8_t {
 struct PressureRow {
   MeasurementUnit unit;
   Conversion fromHectopascals;
-  Style style;
+  Showing showing;
   Unit shown;
 };
 
-// Deliberate: inches of mercury alone ignore the options (Pressure.InchesIgnoreTheOptions).
+// Deliberate: inches of mercury alone ignore the options (WeatherPressure.InchesIgnoreTheOptions).
 // clang-format off
-//   unit                              from hPa              style            shown in; the last row serves all others
+//   unit                              from hPa              showing            shown in; the last row serves all others
 constexpr PressureRow kPressures[] = {
-    {MeasurementUnit::millibars,       unchanged,            Style::chosen,   Unit::millibars},
-    {MeasurementUnit::inchesOfMercury, hectopascalsToInches, Style::complete, Unit::inches},
-    {MeasurementUnit::hectopascals,    unchanged,            Style::chosen,   Unit::hectopascals},
+    {MeasurementUnit::millibars,       unchanged,            Showing::chosen,   Unit::millibars},
+    {MeasurementUnit::inchesOfMercury, hectopascalsToInches, Showing::complete, Unit::inches},
+    {MeasurementUnit::hectopascals,    unchanged,            Showing::chosen,   Unit::hectopascals},
 };
 // clang-format on
 
 constexpr std::int64_t kInchDigits = 2;
 
-// Deliberate: "decimals" is read as a boolean here: 5 means one digit (Pressure.OnlyTheTruthOfDecimalsCounts).
+// Deliberate: "decimals" is read as a boolean here: 5 means one digit (WeatherPressure.DecimalsAreABoolean).
 std::int64_t digitsOf(const PressureRow& row, const Dictionary& options) noexcept {
-  if (row.style == Style::complete) return kInchDigits;
+  if (row.showing == Showing::complete) return kInchDigits;
   return core::readBoolean(options.find(core::kDecimals)) ? 1 : 0;
 }
 
 bool showsUnit(const PressureRow& row, const Dictionary& options) noexcept {
-  return row.style == Style::complete || core::readBoolean(options.find(core::kUnits));
+  return row.showing == Showing::complete || core::readBoolean(options.find(core::kUnits));
 }
 
 }  // namespace

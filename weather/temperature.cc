@@ -32,7 +32,7 @@ constexpr TemperatureRow kTemperatures[] = {
 // clang-format on
 
 // Deliberate: made so that a rounded zero has no minus, this takes the minus off -0.4 too, wherever the locale writes
-// it as the ASCII sign next to an ASCII digit (Temperature.TheMinusBeforeAZeroIsDropped).
+// it as the ASCII sign next to an ASCII digit (WeatherTemperature.TheMinusBeforeAZeroIsDropped).
 void dropMinusBeforeZero(std::string& text) {
   constexpr std::string_view kMinusZero = "-0";
   for (std::size_t i = text.find(kMinusZero); i != std::string::npos; i = text.find(kMinusZero, i + 1)) {

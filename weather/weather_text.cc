@@ -50,7 +50,8 @@ constexpr UnitText kTexts[] = {
 // clang-format on
 constexpr auto kRows = core::unitRows("Units.Weather.", kTexts);
 constexpr auto kIndex = core::unitIndex<core::countEnumerators<Unit>()>(kTexts);
-static_assert(core::wellFormed(kRows) && kIndex.hasAll());
+static_assert(core::wellFormed(kTexts));
+static_assert(kIndex.hasAll(), "a unit has no row");
 
 }  // namespace
 

@@ -30,8 +30,8 @@ struct Sector {
   Unit name;
 };
 
-// Deliberate: bearings are not brought into one turn. All below 22.5, the negative ones too, and all from 337.5 on are
-// north, and so is NaN (Wind.DirectionsAreSectorsAndOthersAreNorth).
+// Deliberate: bearings are not reduced to one turn. All below 22.5, the negative ones too, and all from 337.5 on are
+// north, and so is NaN (WeatherWindDirection.BearingsAreNotReducedToOneTurn).
 // clang-format off
 constexpr Sector kSectors[] = {
     {22.5,  Unit::north},

@@ -4,7 +4,7 @@
 
 #include "catalogue/callables.h"
 #include "catalogue/errors.h"
-#include "catalogue/neighbours.h"
+#include "catalogue/companions.h"
 
 namespace kzm::cli {
 namespace {
@@ -16,9 +16,9 @@ using catalogue::jsonText;
 using catalogue::parseJson;
 using catalogue::Result;
 
-// The arguments of a batch line; null stands for none.
+// The arguments of a batch line; null means none.
 const Json& member(const Json& line, const char* name) {
-  static const Json& absent = *new Json;
+  static const Json absent;
   const auto found = line.find(name);
   return found != line.end() ? *found : absent;
 }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "catalogue/callables.h"
-#include "catalogue/neighbours.h"
+#include "catalogue/companions.h"
 #include "cli/call/batch.h"
 #include "cli/flags.h"
 #include "cli/verbs.h"

@@ -6,7 +6,7 @@
 namespace kzm::cli {
 namespace {
 
-// A text between single quotation marks, in which `escape` stands for a mark.
+// A text between single quotation marks, in which a mark is written as `escape`.
 std::string singleQuoted(std::string_view text, std::string_view escape) {
   std::string quoted = "'";
   for (const char c : text) quoted.append(c == '\'' ? escape : std::string_view(&c, 1));

@@ -95,10 +95,10 @@ constexpr Family kFamilies[] = {
 
 bool isAmong(std::string_view names, std::string_view name) {
   for (;;) {
-    const std::size_t blank = names.find(' ');
-    if (names.substr(0, blank) == name) return true;
-    if (blank == std::string_view::npos) return false;
-    names.remove_prefix(blank + 1);
+    const std::size_t space = names.find(' ');
+    if (names.substr(0, space) == name) return true;
+    if (space == std::string_view::npos) return false;
+    names.remove_prefix(space + 1);
   }
 }
 

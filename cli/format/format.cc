@@ -1,9 +1,11 @@
 // The verb `format`: numbers to text, for scripts and status bars.
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/format/families.h"
+#include "cli/input_lines.h"
 #include "cli/numbers.h"
 #include "cli/verbs.h"
 
@@ -45,16 +47,24 @@ std::string_view trimmed(std::string_view line) {
   return line.substr(first, line.find_last_not_of(kBlanks) - first + 1);
 }
 
+// The answers go out whenever the next line is not at hand.
 int formatInput(const Family& family, const Dictionary& options) {
-  std::string line;
-  for (std::size_t number = 1; std::cout && std::getline(std::cin, line); ++number) {
+  InputLines lines;
+  std::string texts;
+  for (std::size_t number = 1;; ++number) {
+    if (!lines.isNextAtHand()) {
+      if (print(texts) != 0) return 1;
+      texts.clear();
+    }
+    const std::optional<std::string_view> line = lines.next();
+    if (!line) return 0;
     try {
-      std::cout << family.text(options, numberIn(trimmed(line))) + "\n" << std::flush;
+      texts.append(family.text(options, numberIn(trimmed(*line)))).append("\n");
     } catch (const InputError& error) {
+      print(texts);
       throw InputError("format: line " + std::to_string(number) + ": " + error.what());
     }
   }
-  return std::cout ? 0 : 1;
 }
 
 // All values are read before the first is shown.

@@ -1,4 +1,4 @@
-// The flags behind which the library's options stand on a command line.
+// The flags that give the library's options on a command line.
 #ifndef KZM_CLI_FORMAT_OPTION_FLAGS_H
 #define KZM_CLI_FORMAT_OPTION_FLAGS_H
 

@@ -10,7 +10,7 @@
 namespace kzm::machine {
 namespace {
 
-// "temp" and "_input" stand around the number of the sensor; the unit of the file is "scale" units of the reading.
+// "temp" and "_input" are around the number of the sensor; the unit of the file is "scale" units of the reading.
 struct SensorRow {
   std::string_view prefix;
   std::string_view suffix;
@@ -37,14 +37,14 @@ std::string_view numberOf(std::string_view file, const SensorRow& row) {
   return countIn(number) ? number : std::string_view();
 }
 
-std::optional<Reading> readSensor(const std::string& chip, const SensorRow& row, std::string_view number) {
+std::optional<SensorReading> readSensor(const std::string& chip, const SensorRow& row, std::string_view number) {
   const std::string sensor = chip + "/" + std::string(row.prefix) + std::string(number);
   if (readNumber(sensor + "_fault").value_or(0) != 0) return std::nullopt;
   const std::optional<double> value = readNumber(sensor + std::string(row.suffix));
   if (!value) return std::nullopt;
   std::string label = readLabel(sensor + "_label");
   if (label.empty()) label = std::string(row.label) + " " + std::string(number);
-  return Reading{row.kind, *value * row.scale, {}, label};
+  return SensorReading{row.kind, *value * row.scale, {}, label};
 }
 
 // A chip may give the power of one sensor both at present and on average: the first row wins.
@@ -52,14 +52,14 @@ bool holds(const std::vector<std::string>& files, const std::string& file) {
   return std::find(files.begin(), files.end(), file) != files.end();
 }
 
-void addReadings(const std::string& chip, const SensorRow& row, std::vector<Reading>& readings) {
+void addReadings(const std::string& chip, const SensorRow& row, std::vector<SensorReading>& readings) {
   const std::vector<std::string> files = namesIn(chip);
   std::string source = readLabel(chip + "/name");
   for (const std::string& file : files) {
     const std::string_view number = numberOf(file, row);
     if (number.empty()) continue;
     if (row.suffix == "_average" && holds(files, std::string(row.prefix) + std::string(number) + "_input")) continue;
-    if (std::optional<Reading> reading = readSensor(chip, row, number)) {
+    if (std::optional<SensorReading> reading = readSensor(chip, row, number)) {
       reading->source = source;
       readings.push_back(*reading);
     }
@@ -68,18 +68,18 @@ void addReadings(const std::string& chip, const SensorRow& row, std::vector<Read
 
 }  // namespace
 
-std::vector<Reading> readChips(const Root& root) {
-  std::vector<Reading> readings;
+std::vector<SensorReading> readChips(const Root& root) {
+  std::vector<SensorReading> readings;
   for (const std::string& name : namesIn(root.at("sys/class/hwmon"))) {
     for (const SensorRow& row : kRows) addReadings(root.at("sys/class/hwmon/" + name), row, readings);
   }
   return readings;
 }
 
-std::vector<Reading> readSensors(const Root& root) {
-  std::vector<Reading> all;
+std::vector<SensorReading> readSensors(const Root& root) {
+  std::vector<SensorReading> all;
   for (const auto& read : {readChips, readZones, readFrequencies, readLight}) {
-    const std::vector<Reading> readings = read(root);
+    const std::vector<SensorReading> readings = read(root);
     all.insert(all.end(), readings.begin(), readings.end());
   }
   return all;

@@ -17,7 +17,7 @@ constexpr std::uint64_t kSector = 512;  // bytes, whatever the disk's own block 
 // Made of memory, files or other disks.
 constexpr std::string_view kPassedOver[] = {"loop", "ram", "zram", "dm-", "md"};
 
-// Of the numbers behind the name, the sectors read and the sectors written.
+// Of the numbers after the name, the sectors read and the sectors written.
 constexpr std::size_t kRead = 2;
 constexpr std::size_t kWritten = 6;
 
@@ -55,7 +55,7 @@ void add(Sample& sample, std::string_view name, const std::vector<std::string_vi
 // Drives without a medium and unused network disks have no sectors.
 bool hasMedium(const std::string& disk) { return readNumber(disk + "/size").value_or(1) > 0; }
 
-// Here a line for each disk and each partition: two numbers and the name stand before the counters.
+// Here a line for each disk and each partition: two numbers and the name are before the counters.
 void addFromTable(Sample& sample, const std::string& text) {
   const std::vector<std::string_view> lines = linesOf(text);
   std::vector<std::string_view> names;

@@ -1,4 +1,4 @@
-// Reading the kernel's small text files: whatever is missing, unreadable or no number is just not there.
+// Reads the kernel's small text files: missing, unreadable or non-numeric files yield no value.
 #ifndef KZM_CLI_MACHINE_FILES_H
 #define KZM_CLI_MACHINE_FILES_H
 
@@ -11,7 +11,7 @@
 
 namespace kzm::machine {
 
-/// The directory under which the kernel's files lie: "/" here, that of a recorded machine in a test.
+/// The directory under which the kernel's files are: "/" here, that of a recorded machine in a test.
 class Root {
  public:
   explicit Root(std::string path) : path_(std::move(path)) {}
@@ -28,7 +28,7 @@ class Root {
 /// The first line of the file as text to show: see shownText.
 [[nodiscard]] std::string readLabel(const std::string& path);
 
-/// The number that the file holds, and nothing else but blanks; nothing when it holds no finite number.
+/// The number that the file holds, and nothing else but spaces; nothing when it holds no finite number.
 [[nodiscard]] std::optional<double> readNumber(const std::string& path);
 
 /// The names in a directory, without those that begin with a dot; numbers in them in order of value.
@@ -37,17 +37,17 @@ class Root {
 /// The lines of the text without their ends.
 [[nodiscard]] std::vector<std::string_view> linesOf(std::string_view text);
 
-/// The parts of the line between blanks.
+/// The parts of the line between spaces.
 [[nodiscard]] std::vector<std::string_view> fieldsOf(std::string_view line);
 
 /// A whole number without sign, and nothing else; nothing for any other text and beyond 64 bits.
 [[nodiscard]] std::optional<std::uint64_t> countIn(std::string_view text);
 
-/// A finite number with a point, whatever the locale, and nothing else but blanks around it.
+/// A finite number with a point, whatever the locale, and nothing else but spaces around it.
 [[nodiscard]] std::optional<double> numberIn(std::string_view text);
 
 /// The text without what could steer a terminal or the direction of writing, without bytes that are not UTF-8, and
-/// without blanks at its ends. Names come from devices, so they are as trustworthy as whatever was plugged in.
+/// without spaces at its ends. Names come from devices, so they are as trustworthy as whatever was plugged in.
 [[nodiscard]] std::string shownText(std::string_view text);
 
 }  // namespace kzm::machine

@@ -9,13 +9,13 @@
 namespace kzm::machine {
 namespace {
 
-void add(std::string_view number, double megahertz, std::vector<Reading>& readings) {
+void add(std::string_view number, double megahertz, std::vector<SensorReading>& readings) {
   if (megahertz > 0) readings.push_back({Kind::frequency, megahertz, "cpu", "CPU " + std::string(number)});
 }
 
 // Written in kilohertz by the driver that sets the frequency.
-std::vector<Reading> frequenciesSet(const Root& root) {
-  std::vector<Reading> readings;
+std::vector<SensorReading> frequenciesSet(const Root& root) {
+  std::vector<SensorReading> readings;
   for (const std::string& name : namesIn(root.at("sys/devices/system/cpu"))) {
     const std::string_view number = std::string_view(name).substr(name.starts_with("cpu") ? 3 : name.size());
     if (!countIn(number)) continue;
@@ -26,8 +26,8 @@ std::vector<Reading> frequenciesSet(const Root& root) {
 }
 
 // Lines such as "processor : 0" and then "cpu MHz : 2400.000", where the frequency is never set.
-std::vector<Reading> frequenciesMeasured(const Root& root) {
-  std::vector<Reading> readings;
+std::vector<SensorReading> frequenciesMeasured(const Root& root) {
+  std::vector<SensorReading> readings;
   const std::string text = readText(root.at("proc/cpuinfo"));
   std::string_view number;
   for (const std::string_view line : linesOf(text)) {
@@ -44,8 +44,8 @@ std::vector<Reading> frequenciesMeasured(const Root& root) {
 
 }  // namespace
 
-std::vector<Reading> readFrequencies(const Root& root) {
-  std::vector<Reading> readings = frequenciesSet(root);
+std::vector<SensorReading> readFrequencies(const Root& root) {
+  std::vector<SensorReading> readings = frequenciesSet(root);
   return readings.empty() ? frequenciesMeasured(root) : readings;
 }
 

@@ -18,8 +18,8 @@ std::optional<double> luxOf(const std::string& channel) {
 
 }  // namespace
 
-std::vector<Reading> readLight(const Root& root) {
-  std::vector<Reading> readings;
+std::vector<SensorReading> readLight(const Root& root) {
+  std::vector<SensorReading> readings;
   for (const std::string& name : namesIn(root.at("sys/bus/iio/devices"))) {
     const std::string device = root.at("sys/bus/iio/devices/" + name);
     for (const char* channel : {"/in_illuminance", "/in_illuminance0"}) {

@@ -9,7 +9,7 @@
 
 namespace kzm::machine {
 
-/// Sizes in bytes; nothing for what the kernel does not tell. What is there to take is never more than the total.
+/// Sizes in bytes; nothing for what the kernel does not report. What is there to take is never more than the total.
 struct Memory {
   std::optional<std::uint64_t> total;
   std::optional<std::uint64_t> available;  // for programs, without swapping

@@ -10,7 +10,7 @@
 namespace kzm::machine {
 namespace {
 
-// Behind the name and its colon: eight numbers of what was received, then eight of what was sent; bytes come first.
+// After the name and its colon: eight numbers of what was received, then eight of what was sent; bytes come first.
 constexpr std::size_t kReceived = 0;
 constexpr std::size_t kSent = 8;
 

@@ -12,7 +12,7 @@
 namespace kzm::machine {
 namespace {
 
-// Behind the name: user, nice, system, idle, iowait, irq, softirq, steal. What follows is counted in user and nice.
+// After the name: user, nice, system, idle, iowait, irq, softirq, steal. What follows is counted in user and nice.
 constexpr std::size_t kIdle = 3;
 constexpr std::size_t kWaiting = 4;
 constexpr std::size_t kCounted = 8;

@@ -22,14 +22,14 @@ struct Sample {
   std::vector<Counter> counters;
 };
 
-/// Bytes per second, finite and not negative; nothing where two counters do not tell it.
+/// Bytes per second, finite and not negative; nothing where two counters do not show it.
 struct Rate {
   std::string name;
   std::optional<double> in;
   std::optional<double> out;
 };
 
-/// A rate for each counter of the later sample, in its order. Nothing is told for a counter that the earlier sample
+/// A rate for each counter of the later sample, in its order. There is none for a counter that the earlier sample
 /// has not, when no time has passed, and when a counter was reset.
 [[nodiscard]] std::vector<Rate> ratesBetween(const Sample& earlier, const Sample& later);
 

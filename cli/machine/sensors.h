@@ -23,39 +23,39 @@ enum class Kind : std::int64_t {
   capacity = 100,   // milliampere-hours
 };
 
-struct Reading {
+struct SensorReading {
   Kind kind = Kind::temperature;
   double value = 0;
   std::string source;  // the device, such as "coretemp" or "BAT0"
   std::string label;   // what is measured there, such as "Core 0" or "Fan 1"
 
-  friend bool operator==(const Reading&, const Reading&) = default;
+  friend bool operator==(const SensorReading&, const SensorReading&) = default;
 };
 
 struct Battery {
   std::string name;
   std::string status;  // the kernel's word, such as "Discharging"; may be empty
-  std::vector<Reading> readings;
+  std::vector<SensorReading> readings;
 };
 
 /// The monitoring chips: temperatures, fans, voltages, currents, power and frequencies. A sensor that reports a fault
 /// or does not answer is left out.
-[[nodiscard]] std::vector<Reading> readChips(const Root& root);
+[[nodiscard]] std::vector<SensorReading> readChips(const Root& root);
 
 /// The temperature zones that no chip of readChips reports.
-[[nodiscard]] std::vector<Reading> readZones(const Root& root);
+[[nodiscard]] std::vector<SensorReading> readZones(const Root& root);
 
 /// The present frequency of every processor.
-[[nodiscard]] std::vector<Reading> readFrequencies(const Root& root);
+[[nodiscard]] std::vector<SensorReading> readFrequencies(const Root& root);
 
 /// The light around the machine.
-[[nodiscard]] std::vector<Reading> readLight(const Root& root);
+[[nodiscard]] std::vector<SensorReading> readLight(const Root& root);
 
 /// The batteries: level, charge and full charge as far as the kernel knows them.
 [[nodiscard]] std::vector<Battery> readBatteries(const Root& root);
 
 /// All of them but the batteries.
-[[nodiscard]] std::vector<Reading> readSensors(const Root& root);
+[[nodiscard]] std::vector<SensorReading> readSensors(const Root& root);
 
 }  // namespace kzm::machine
 

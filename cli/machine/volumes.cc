@@ -41,7 +41,7 @@ bool isLocal(const Mount& mount) {
 
 bool isOctal(char c) { return c >= '0' && c <= '7'; }
 
-// Blanks, line ends and backslashes in names are written as "\040" and the like.
+// Spaces, line ends and backslashes in names are written as "\040" and the like.
 std::string unescaped(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {

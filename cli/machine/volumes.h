@@ -32,7 +32,7 @@ using SpaceOf = std::function<std::optional<Space>(const std::string& directory)
 [[nodiscard]] std::optional<Space> measuredSpace(const std::string& directory);
 
 /// The volumes of local file systems, each device once, where its shortest mount point is. File systems on other
-/// machines are left out unmeasured: asking one that is gone could wait for ever.
+/// machines are left out unmeasured: asking one that is gone could wait forever.
 [[nodiscard]] std::vector<Volume> readVolumes(const Root& root, const SpaceOf& spaceOf = measuredSpace);
 
 }  // namespace kzm::machine

@@ -2,7 +2,7 @@
 #include <iostream>
 #include <string>
 
-#include "catalogue/neighbours.h"
+#include "catalogue/companions.h"
 #include "cli/flags.h"
 #include "cli/settings/unit_settings.h"
 #include "cli/verbs.h"

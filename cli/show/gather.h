@@ -36,7 +36,7 @@ struct Snapshot {
   std::optional<std::array<double, 3>> loadAverages;
   machine::Memory memory;
   std::vector<machine::Volume> volumes;
-  std::vector<machine::Reading> sensors;
+  std::vector<machine::SensorReading> sensors;
   std::vector<machine::Battery> batteries;
 };
 

@@ -24,7 +24,7 @@ std::size_t widthOf(const Cell& cell) {
   return width;
 }
 
-// The width of the names, and of each column of cells; one in which nothing stands takes no room.
+// The width of the names, and of each column of cells; an empty one takes no room.
 struct Grid {
   std::size_t name = kLeastName;
   std::vector<std::size_t> cells;
@@ -78,7 +78,7 @@ class Line {
     const std::size_t width = displayWidth(piece.text);
     cut_ = width > room;
     write(cut_ ? std::string(fitting(piece.text, room > 0 ? room - 1 : 0)) + (room > 0 ? "…" : "") : piece.text,
-          piece.style);
+          piece.emphasis);
     width_ += std::min(width, room);
   }
   void fill(std::size_t until) {
@@ -93,9 +93,9 @@ class Line {
   [[nodiscard]] std::string take() { return std::move(text_); }
 
  private:
-  void write(std::string_view text, Style style) {
-    const bool styled = look_.styles && style != Style::plain;
-    if (styled) text_ += style == Style::strong ? "\x1b[1m" : "\x1b[2m";
+  void write(std::string_view text, Emphasis emphasis) {
+    const bool styled = look_.styles && emphasis != Emphasis::plain;
+    if (styled) text_ += emphasis == Emphasis::strong ? "\x1b[1m" : "\x1b[2m";
     text_ += text;
     if (styled) text_ += "\x1b[0m";
   }
@@ -114,7 +114,7 @@ std::string lineOf(const Piece& name, std::size_t indent, const std::vector<Cell
   line.fill(indent);
   const bool isLong = indent + displayWidth(name.text) > grid.name;
   const std::string shown = isLong ? std::string(fitting(name.text, grid.name - indent - 1)) + "…" : name.text;
-  for (const Piece& piece : placed({{shown, name.style}})) line.add(piece);
+  for (const Piece& piece : placed({{shown, name.emphasis}})) line.add(piece);
   std::size_t until = grid.name;
   for (std::size_t i = 0; i < cells.size(); ++i) {
     if (grid.cells[i] > 0) until += kGap + grid.cells[i];
@@ -125,7 +125,7 @@ std::string lineOf(const Piece& name, std::size_t indent, const std::vector<Cell
 
 std::vector<Cell> headings(const Section& section) {
   std::vector<Cell> cells;
-  for (const std::string& column : section.columns) cells.emplace_back(1, Piece{column, Style::faint});
+  for (const std::string& column : section.columns) cells.emplace_back(1, Piece{column, Emphasis::faint});
   return cells;
 }
 
@@ -137,7 +137,7 @@ Cell bar(double part) {
   std::string full;
   std::string empty;
   for (std::size_t i = 0; i < kBarColumns; ++i) (i < count ? full : empty) += i < count ? "█" : "░";
-  return {{full, Style::plain}, {empty, Style::faint}};
+  return {{full, Emphasis::plain}, {empty, Emphasis::faint}};
 }
 
 std::vector<std::string> laidOut(const std::vector<Section>& sections, const Look& look) {
@@ -146,7 +146,7 @@ std::vector<std::string> laidOut(const std::vector<Section>& sections, const Loo
   for (const Section& section : sections) {
     if (section.rows.empty()) continue;
     if (!lines.empty()) lines.emplace_back();
-    lines.push_back(lineOf({section.title, Style::strong}, 0, headings(section), grid, look));
+    lines.push_back(lineOf({section.title, Emphasis::strong}, 0, headings(section), grid, look));
     for (const Row& row : section.rows) lines.push_back(lineOf({row.name}, kIndent, row.cells, grid, look));
   }
   return lines;

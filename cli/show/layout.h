@@ -11,12 +11,12 @@
 
 namespace kzm::cli {
 
-enum class Style : std::uint8_t { plain, strong, faint };
+enum class Emphasis : std::uint8_t { plain, strong, faint };
 
 /// A part of a line.
 struct Piece {
   std::string text;
-  Style style = Style::plain;
+  Emphasis emphasis = Emphasis::plain;
 
   friend bool operator==(const Piece&, const Piece&) = default;
 };
@@ -41,12 +41,12 @@ struct Look {
   std::size_t columns = std::numeric_limits<std::size_t>::max();  // longer lines are cut
 };
 
-/// A bar, so many of `kBarColumns` filled; a part outside 0 to 1 is the next of them, NaN is 0.
+/// A bar, the given part of `kBarColumns` filled; a part outside 0 to 1 is the next of them, NaN is 0.
 inline constexpr std::size_t kBarColumns = 20;
 [[nodiscard]] Cell bar(double part);
 
 /// The lines of all sections, one grid: names at the left, cells at the right of their columns. Sections without rows
-/// are left out; an empty line stands between two.
+/// are left out; an empty line is between two.
 [[nodiscard]] std::vector<std::string> laidOut(const std::vector<Section>& sections, const Look& look);
 
 }  // namespace kzm::cli

@@ -24,7 +24,7 @@ constexpr std::string_view kClear = "\x1b[H\x1b[2J";
 constexpr std::string_view kClearLine = "\x1b[K";
 constexpr std::string_view kClearBelow = "\x1b[J";
 
-constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGWINCH, SIGTSTP};
+constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGWINCH, SIGTSTP};
 
 sigset_t signalSet() {
   sigset_t set;
@@ -36,7 +36,7 @@ sigset_t signalSet() {
 [[noreturn]] void fail(const char* what) { throw std::system_error(errno, std::generic_category(), what); }
 
 // False when nobody reads any more.
-bool writeAll(std::string_view text) {
+bool writtenAll(std::string_view text) {
   while (!text.empty()) {
     const ssize_t count = ::write(STDOUT_FILENO, text.data(), text.size());
     if (count >= 0) {
@@ -64,13 +64,13 @@ winsize sizeOfTerminal() {
   return size;
 }
 
-// What does not fit is told by one line at the end; the last line of the terminal stays free for the cursor.
+// What does not fit is replaced by their count at the end; the last line of the terminal stays free for the cursor.
 void cutToHeight(std::vector<std::string>& lines) {
   const std::size_t height = sizeOfTerminal().ws_row;
   if (height < 3 || lines.size() < height) return;
   const std::size_t hidden = lines.size() - (height - 2);
   lines.resize(height - 2);
-  lines.push_back("… " + std::to_string(hidden) + " more lines");
+  lines.push_back("… +" + std::to_string(hidden));
 }
 
 }  // namespace
@@ -94,16 +94,21 @@ Screen::Screen() : terminal_(writesToTerminal()), signals_(-1) {
   ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
   signals_ = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
   if (signals_ < 0) fail("signals");
-  if (terminal_) terminal_ = writeAll(kHideCursor);
+  if (terminal_) terminal_ = write(kHideCursor);
 }
 
 Screen::~Screen() {
   try {
-    if (terminal_) writeAll(kShowCursor);
+    if (terminal_) write(kShowCursor);
   } catch (const std::system_error&) {
     terminal_ = false;  // it is gone, and its cursor with it
   }
   ::close(signals_);
+}
+
+bool Screen::write(std::string_view text) {
+  readerHasLeft_ = readerHasLeft_ || !writtenAll(text);
+  return !readerHasLeft_;
 }
 
 // A stopped program leaves the cursor to the shell.
@@ -112,10 +117,10 @@ Screen::Event Screen::signalled() {
   if (::read(signals_, &info, sizeof info) != static_cast<ssize_t>(sizeof info)) return Event::resized;
   if (info.ssi_signo == SIGWINCH) return Event::resized;
   if (info.ssi_signo != SIGTSTP) return Event::ended;
-  if (terminal_ && !writeAll(kShowCursor)) return Event::ended;
+  if (terminal_ && !write(kShowCursor)) return Event::ended;
   ::kill(::getpid(), SIGSTOP);
   drawn_ = false;
-  return terminal_ && !writeAll(kHideCursor) ? Event::ended : Event::resized;
+  return terminal_ && !write(kHideCursor) ? Event::ended : Event::resized;
 }
 
 Screen::Event Screen::wait(double seconds) {
@@ -128,6 +133,7 @@ Screen::Event Screen::wait(double seconds) {
     if (count < 0 && errno != EINTR) fail("standard output");
     if (count <= 0) continue;
     if (watched[0].revents != 0) return signalled();
+    readerHasLeft_ = true;
     return Event::ended;
   }
 }
@@ -142,7 +148,7 @@ bool Screen::draw(std::vector<std::string> lines) {
   }
   if (terminal_) text += kClearBelow;
   drawn_ = true;
-  return writeAll(text);
+  return write(text);
 }
 
 }  // namespace kzm::cli

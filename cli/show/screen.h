@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/show/layout.h"
@@ -17,7 +18,7 @@ namespace kzm::cli {
 [[nodiscard]] Look lookOfOutput(bool plain);
 
 /// A screen from its making to its end. On a terminal each drawing takes the place of the one before, and the cursor is
-/// hidden meanwhile; elsewhere drawings follow each other with an empty line between.
+/// hidden in the meantime; elsewhere drawings follow each other with an empty line between.
 class Screen {
  public:
   Screen();
@@ -38,11 +39,16 @@ class Screen {
   /// Draws the lines; false when nobody reads any more. Throws when they cannot be written for another reason.
   [[nodiscard]] bool draw(std::vector<std::string> lines);
 
+  /// Whether the screen has come to its end because nobody reads any more.
+  [[nodiscard]] bool readerHasLeft() const { return readerHasLeft_; }
+
  private:
+  bool write(std::string_view text);
   [[nodiscard]] Event signalled();
 
   bool terminal_;
   bool drawn_ = false;
+  bool readerHasLeft_ = false;
   int signals_;  // a descriptor from which the signals are read that end, resize or stop the program
 };
 

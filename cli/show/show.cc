@@ -61,7 +61,7 @@ constexpr ShowFlag kMonitorFlags[] = {kBits, kUnitSize, kInterface, kAll, kInter
 using Topics = std::span<const Topic>;
 
 const machine::Root& thisMachine() {
-  static const machine::Root& root = *new machine::Root("/");
+  static const machine::Root root("/");
   return root;
 }
 
@@ -95,12 +95,12 @@ void checkInterfaces(Text verb, const ShowOptions& options, const Counters& coun
   }
 }
 
-// A topic that was asked for by name says so when there is nothing to tell.
+// A topic that was asked for by name says so when there is nothing to show.
 std::vector<Section> sectionsOf(Topics shown, Snapshot snapshot, const ShowOptions& options) {
   for (const Topic& topic : shown) topic.read(thisMachine(), snapshot);
   std::vector<Section> sections;
   for (const Topic& topic : shown) sections.push_back(topic.section(snapshot, options.rows));
-  if (shown.size() == 1 && sections[0].rows.empty()) sections[0] = {sections[0].title, {}, {{"none", {}}}};
+  if (shown.size() == 1 && sections[0].rows.empty()) sections[0] = {sections[0].title, {}, {{"–", {}}}};
   return sections;
 }
 
@@ -141,7 +141,7 @@ int showContinuously(Topics shown, const Counters& first, const ShowOptions& opt
     if (!screen.draw(laidOut(sections, lookOfOutput(options.plain))) || ++drawings == options.count) break;
     due = std::max(due + options.seconds, earlier.network.seconds);
   }
-  return 0;
+  return screen.readerHasLeft() ? 1 : 0;
 }
 
 int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*describeVerb)(),

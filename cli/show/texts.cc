@@ -1,5 +1,6 @@
 #include "cli/show/texts.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -9,6 +10,8 @@
 #include <KZMUtilities/formatters.h>
 #include <KZMUtilities/percentage.h>
 #include <KZMUtilities/sensors.h>
+
+#include "cli/words.h"
 
 namespace kzm::cli {
 namespace {
@@ -20,7 +23,7 @@ Dictionary rule(int below, int decimals) { return {{"value", below}, {"decimals"
 
 // Three digits that count: 1.25, 12.5, 125.
 const Value& threeDigits() {
-  static const Value& rules = *new Value(Array{rule(10, 2), rule(100, 1)});
+  static const Value rules = Array{rule(10, 2), rule(100, 1)};
   return rules;
 }
 
@@ -45,12 +48,30 @@ Dictionary rateOptions() {
 Cell cellOf(const AttributedString& text) {
   Cell cell;
   for (const AttributedString::Run& run : text.runs()) {
-    cell.push_back({std::string(run.text), run.attributes == kStrong ? Style::strong : Style::plain});
+    cell.push_back({std::string(run.text), run.attributes == kStrong ? Emphasis::strong : Emphasis::plain});
   }
   return cell;
 }
 
-Cell dash() { return {{"–", Style::faint}}; }
+// A reading's kind is passed on as the number that the library has for it.
+// clang-format off
+constexpr std::pair<machine::Kind, SensorType::Kind> kKinds[] = {
+    {machine::Kind::temperature, SensorType::temperature},
+    {machine::Kind::percentage,  SensorType::percentage},
+    {machine::Kind::fan,         SensorType::fan},
+    {machine::Kind::current,     SensorType::current},
+    {machine::Kind::power,       SensorType::power},
+    {machine::Kind::voltage,     SensorType::voltage},
+    {machine::Kind::light,       SensorType::light},
+    {machine::Kind::frequency,   SensorType::frequency},
+    {machine::Kind::capacity,    SensorType::capacity},
+};
+// clang-format on
+static_assert(std::ranges::all_of(kKinds, [](const auto& kind) {
+  return static_cast<std::int64_t>(kind.first) == static_cast<std::int64_t>(kind.second);
+}));
+
+Cell dash() { return {{"–", Emphasis::faint}}; }
 
 }  // namespace
 
@@ -62,38 +83,44 @@ Cell networkCell(const Dictionary& options, std::optional<double> bytesPerSecond
 }
 
 Cell diskCell(std::optional<double> bytesPerSecond) {
-  static const Dictionary& options = *new Dictionary([] {
+  static const Dictionary options = [] {
     Dictionary all = sizeOptions();
     all.set("hide-bytes", true);
     return all;
-  }());
+  }();
   return bytesPerSecond.has_value() ? cellOf(KZMUtilitiesFormatDiskActivityWithAttributes(options, *bytesPerSecond))
                                     : dash();
 }
 
 Cell spaceCell(double bytes) {
-  static const Dictionary& options = *new Dictionary(sizeOptions());
+  static const Dictionary options = sizeOptions();
   return cellOf(KZMUtilitiesFormatSpaceWithAttributes(options, bytes));
 }
 
 Cell memoryCell(std::optional<double> bytes) {
-  static const Dictionary& options = *new Dictionary(sizeOptions());
+  static const Dictionary options = sizeOptions();
   return bytes.has_value() ? cellOf(KZMUtilitiesFormatMemoryWithAttributes(options, *bytes)) : dash();
 }
 
 Cell partCell(std::optional<double> part) {
-  static const Dictionary& options = *new Dictionary{{"attributes-main", kStrong}};
+  static const Dictionary options{{"attributes-main", kStrong}};
   constexpr double kPercent = 100.0;
   return part.has_value() ? cellOf(KZMUtilitiesFormatPercentageWithAttributes(options, *part * kPercent)) : dash();
 }
 
 Cell loadCell(double programs) {
-  return {{KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(programs), Style::strong}};
+  return {{KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(programs), Emphasis::strong}};
+}
+
+std::string minutesText(double minutes) {
+  std::string text = word("Load.%@ min");
+  const std::size_t place = text.find("%@");
+  return place == std::string::npos ? text : text.replace(place, 2, KZMUtilitiesFormatNumber({}, minutes));
 }
 
 Cell sensorCell(machine::Kind kind, double value) {
-  static const Dictionary& options = *new Dictionary{{"units", true}, {"space", true}, {"off", true}};
-  return {{KZMUtilitiesFormatSensor(static_cast<std::int64_t>(kind), options, value), Style::strong}};
+  static const Dictionary options{{"units", true}, {"space", true}, {"off", true}};
+  return {{KZMUtilitiesFormatSensor(static_cast<std::int64_t>(kind), options, value), Emphasis::strong}};
 }
 
 }  // namespace kzm::cli

@@ -3,6 +3,7 @@
 #define KZM_CLI_SHOW_TEXTS_H
 
 #include <optional>
+#include <string>
 
 #include <KZMUtilities/dictionary.h>
 
@@ -29,6 +30,9 @@ namespace kzm::cli {
 
 /// How many programs wanted to run.
 [[nodiscard]] Cell loadCell(double programs);
+
+/// "5 min": the load of that time.
+[[nodiscard]] std::string minutesText(double minutes);
 
 /// A reading of a sensor.
 [[nodiscard]] Cell sensorCell(machine::Kind kind, double value);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "cli/show/texts.h"
+#include "cli/words.h"
 
 namespace kzm::cli {
 namespace {
@@ -31,7 +32,7 @@ bool isChosen(const Activity& activity, const RowChoice& choice) {
 }
 
 Section networkSection(const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{"Network", {"received", "sent"}, {}};
+  Section section{word("Topics.Network"), {word("Columns.received"), word("Columns.sent")}, {}};
   for (const Activity& activity : snapshot.network) {
     if (!isChosen(activity, choice)) continue;
     const auto& [name, in, out] = activity.rate;
@@ -41,7 +42,7 @@ Section networkSection(const Snapshot& snapshot, const RowChoice& choice) {
 }
 
 Section disksSection(const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{"Disk activity", {"read", "written"}, {}};
+  Section section{word("Topics.Disk activity"), {word("Columns.read"), word("Columns.written")}, {}};
   for (const Activity& activity : snapshot.disks) {
     if (!choice.all && !activity.wasUsed) continue;
     section.rows.push_back({activity.rate.name, {diskCell(activity.rate.in), diskCell(activity.rate.out)}});
@@ -49,7 +50,7 @@ Section disksSection(const Snapshot& snapshot, const RowChoice& choice) {
   return section;
 }
 
-// Bars stand in the fourth column, whatever the row has before it.
+// Bars are in the fourth column, whatever the row has before it.
 void addBar(double part, Row& row) {
   row.cells.resize(3);
   row.cells.push_back(bar(part));
@@ -58,7 +59,7 @@ void addBar(double part, Row& row) {
 double partOf(double some, double all) { return all > 0 ? some / all : 0.0; }
 
 Section volumesSection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
-  Section section{"Volumes", {"used", "free"}, {}};
+  Section section{word("Topics.Volumes"), {word("Columns.used"), word("Columns.free")}, {}};
   for (const machine::Volume& volume : snapshot.volumes) {
     const auto used = static_cast<double>(volume.space.used);
     const auto free = static_cast<double>(volume.space.free);
@@ -82,68 +83,74 @@ void addMemory(std::string name, std::optional<std::uint64_t> total, std::option
 }
 
 Section memorySection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
-  Section section{"Memory", {"used", "free"}, {}};
-  addMemory("main", snapshot.memory.total, snapshot.memory.available, section);
-  addMemory("swap", snapshot.memory.swapTotal, snapshot.memory.swapFree, section);
+  Section section{word("Topics.Memory"), {word("Columns.used"), word("Columns.free")}, {}};
+  addMemory(word("Rows.main"), snapshot.memory.total, snapshot.memory.available, section);
+  addMemory(word("Rows.swap"), snapshot.memory.swapTotal, snapshot.memory.swapFree, section);
   return section;
 }
 
 // The first load is that of all processors together.
 Section loadSection(const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{"Load", {}, {}};
+  Section section{word("Topics.Load"), {}, {}};
   for (const machine::ProcessorLoad& load : snapshot.processor) {
     const bool isAll = &load == &snapshot.processor.front();
     if (!isAll && !choice.all) break;
     section.rows.push_back(
-        {isAll ? "processor" : load.name, {partCell(load.busy), {}, {}, bar(load.busy.value_or(0))}});
+        {isAll ? word("Rows.processor") : load.name, {partCell(load.busy), {}, {}, bar(load.busy.value_or(0))}});
   }
-  constexpr const char* kSpans[] = {"over 1 minute", "over 5 minutes", "over 15 minutes"};
-  for (std::size_t i = 0; snapshot.loadAverages.has_value() && i < std::size(kSpans); ++i) {
-    section.rows.push_back({kSpans[i], {loadCell((*snapshot.loadAverages)[i])}});
+  constexpr double kMinutes[] = {1, 5, 15};
+  for (std::size_t i = 0; snapshot.loadAverages.has_value() && i < std::size(kMinutes); ++i) {
+    section.rows.push_back({minutesText(kMinutes[i]), {loadCell((*snapshot.loadAverages)[i])}});
   }
   return section;
 }
 
-// More readings of one kind than these are told by their least and their greatest.
+// More readings of one kind than these are shown by their least and their greatest.
 constexpr std::size_t kSingly = 16;
 
-std::vector<machine::Reading> readingsOf(const Snapshot& snapshot, Kind kind) {
-  std::vector<machine::Reading> readings;
+std::vector<machine::SensorReading> readingsOf(const Snapshot& snapshot, Kind kind) {
+  std::vector<machine::SensorReading> readings;
   std::copy_if(snapshot.sensors.begin(), snapshot.sensors.end(), std::back_inserter(readings),
-               [kind](const machine::Reading& reading) { return reading.kind == kind; });
+               [kind](const machine::SensorReading& reading) { return reading.kind == kind; });
   return readings;
 }
 
-std::string nameOf(const machine::Reading& reading) {
+std::string nameOf(const machine::SensorReading& reading) {
   return reading.source.empty() ? reading.label : reading.source + "  " + reading.label;
 }
 
-void addExtremes(const std::vector<machine::Reading>& readings, Section& section) {
+void addExtremes(const std::vector<machine::SensorReading>& readings, Section& section) {
   const auto [least, greatest] = std::minmax_element(readings.begin(), readings.end(),
                                                      [](const auto& a, const auto& b) { return a.value < b.value; });
-  section.rows.push_back({nameOf(*least) + " (least)", {sensorCell(least->kind, least->value)}});
-  section.rows.push_back({nameOf(*greatest) + " (greatest)", {sensorCell(greatest->kind, greatest->value)}});
+  section.rows.push_back({nameOf(*least) + " (" + word("Rows.least") + ")", {sensorCell(least->kind, least->value)}});
+  section.rows.push_back(
+      {nameOf(*greatest) + " (" + word("Rows.greatest") + ")", {sensorCell(greatest->kind, greatest->value)}});
 }
 
 Section sensorSection(const char* title, Kind kind, const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{title, {}, {}};
-  const std::vector<machine::Reading> readings = readingsOf(snapshot, kind);
+  Section section{word(title), {}, {}};
+  const std::vector<machine::SensorReading> readings = readingsOf(snapshot, kind);
   if (readings.size() > kSingly && !choice.all) {
     addExtremes(readings, section);
     return section;
   }
-  for (const machine::Reading& reading : readings) {
+  for (const machine::SensorReading& reading : readings) {
     section.rows.push_back({nameOf(reading), {sensorCell(kind, reading.value)}});
   }
   return section;
 }
 
+// What the machine calls a battery's state, or one of its readings; names that are not in the table stay.
+std::string batteryWord(const std::string& name) { return word("Battery." + name); }
+
 Section batterySection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
-  Section section{"Battery", {}, {}};
+  Section section{word("Topics.Battery"), {}, {}};
   for (const machine::Battery& battery : snapshot.batteries) {
-    if (!battery.status.empty()) section.rows.push_back({battery.name, {{Piece{battery.status}}}});
-    for (const machine::Reading& reading : battery.readings) {
-      section.rows.push_back({nameOf(reading), {sensorCell(reading.kind, reading.value)}});
+    if (!battery.status.empty()) section.rows.push_back({battery.name, {{Piece{batteryWord(battery.status)}}}});
+    for (const machine::SensorReading& reading : battery.readings) {
+      machine::SensorReading named = reading;
+      named.label = batteryWord(reading.label);
+      section.rows.push_back({nameOf(named), {sensorCell(reading.kind, reading.value)}});
       if (reading.kind == Kind::percentage) addBar(reading.value, section.rows.back());
     }
   }
@@ -157,13 +164,13 @@ Section sensors(const Snapshot& snapshot, const RowChoice& choice) {
   return sensorSection(Title, K, snapshot, choice);
 }
 
-constexpr char kTemperatures[] = "Temperatures";
-constexpr char kFans[] = "Fans";
-constexpr char kVoltages[] = "Voltages";
-constexpr char kCurrents[] = "Currents";
-constexpr char kPower[] = "Power";
-constexpr char kFrequencies[] = "Frequencies";
-constexpr char kLight[] = "Light";
+constexpr char kTemperatures[] = "Topics.Temperatures";
+constexpr char kFans[] = "Topics.Fans";
+constexpr char kVoltages[] = "Topics.Voltages";
+constexpr char kCurrents[] = "Topics.Currents";
+constexpr char kPower[] = "Topics.Power";
+constexpr char kFrequencies[] = "Topics.Frequencies";
+constexpr char kLight[] = "Topics.Light";
 
 constexpr bool kRates = true;
 constexpr bool kAtOnce = false;

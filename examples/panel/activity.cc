@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <optional>
+#include <string>
 
 #include "cli/machine/disks.h"
 #include "cli/machine/network.h"
+#include "cli/words.h"
 #include "styles.h"
 #include "texts.h"
 
@@ -19,17 +20,18 @@ using machine::Sample;
 
 struct Direction {
   Icon icon;
+  const char* topic;
+  const char* column;
   double hue;
   Sample ActivitySamples::*samples;
   std::optional<double> Rate::*rate;
-  std::uint64_t Counter::*total;
   AttributedString (*text)(const Styles& styles, double bytesPerSecond);
 };
 constexpr Direction kDirections[] = {
-    {Icon::received, 0.55, &ActivitySamples::network, &Rate::in, &Counter::in, networkText},
-    {Icon::sent, 0.42, &ActivitySamples::network, &Rate::out, &Counter::out, networkText},
-    {Icon::read, 0.62, &ActivitySamples::disks, &Rate::in, &Counter::in, diskText},
-    {Icon::written, 0.07, &ActivitySamples::disks, &Rate::out, &Counter::out, diskText},
+    {Icon::received, "Topics.Network", "Columns.received", 0.55, &ActivitySamples::network, &Rate::in, networkText},
+    {Icon::sent, "Topics.Network", "Columns.sent", 0.42, &ActivitySamples::network, &Rate::out, networkText},
+    {Icon::read, "Topics.Disk activity", "Columns.read", 0.62, &ActivitySamples::disks, &Rate::in, diskText},
+    {Icon::written, "Topics.Disk activity", "Columns.written", 0.07, &ActivitySamples::disks, &Rate::out, diskText},
 };
 
 // One KB/s shows nothing, one GB/s fills the meter; four bars are about one power of ten.
@@ -40,13 +42,19 @@ std::vector<double> meter(double bytesPerSecond) {
   return segments(std::log10(std::max(bytesPerSecond / kBytesPerKilobyte, 1.0)) / kPowersOfTen, kBars);
 }
 
+// All of them are in the one figure.
+std::string namesOf(const Sample& sample) {
+  std::string names;
+  for (const Counter& each : sample.counters) names += (names.empty() ? "" : ", ") + each.name;
+  return names;
+}
+
 Row rowIn(const Direction& direction, const Sample& earlier, const Sample& later) {
   double rate = 0.0;
-  double total = 0.0;
   for (const Rate& each : machine::ratesBetween(earlier, later)) rate += (each.*direction.rate).value_or(0.0);
-  for (const Counter& each : later.counters) total += static_cast<double>(each.*direction.total);
-  Row row = rowOf(direction.icon, direction.hue, direction.text(valueStyles(), rate));
-  row.detail = memoryText(detailStyles(), total);
+  Row row = rowOf(direction.icon, direction.hue,
+                  {labelText({cli::word(direction.topic)}), direction.text(valueStyles(), rate)},
+                  {labelText({cli::word(direction.column)}), labelText({namesOf(later)})});
   row.levels = meter(rate);
   return row;
 }
@@ -56,7 +64,10 @@ Row rowIn(const Direction& direction, const Sample& earlier, const Sample& later
 ActivitySamples readActivity(const machine::Root& root) {
   const double seconds = machine::secondsNow();
   ActivitySamples samples{machine::readNetwork(root, seconds), machine::readDisks(root, seconds)};
+  const auto isUnused = [](const Counter& counter) { return counter.in == 0 && counter.out == 0; };
   std::erase_if(samples.network.counters, [](const Counter& counter) { return counter.name == "lo"; });
+  std::erase_if(samples.network.counters, isUnused);
+  std::erase_if(samples.disks.counters, isUnused);
   return samples;
 }
 

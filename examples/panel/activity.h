@@ -10,16 +10,16 @@
 
 namespace kzm::panel {
 
-/// What only means something beside a second reading.
+/// What means something only when there is a second reading.
 struct ActivitySamples {
-  machine::Sample network;  // without what the machine tells itself
+  machine::Sample network;  // of interfaces that were used, without what the machine tells itself
   machine::Sample disks;
 };
 
 [[nodiscard]] ActivitySamples readActivity(const machine::Root& root);
 
-/// The rates between two readings, all interfaces and all disks together, as meters; beside each what it came to since
-/// the machine started.
+/// The rates between two readings, as meters: that of all interfaces together and that of all disks, which are named
+/// beside it.
 [[nodiscard]] std::vector<Row> activityRows(const ActivitySamples& earlier, const ActivitySamples& later);
 
 }  // namespace kzm::panel

@@ -1,4 +1,4 @@
-# What the panel cannot do, it says in one line, and its exit code tells why: PANEL says what is run.
+# What the panel cannot do, it says in one line, and its exit code says why: PANEL says what is run.
 function(expect code line)
   execute_process(COMMAND ${PANEL} ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE error)
   if(NOT result EQUAL ${code} OR NOT output STREQUAL "" OR NOT error MATCHES "^panel: ${line}[^\n]*\n$")

@@ -1,5 +1,5 @@
 # Draws the panel at two scales and checks the sizes of the pictures: PANEL, LOCALE and FILE say what is run.
-set(points_wide 552)
+set(points_wide 588)
 
 # The picture's sides in pixels, from the header of the file, which must be a PNG.
 function(measure width height)
@@ -21,10 +21,10 @@ foreach(scale 1 2)
     message(FATAL_ERROR "exit code ${result}, output: ${output}")
   endif()
   measure(width height)
-  # What the card is high without rows, less the gap below the last one; then 60 points for each line of rows.
+  # What the card is high without rows, less the gap below the last one; then 72 points for each line of rows.
   math(EXPR expected_width "${points_wide} * ${scale}")
-  math(EXPR remainder "(${height} - 104 * ${scale}) % (60 * ${scale})")
-  if(NOT width EQUAL expected_width OR NOT remainder EQUAL 0 OR height LESS 104)
+  math(EXPR remainder "(${height} - 102 * ${scale}) % (72 * ${scale})")
+  if(NOT width EQUAL expected_width OR NOT remainder EQUAL 0 OR height LESS 102)
     message(FATAL_ERROR "${width} x ${height} pixels at scale ${scale}")
   endif()
 endforeach()

@@ -1,7 +1,11 @@
 #include "heading.h"
 
-#include <cstdint>
+#include <memory>
 #include <string>
+#include <unicode/datefmt.h>
+#include <unicode/locid.h>
+#include <unicode/timezone.h>
+#include <unicode/unistr.h>
 
 #include <KZMUtilities/dates.h>
 #include <KZMUtilities/formatters.h>
@@ -11,10 +15,21 @@
 namespace kzm::panel {
 namespace {
 
-// In the digits of the locale, without grouping, and with zeros in front.
-std::string digits(std::int64_t number, int count) {
-  if (count == 0) return {};
-  return digits(number / 10, count - 1) + KZMUtilitiesFormatNumber({}, static_cast<double>(number % 10));
+// As the locale writes them, its calendar and its clock of twelve or twenty-four hours included.
+constexpr const char* kClock = "jm";
+constexpr const char* kDay = "yMMMMEEEEd";
+
+std::string dateText(double timePoint, const char* fields) {
+  constexpr double kMilliseconds = 1e3;
+  UErrorCode status = U_ZERO_ERROR;
+  const icu::Locale locale(currentLocale().c_str());
+  const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createInstanceForSkeleton(fields, locale, status));
+  if (U_FAILURE(status)) return {};
+  const auto zone = icu::UnicodeString::fromUTF8(TimeZone::defaultZone().identifier());
+  format->adoptTimeZone(icu::TimeZone::createTimeZone(zone));
+  icu::UnicodeString text;
+  std::string utf8;
+  return format->format(timePoint * kMilliseconds, text).toUTF8String(utf8);
 }
 
 // Days that a clock change makes longer or shorter are full at their end all the same.
@@ -28,15 +43,8 @@ double partOfDay(double timePoint) {
 
 Heading headingAt(double timePoint) {
   const Styles styles = headingStyles();
-  const auto fields = components(
-      timePoint, kCalendarUnitYear | kCalendarUnitMonth | kCalendarUnitDay | kCalendarUnitHour | kCalendarUnitMinute);
-  if (!fields.has_value()) return {};
-  const auto field = [&fields](CalendarUnits unit, int count) { return digits(*fields->number(unit), count); };
-  const std::string clock = field(kCalendarUnitHour, 2) + ":" + field(kCalendarUnitMinute, 2);
-  const std::string day =
-      field(kCalendarUnitYear, 4) + "-" + field(kCalendarUnitMonth, 2) + "-" + field(kCalendarUnitDay, 2);
-  return {AttributedString(clock, styles.main), AttributedString(day, styles.units),
-          segments(partOfDay(timePoint), 24)};
+  return {AttributedString(dateText(timePoint, kClock), styles.main),
+          AttributedString(dateText(timePoint, kDay), styles.units), segments(partOfDay(timePoint), 24)};
 }
 
 }  // namespace kzm::panel

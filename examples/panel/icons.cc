@@ -20,7 +20,7 @@ constexpr Mark line(double x, double y) { return {Verb::line, {x, y}}; }
 constexpr Mark curve(double x1, double y1, double x2, double y2, double x, double y) {
   return {Verb::curve, {x1, y1, x2, y2, x, y}};
 }
-// In turns, clockwise from three o'clock.
+// In full turns, clockwise from three o'clock.
 constexpr Mark arc(double x, double y, double radius, double from, double to) {
   return {Verb::arc, {x, y, radius, from, to}};
 }

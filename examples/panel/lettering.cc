@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <pango/pangocairo.h>
+#include <unicode/uloc.h>
 
 #include "styles.h"
 
@@ -51,20 +52,15 @@ cairo_t* currentCairo() { return GraphicsContext::current()->cairo(); }
 
 }  // namespace
 
-// The language's sample text tells.
-bool isRightToLeft(const std::string& locale) {
-  const std::string language = locale.substr(0, locale.find_first_of(".@"));
-  const std::string sample = pango_language_get_sample_string(pango_language_from_string(language.c_str()));
-  const Image nowhere(Size{1, 1});
-  const Image::Focus focus(nowhere);
-  return Line(AttributedString(sample), false).runsRightToLeft();
-}
+bool isRightToLeft(const std::string& locale) { return uloc_isRightToLeft(locale.c_str()) != 0; }
 
 void Line::Release::operator()(PangoLayout* layout) const { g_object_unref(layout); }
 
 Line::Line(const AttributedString& text, bool rightToLeft) : layout_(pango_cairo_create_layout(currentCairo())) {
   PangoContext* context = pango_layout_get_context(layout_.get());
   useExactShapes(context);
+  // The first letter of a line may be one of a unit, and says nothing of the line.
+  pango_layout_set_auto_dir(layout_.get(), FALSE);
   pango_context_set_base_dir(context, rightToLeft ? PANGO_DIRECTION_RTL : PANGO_DIRECTION_LTR);
 
   PangoFontDescription* font = pango_font_description_from_string(kFont);
@@ -83,7 +79,7 @@ double Line::width() const {
   return pango_units_to_double(logical.width);
 }
 
-bool Line::runsRightToLeft() const { return pango_layout_get_direction(layout_.get(), 0) == PANGO_DIRECTION_RTL; }
+int Line::missingGlyphs() const { return pango_layout_get_unknown_glyphs_count(layout_.get()); }
 
 void Line::drawAt(const Point& point) const {
   cairo_t* cairo = currentCairo();

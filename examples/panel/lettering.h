@@ -14,14 +14,14 @@ namespace kzm::panel {
 /// Whether the language of the locale is written from right to left.
 [[nodiscard]] bool isRightToLeft(const std::string& locale);
 
-/// One line of text, to be drawn into the current drawing context.
+/// One line of text in the given direction, to be drawn into the current drawing context.
 class Line {
  public:
   Line(const AttributedString& text, bool rightToLeft);
   /// In points.
   [[nodiscard]] double width() const;
-  /// The direction that the text itself has.
-  [[nodiscard]] bool runsRightToLeft() const;
+  /// How many of its characters no font has.
+  [[nodiscard]] int missingGlyphs() const;
   /// Draws the line with its left end and its baseline at the point.
   void drawAt(const Point& point) const;
 

@@ -1,4 +1,4 @@
-// Draws this machine's readings as a panel without words, so that it reads in every language:
+// Draws this machine's readings as a panel, in the user's language:
 //   panel [--locale ID] [--output FILE.png] [--scale N]
 #include <charconv>
 #include <chrono>

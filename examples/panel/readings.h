@@ -9,8 +9,8 @@
 
 namespace kzm::panel {
 
-/// A row for everything that the machine tells; what it has not is left out. Takes half a second, which lies between
-/// the two samples that rates are made of.
+/// A row for everything that the machine reports; what it does not have is left out. Takes half a second, which is
+/// between the two samples that rates are made of.
 [[nodiscard]] std::vector<Row> readRows(const machine::Root& root);
 
 }  // namespace kzm::panel

@@ -2,6 +2,7 @@
 #ifndef KZM_EXAMPLES_PANEL_ROW_H
 #define KZM_EXAMPLES_PANEL_ROW_H
 
+#include <cstddef>
 #include <utility>
 #include <vector>
 
@@ -12,18 +13,24 @@
 
 namespace kzm::panel {
 
-/// One reading: an icon, a text, one more at the far end, and bars side by side, each filled from 0 to 1.
+/// A reading and what it is.
+struct Figure {
+  AttributedString label;
+  AttributedString value;
+};
+
+/// An icon, a figure, one more at the far end, and bars side by side, each filled from 0 to 1.
 struct Row {
   Icon icon = Icon::load;
   Color color;
-  AttributedString value;
-  AttributedString detail;
+  Figure main;
+  Figure side;
   std::vector<double> levels;
 };
 
-/// A row without detail and bars. All rows share saturation and brightness, so that none stands out.
-[[nodiscard]] inline Row rowOf(Icon icon, double hue, AttributedString value) {
-  return {icon, Color::fromHSBA(hue, 0.52, 0.90, 1.0), std::move(value), {}, {}};
+/// A row without bars. All rows share saturation and brightness, so that none stands out.
+[[nodiscard]] inline Row rowOf(Icon icon, double hue, Figure main, Figure side = {}) {
+  return {icon, Color::fromHSBA(hue, 0.52, 0.90, 1.0), std::move(main), std::move(side), {}};
 }
 
 /// The clock, the day, and the hours of it that have passed, as bars.
@@ -33,10 +40,10 @@ struct Heading {
   std::vector<double> hours;
 };
 
-/// So many bars that show one part of a whole, 0 to 1: full ones, then one in part, then empty ones.
+/// The given number of bars that show one part of a whole, 0 to 1: full ones, then one in part, then empty ones.
 [[nodiscard]] inline std::vector<double> segments(double part, int count) {
-  std::vector<double> levels;
-  for (int i = 0; i < count; ++i) levels.push_back(part * count - i);
+  std::vector<double> levels(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) levels[static_cast<std::size_t>(i)] = part * count - i;
   return levels;
 }
 

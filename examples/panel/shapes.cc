@@ -11,7 +11,7 @@ namespace {
 constexpr double kBarGap = 2.5;
 constexpr double kSharp = 0.25;  // puts an outline half a point wide onto whole pixels at a scale of 2
 
-// How bright the parts of a bar are, next to its colour.
+// How bright the parts of a bar are, next to its color.
 constexpr float kTrackBrightness = 0.24F;
 constexpr float kOutlineBrightness = 0.42F;
 constexpr float kFilledOutlineBrightness = 0.85F;

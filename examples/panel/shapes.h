@@ -12,7 +12,7 @@ namespace kzm::panel {
   return {Point{x, y}, Size{width, height}};
 }
 
-/// Puts things where they belong in the direction of writing: places are told as from left to right.
+/// Puts things where they belong in the direction of writing: places are given as from left to right.
 struct Page {
   double width;
   bool mirrored;
@@ -22,7 +22,7 @@ struct Page {
   }
 };
 
-/// Fills the rectangle, its corners rounded, with a shade from the one colour to the other.
+/// Fills the rectangle, its corners rounded, with a shade from the one color to the other.
 void fillRounded(const Rect& rect, double radius, const Color& top, const Color& bottom);
 
 /// Bars side by side that share the rectangle, each filled by its level, 0 to 1, from where writing starts.

@@ -8,6 +8,7 @@
 #include <KZMUtilities/formatters.h>
 #include <KZMUtilities/percentage.h>
 #include <KZMUtilities/sensors.h>
+#include <KZMUtilities/text.h>
 
 namespace kzm::panel {
 namespace {
@@ -36,6 +37,12 @@ Dictionary rateOptions(const Styles& styles) {
 }
 
 }  // namespace
+
+AttributedString labelText(const std::vector<std::string>& parts) {
+  std::string text;
+  for (const std::string& part : parts) text += (text.empty() ? "" : " · ") + isolated(part);
+  return AttributedString(text, labelStyle());
+}
 
 AttributedString networkText(const Styles& styles, double bytesPerSecond) {
   return KZMUtilitiesFormatBandwidthWithAttributes(rateOptions(styles), bytesPerSecond);

@@ -2,6 +2,9 @@
 #ifndef KZM_EXAMPLES_PANEL_TEXTS_H
 #define KZM_EXAMPLES_PANEL_TEXTS_H
 
+#include <string>
+#include <vector>
+
 #include <KZMUtilities/attributed_string.h>
 
 #include "cli/machine/sensors.h"
@@ -13,6 +16,8 @@ namespace kzm::panel {
 [[nodiscard]] AttributedString diskText(const Styles& styles, double bytesPerSecond);
 [[nodiscard]] AttributedString spaceText(const Styles& styles, double bytes);
 [[nodiscard]] AttributedString memoryText(const Styles& styles, double bytes);
+/// What a reading is: words and names, each in its own direction.
+[[nodiscard]] AttributedString labelText(const std::vector<std::string>& parts);
 /// A part of a whole, 0 to 1.
 [[nodiscard]] AttributedString partText(const Styles& styles, double part);
 [[nodiscard]] AttributedString sensorText(const Styles& styles, machine::Kind kind, double value);

@@ -1,7 +1,7 @@
 // Texts in the user's language, from the string tables of a resource bundle.
 //
-// This library stands for the localization part of the product it is built into: another one may take its place, as
-// long as it offers KZMLocalizedStringFromTableInBundle.
+// This library is the localization part of the product it is built into. Another one may take its place, as long as it
+// offers KZMLocalizedStringFromTableInBundle.
 //
 // Every function may be called from any thread at any time.
 #ifndef KZMLOCALIZATION_H
@@ -24,7 +24,7 @@ struct StringTable {
   std::string_view texts;     // "%@ Go\0%@ Mo\0"
 };
 
-/// The string tables that a library brings along. Bundles are constants: they and all that they name live for ever.
+/// The string tables of a library. Bundles are constants: they and everything they name live forever.
 struct ResourceBundle {
   std::string_view identifier;
   std::string_view developmentLanguage;

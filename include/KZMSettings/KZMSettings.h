@@ -1,9 +1,9 @@
 // The user's settings, by dotted key path.
 //
-// This library stands for the settings part of the product it is built into: another one may take its place, as long as
-// it offers KZMSettingsObjectForKeyPath. The settings are kept in one JSON file, KZMUtilities/settings.json under the
+// This library is the settings part of the product it is built into. Another one may take its place, as long as it
+// offers KZMSettingsObjectForKeyPath. The settings are kept in one JSON file, KZMUtilities/settings.json under the
 // user's configuration directory (XDG_CONFIG_HOME, else ~/.config). A missing, broken or unreadable file means that
-// there are no settings; a broken or unreadable one is told in one line of the log.
+// there are no settings; a broken or unreadable one is reported in one line of the log.
 //
 // Every function may be called from any thread at any time, also while a thread or the process ends. A read takes no
 // lock unless the settings changed since the thread's last one, and reading a number does not allocate.
@@ -22,8 +22,9 @@
 /// Stores the setting at the key path; a null object removes it. The file is replaced as a whole or not at all.
 /// Returns false, and leaves every setting as it was, when the object holds something that JSON cannot (an opaque
 /// object, a number that is not finite, text that is not UTF-8) or is nested too deep (64 levels with the file's own),
-/// when the file would grow beyond 1 MiB, when it is broken, when it cannot be written, or when another process keeps
-/// it locked for two seconds.
+/// when the file would grow beyond 1 MiB, when it is broken, when it cannot be written with the mode and owner it has,
+/// or when another process keeps it locked for two seconds. A failure of the file is told in one line on standard
+/// error, with the file and the reason.
 [[nodiscard]] KZM_EXPORT bool KZMSettingsSetObjectForKeyPath(const kzm::Value& object, std::string_view keyPath);
 
 /// All settings, key path to value.

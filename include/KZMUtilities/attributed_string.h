@@ -56,6 +56,12 @@ class KZM_EXPORT AttributedString {
 
   /// Replaces the first literal, case-sensitive occurrence of `target`.
   /// Returns false, and changes nothing, when the target is empty or not found.
+  ///
+  /// Example:
+  ///   AttributedString text("%@ MB", "gray");
+  ///   text.replaceFirst("%@", AttributedString("3", "bold"))  // true
+  ///   text.text()                // "3 MB"
+  ///   text.runs()[0].attributes  // "bold"
   bool replaceFirst(std::string_view target, const AttributedString& replacement);
 
   /// Equal texts, divided in the same way with equal attributes.

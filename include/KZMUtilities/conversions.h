@@ -5,7 +5,8 @@
 // Every function may be called from any thread at any time and allocates nothing.
 //
 // Deliberate: the names are spelled as they are published, "celcius" and the capital of KmToMiles included, and the
-// functions of a pair are not exact inverses of each other: each has its own published constant.
+// functions of a pair are not exact inverses of each other: each has its own published constant
+// (Conversions.KeepTheirSpelling, Conversions.FahrenheitAndBackIsNotTheSame).
 #ifndef KZMUTILITIES_CONVERSIONS_H
 #define KZMUTILITIES_CONVERSIONS_H
 
@@ -15,12 +16,14 @@
 
 /// celsius / 0.5555555820465088 + 32.0; the divisor is 5/9 in single precision (bits 0x3FE1C71C80000000).
 ///
-/// Example:  celciusToFahrenheit(100.0)  // 211.99999141693155
+/// Example:
+///   celciusToFahrenheit(100.0)  // 211.99999141693155
 [[nodiscard]] KZM_EXPORT double celciusToFahrenheit(double celsius) noexcept;
 
 /// (fahrenheit + (-32.0)) × 0.5555555555555556; the factor is 5/9 in double precision (bits 0x3FE1C71C71C71C72).
 ///
-/// Example:  fahrenheitToCelcius(212.0)  // 100.0
+/// Example:
+///   fahrenheitToCelcius(212.0)  // 100.0
 [[nodiscard]] KZM_EXPORT double fahrenheitToCelcius(double fahrenheit) noexcept;
 
 /// celsius + 273.15, the distance of the two zeros.
@@ -36,7 +39,8 @@
 
 /// centimeters × 0.3937, rounded to four digits.
 ///
-/// Example:  cmToInch(2.54)  // 0.999998
+/// Example:
+///   cmToInch(2.54)  // 0.999998
 [[nodiscard]] KZM_EXPORT double cmToInch(double centimeters) noexcept;
 
 /// inches × 25.4
@@ -47,7 +51,8 @@
 
 /// millimeters / 10.0: a division, which is not a multiplication by a tenth.
 ///
-/// Example:  mmToCm(25.0)  // 2.5
+/// Example:
+///   mmToCm(25.0)  // 2.5
 [[nodiscard]] KZM_EXPORT double mmToCm(double millimeters) noexcept;
 
 /// centimeters × 10.0
@@ -66,7 +71,8 @@
 
 /// kilometersPerHour × 0.27777777777778, rounded to fourteen digits.
 ///
-/// Example:  kphToMps(3.6)  // 1.000000000000008
+/// Example:
+///   kphToMps(3.6)  // 1.000000000000008
 [[nodiscard]] KZM_EXPORT double kphToMps(double kilometersPerHour) noexcept;
 
 /// metersPerSecond × 2.2369362920544, rounded to fourteen digits.
@@ -82,7 +88,8 @@
 
 /// inchesOfMercury / 0.029529983071445: a division by the inches in a millibar.
 ///
-/// Example:  inchToMillibar(29.92)  // 1013.2074890666681
+/// Example:
+///   inchToMillibar(29.92)  // 1013.2074890666681
 [[nodiscard]] KZM_EXPORT double inchToMillibar(double inchesOfMercury) noexcept;
 
 #endif

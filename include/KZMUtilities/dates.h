@@ -40,12 +40,15 @@ const port::Zone& zoneOf(const TimeZone& zone) noexcept;
 /// Seconds since 1970-01-01 00:00:00 UTC; null is no date.
 using TimePoint = std::optional<double>;
 
-// ---------------------------------------------------------------------------------------------------- time zones ---
+// ---- Time zones -----------------------------------------------------------------------------------------------------
 
 /// A time zone of this machine's zone files. As cheap to copy as a pointer; a zone's file is read once in a process.
 class KZM_EXPORT TimeZone {
  public:
   /// The zone of that name, such as "Europe/Paris" or "UTC"; null for an unknown name. Case matters.
+  ///
+  /// Example:
+  ///   TimeZone::named("Mars/Olympus").has_value()  // false
   [[nodiscard]] static std::optional<TimeZone> named(std::string_view identifier);
   /// The zone "UTC", which needs no file.
   [[nodiscard]] static TimeZone utc();
@@ -59,11 +62,14 @@ class KZM_EXPORT TimeZone {
   /// "CET-1CEST"; empty means UTC), else the link /etc/localtime, else UTC.
   [[nodiscard]] static TimeZone systemZone();
 
-  /// The zone's name; for a system zone that is none of the named ones, what TZ holds or "localtime".
+  /// The zone's name; for a system zone without a name, what TZ holds or "localtime".
   [[nodiscard]] const std::string& identifier() const noexcept;
 
   /// Whole seconds east of GMT at the time point. Outside the supported range: the offset at its nearer end; for NaN
   /// that of 1970-01-01.
+  ///
+  /// Example:
+  ///   TimeZone::named("Asia/Kolkata")->offsetFromGMT(1700000000.0)  // 19800
   [[nodiscard]] std::int64_t offsetFromGMT(double timePoint) const;
 
   /// The same zone by name and source.
@@ -76,9 +82,9 @@ class KZM_EXPORT TimeZone {
   const port::Zone* zone_;  // lives as long as the process
 };
 
-// ----------------------------------------------------------------------------------------------- calendar fields ---
+// ---- Calendar fields ------------------------------------------------------------------------------------------------
 
-/// A set of calendar units; bits without a meaning are ignored. The numbers are the platform's.
+/// A set of calendar units; bits without a meaning are ignored. The numbers are published.
 using CalendarUnits = std::uint64_t;
 
 inline constexpr CalendarUnits kCalendarUnitEra = 2;                    ///< "era": 0 before Christ, 1 after
@@ -117,60 +123,94 @@ struct DateComponents {
   }
 };
 
-/// `components:`   The named fields of the time point in the default zone; null for no date.
+/// `components:` The named fields of the time point in the default zone; null for no date.
 /// Weeks begin on the weekday, and the first week has at least the days, that the locale in force for dates
 /// (LC_ALL, LC_TIME, LANG, read once) has.
+///
+/// Example (UTC):
+///   components(1700000000.0, kCalendarUnitDay | kCalendarUnitHour)->number(kCalendarUnitHour)  // 22
 [[nodiscard]] KZM_EXPORT std::optional<DateComponents> components(TimePoint t, CalendarUnits units);
 
-/// `dateFromComponents:`   The time point with those fields of now, in the default zone. Fields left out are those of
+/// `dateFromComponents:` The time point with those fields of now, in the default zone. Fields left out are those of
 /// 0001-01-01 00:00:00. Without a day, the week of the year or of the month or the weekday's number in the month gives
 /// it, in this order and on the given weekday, else on the first day of the week.
+///
+/// Example (UTC):
+///   dateFromComponents(0)  // -62135769600.0
 [[nodiscard]] KZM_EXPORT TimePoint dateFromComponents(CalendarUnits units);
 
-/// `timeIntervalFromComponents:`   The same in seconds since 1970; 0 when there is no such date.
+/// `timeIntervalFromComponents:` The same in seconds since 1970; 0 when there is no such date.
 [[nodiscard]] KZM_EXPORT double timeIntervalFromComponents(CalendarUnits units);
 
-// ---------------------------------------------------------------------------------------------- day starts, sums ---
+// ---- Day starts, sums -----------------------------------------------------------------------------------------------
 
-/// `dayStart`   The start of the day that holds the time point in the default zone.
+/// `dayStart` The start of the day that holds the time point in the default zone.
 ///
 /// Deliberate: the era is not looked at. A day before Christ gives the start of the day with the same year number,
-/// month and day after Christ; so do the other day starts.
+/// month and day after Christ; so do the other day starts (DayStart.DropsTheEra).
 [[nodiscard]] KZM_EXPORT TimePoint dayStart(TimePoint t);
-/// `dayStartWithTimezone:`   The same in the given zone.
+/// `dayStartWithTimezone:` The same in the given zone.
+///
+/// Example:
+///   dayStartWithTimezone(1700000000.0, TimeZone::utc())  // 1699920000.0
 [[nodiscard]] KZM_EXPORT TimePoint dayStartWithTimezone(TimePoint t, TimeZone zone);
 
-/// `addDays:timezone:`   The same wall time of the given zone so many days later (earlier when negative).
+/// `addDays:timezone:` The same wall time of the given zone, the given number of days later (earlier when
+/// negative).
+///
+/// Example: the clock goes forward in between, so the two days have 47 hours
+///   addDaysTimezone(1489217400.0, 2, *TimeZone::named("America/New_York"))  // 1489386600.0
 [[nodiscard]] KZM_EXPORT TimePoint addDaysTimezone(TimePoint t, std::int64_t days, TimeZone zone);
-/// `addDays:`   The same in the default zone.
+/// `addDays:` The same in the default zone.
 [[nodiscard]] KZM_EXPORT TimePoint addDays(TimePoint t, std::int64_t days);
-/// `addHours:`   So many times 3600 elapsed seconds later.
+/// `addHours:` The given number of hours later, each of 3600 elapsed seconds.
+///
+/// Example:
+///   addHours(1700000000.5, -1)  // 1699996400.5
 [[nodiscard]] KZM_EXPORT TimePoint addHours(TimePoint t, std::int64_t hours);
-/// `addMonths:`   The same day and wall time of the default zone so many months later; a day that the month does not
-/// have is its last: 31 January and one month is 28 or 29 February.
+/// `addMonths:` The same day and wall time of the default zone, the given number of months later. A day that the month
+/// does not have becomes its last: 31 January and one month is 28 or 29 February.
+///
+/// Example (UTC): from 31 January 2024 to 29 February
+///   addMonths(1706659200.0, 1)  // 1709164800.0
 [[nodiscard]] KZM_EXPORT TimePoint addMonths(TimePoint t, std::int64_t months);
 
-// --------------------------------------------------------------------------------------------------- zone shifts ---
+// ---- Zone shifts ----------------------------------------------------------------------------------------------------
 
-/// `corrected`   The time point plus the default zone's offset then: its UTC reading is the local wall clock's.
+/// `corrected` The time point plus the default zone's offset then: its UTC reading is the local wall clock's.
+///
+/// Example (UTC):
+///   corrected(1700000000.0)  // 1700000000.0
 [[nodiscard]] KZM_EXPORT TimePoint corrected(TimePoint t);
-/// `utcStart`   The UTC midnight of the day that the time point has in the default zone.
+/// `utcStart` The UTC midnight of the day that the time point has in the default zone.
+///
+/// Example (UTC):
+///   utcStart(1700000000.0)  // 1699920000.0
 [[nodiscard]] KZM_EXPORT TimePoint utcStart(TimePoint t);
-/// `utcStartForToday`   The same for now.
+/// `utcStartForToday` The same for now.
 [[nodiscard]] KZM_EXPORT TimePoint utcStartForToday();
-/// `converFromTimezoneToUTC:`   The time point minus the zone's offset then.
+/// `converFromTimezoneToUTC:` The time point minus the zone's offset then.
+///
+/// Example:
+///   converFromTimezoneToUTC(1700000000.0, *TimeZone::named("Asia/Kolkata"))  // 1699980200.0
 [[nodiscard]] KZM_EXPORT TimePoint converFromTimezoneToUTC(TimePoint t, TimeZone zone);
-/// `converToTimezone:`   The time point minus the system zone's offset then, plus the given zone's.
+/// `converToTimezone:` The time point minus the system zone's offset then, plus the given zone's.
 [[nodiscard]] KZM_EXPORT TimePoint converToTimezone(TimePoint t, TimeZone zone);
-/// `converFromTimezone:`   The time point minus the given zone's offset then, plus the system zone's.
+/// `converFromTimezone:` The time point minus the given zone's offset then, plus the system zone's.
 [[nodiscard]] KZM_EXPORT TimePoint converFromTimezone(TimePoint t, TimeZone zone);
 
-// ----------------------------------------------------------------------------------------------- ordinal numbers ---
+// ---- Ordinal numbers ------------------------------------------------------------------------------------------------
 
-/// `ordinalSuffixFromDay:`   The English "st", "nd", "rd" or "th" of a day of the month, in every language.
+/// `ordinalSuffixFromDay:` The English "st", "nd", "rd" or "th" of a day of the month, in every language.
 /// Any number outside 1 to 31 has "th".
+///
+/// Example:
+///   ordinalSuffixFromDay(22)  // "nd"
 [[nodiscard]] KZM_EXPORT std::string ordinalSuffixFromDay(std::int64_t day);
-/// `ordinalSuffix`   The same for the time point's day of the month in the default zone; null for no date.
+/// `ordinalSuffix` The same for the time point's day of the month in the default zone; null for no date.
+///
+/// Example (UTC):
+///   ordinalSuffix(1700000000.0)  // "th"
 [[nodiscard]] KZM_EXPORT std::optional<std::string> ordinalSuffix(TimePoint t);
 
 }  // namespace kzm

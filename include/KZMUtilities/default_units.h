@@ -42,6 +42,9 @@ enum class MeasurementUnit : std::uint8_t {
 };
 
 /// The member's name as it is written above, such as "metersPerSecond". A number that is no member gives "".
+///
+/// Example:
+///   measurementUnitName(MeasurementUnit::metersPerSecond)  // "metersPerSecond"
 [[nodiscard]] KZM_EXPORT std::string_view measurementUnitName(MeasurementUnit unit) noexcept;
 
 /// Units by the kind of quantity: "windspeed", "pressure", "temperature", "distance", "rain", "snow".
@@ -55,11 +58,11 @@ using PreferredUnits = std::map<std::string, MeasurementUnit, std::less<>>;
 /// that unit; no setting, 0 and any other code give the preferred unit.
 class KZM_EXPORT KZMUtilitiesDefaultUnits {
  public:
-  /// `shared`: the one instance that the library works with, made on the first call; it lives until the process ends.
+  /// `shared` The one instance that the library works with, made on the first call; it lives until the process ends.
   /// The region is looked at when it is made, and never again.
   [[nodiscard]] static KZMUtilitiesDefaultUnits& shared();
 
-  /// `init`: an instance with the preferred units of the region as it is now.
+  /// `init` An instance with the preferred units of the region as it is now.
   KZMUtilitiesDefaultUnits();
   KZMUtilitiesDefaultUnits(const KZMUtilitiesDefaultUnits&) = delete;
   KZMUtilitiesDefaultUnits& operator=(const KZMUtilitiesDefaultUnits&) = delete;
@@ -67,6 +70,9 @@ class KZM_EXPORT KZMUtilitiesDefaultUnits {
 
   /// "Weather.Global.Units.WindSpeed": 1 metersPerSecond, 2 kilometersPerHour, 3 milesPerHour, 4 knots;
   /// otherwise the preferred "windspeed".
+  ///
+  /// Example (knots):
+  ///   KZMUtilitiesDefaultUnits::shared().windSpeedUnit()  // MeasurementUnit::knots
   [[nodiscard]] kzm::MeasurementUnit windSpeedUnit() const;
 
   /// "Sensors.Global.Degrees.Format": 1 celsius, 2 fahrenheit, 3 kelvin; otherwise the preferred "temperature".
@@ -88,13 +94,20 @@ class KZM_EXPORT KZMUtilitiesDefaultUnits {
   /// "Weather.Global.Units.Precipitation", the same setting: 1 centimeters, 2 inches; otherwise the preferred "snow".
   [[nodiscard]] kzm::MeasurementUnit snowUnit() const;
 
-  /// `units`: a copy of the preferred units; to change them, hand a changed copy to `setUnits:`. After `init` all six
+  /// `units` A copy of the preferred units; to change them, pass a changed copy to `setUnits:`. After `init` all six
   /// keys are there, and kelvin and knots are never among the units.
   [[nodiscard]] kzm::PreferredUnits units() const;
 
-  /// `setUnits:` puts other preferred units in place, for the next question on. An accessor whose key is missing
+  /// `setUnits:` Puts other preferred units in place, for the next question on. An accessor whose key is missing
   /// answers with the metric unit of its kind: kilometersPerHour, hectopascals, celsius, kilometers, millimeters or
   /// centimeters. Further keys are kept unread.
+  ///
+  /// Example:
+  ///   KZMUtilitiesDefaultUnits defaults;
+  ///   kzm::PreferredUnits units = defaults.units();
+  ///   units["distance"] = kzm::MeasurementUnit::kilometers;
+  ///   defaults.setUnits(units);
+  ///   defaults.distanceUnit()  // MeasurementUnit::kilometers
   void setUnits(kzm::PreferredUnits units);
 
  private:
@@ -112,6 +125,9 @@ struct UnitSetting {
 };
 
 /// All of them, one for each accessor: rain and snow have two rows with one key path.
+///
+/// Example:
+///   unitSettings().front().keyPath  // "Weather.Global.Units.WindSpeed"
 [[nodiscard]] KZM_EXPORT std::span<const UnitSetting> unitSettings() noexcept;
 
 }  // namespace kzm

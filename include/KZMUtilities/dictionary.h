@@ -1,6 +1,6 @@
 // The string-keyed dictionary of Values: options come in and results go out as one.
 //
-// Like value.h, this header stands on its own: there is no library code behind it.
+// Like value.h, this header needs no library: all of its code is here.
 #ifndef KZMUTILITIES_DICTIONARY_H
 #define KZMUTILITIES_DICTIONARY_H
 
@@ -24,7 +24,7 @@ namespace kzm {
 
 /// A string-keyed dictionary of Values, in the order in which keys were first set.
 ///
-/// It is made for reading a handful of options many times: one byte, in the key's slot, tells that a key is absent or
+/// It is made for reading a handful of options many times: one byte, in the key's slot, says that a key is absent or
 /// which entry has it.
 class Dictionary {
  public:

@@ -2,7 +2,7 @@
 #ifndef KZMUTILITIES_EXPORT_H
 #define KZMUTILITIES_EXPORT_H
 
-/// Everything is hidden in our shared libraries but the declarations that bear this mark.
+/// Everything in our shared libraries is hidden but the declarations with this mark.
 #define KZM_EXPORT __attribute__((visibility("default")))
 
 #endif

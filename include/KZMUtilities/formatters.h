@@ -4,8 +4,8 @@
 // LC_NUMERIC and LANG that is not empty, read once and without setlocale. C, POSIX and names of no known language give
 // grouped English numbers.
 //
-// Every function may be called from any thread at any time. Formatters and locales handed out are immutable, and shared
-// with every other caller.
+// Every function may be called from any thread at any time. Formatters and locales never change, and all callers
+// share them. Options are only read; absent or mistyped ones read as zero.
 #ifndef KZMUTILITIES_FORMATTERS_H
 #define KZMUTILITIES_FORMATTERS_H
 
@@ -78,35 +78,39 @@ KZM_EXPORT void setCurrentLocale(std::string_view identifier);
 
 }  // namespace kzm
 
-/// The shared formatter with at least and at most so many fraction digits, made on the first request and kept in the
-/// shared cache under "NumberFormatter-Decimal-<minimum>.<maximum>". Any counts are taken; a maximum below the minimum
-/// is raised to it. Never null.
+/// The shared formatter with at least and at most the given numbers of fraction digits, made on the first request and
+/// kept in the shared cache under "NumberFormatter-Decimal-<minimum>.<maximum>". Any counts are taken; a maximum below
+/// the minimum is raised to it. Never null.
 ///
-/// Example (English):  KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(3.0)  // "3.00"
+/// Example (English):
+///   KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(3.0)  // "3.00"
 [[nodiscard]] KZM_EXPORT std::shared_ptr<const kzm::NumberFormatter> KZMUtilitiesDecimalFormatterWithFractions(
     std::int64_t minimumFractionDigits, std::int64_t maximumFractionDigits);
 
-/// The shared formatter with at most so many fraction digits, kept under "NumberFormatter-Decimal--.<maximum>".
-/// Any count is taken. Never null.
+/// The shared formatter with at most the given number of fraction digits, kept under
+/// "NumberFormatter-Decimal--.<maximum>". Any count is taken. Never null.
 ///
-/// Example (English):  KZMUtilitiesDecimalFormatterWithMaximum(2)->string(3.14159)  // "3.14"
+/// Example (English):
+///   KZMUtilitiesDecimalFormatterWithMaximum(2)->string(3.14159)  // "3.14"
 [[nodiscard]] KZM_EXPORT std::shared_ptr<const kzm::NumberFormatter> KZMUtilitiesDecimalFormatterWithMaximum(
     std::int64_t maximumFractionDigits);
 
-/// The POSIX variant of the locale: its identifier with "_POSIX" behind it, kept in the shared cache under
+/// The POSIX variant of the locale: its identifier with "_POSIX" after it, kept in the shared cache under
 /// "Locale-Posix-<identifier>". An identifier of which no POSIX variant can be made (an empty or malformed one, or one
 /// with keywords, which would swallow the suffix) gives the locale itself; null gives null.
 ///
-/// Example:  KZMUtilitiesPosixLocale(std::make_shared<kzm::Locale>("de_CH"))->identifier()  // "de_CH_POSIX"
+/// Example:
+///   KZMUtilitiesPosixLocale(std::make_shared<kzm::Locale>("de_CH"))->identifier()  // "de_CH_POSIX"
 [[nodiscard]] KZM_EXPORT std::shared_ptr<const kzm::Locale> KZMUtilitiesPosixLocale(
     const std::shared_ptr<const kzm::Locale>& locale);
 
 /// The number alone, as text.
 ///
-/// options  read only, may be empty:
-///   "decimals"   integer   at most so many fraction digits; 0 when absent or mistyped
+/// options:
+///   "decimals"   integer   the most fraction digits
 ///
-/// Example (English):  KZMUtilitiesFormatNumber({{"decimals", 1}}, 1234.56)  // "1,234.6"
+/// Example (English):
+///   KZMUtilitiesFormatNumber({{"decimals", 1}}, 1234.56)  // "1,234.6"
 [[nodiscard]] KZM_EXPORT std::string KZMUtilitiesFormatNumber(const kzm::Dictionary& options, double value);
 
 #endif

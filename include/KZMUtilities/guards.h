@@ -1,4 +1,4 @@
-// Guards around code that raises the platform's exceptions, and a maximum and minimum that pass over what is no number.
+// Guards around code that raises the host's exceptions, and a maximum and minimum that ignore NaN and infinities.
 //
 // Everything here is free of shared state and may be called from any thread.
 #ifndef KZMUTILITIES_GUARDS_H
@@ -12,7 +12,7 @@
 
 namespace kzm {
 
-/// The platform's exception: the one kind that the guards below catch. Hosts throw it, or classes derived from it.
+/// The host's exception: the one kind that the guards below catch. Hosts throw it, or classes derived from it.
 class KZM_EXPORT Exception : public std::exception {
  public:
   /// `name` says which kind of exception it is, for programs; `reason` what happened, for people. Either may be empty.
@@ -34,26 +34,45 @@ class KZM_EXPORT Exception : public std::exception {
 
 }  // namespace kzm
 
-/// Runs the block and swallows a platform exception (kzm::Exception or a class derived from it) that it raises; nothing
-/// is logged. Any other exception passes on to the caller unchanged. An empty block does nothing.
+/// Runs the block and swallows a kzm::Exception, or a class derived from it, that it raises; nothing is logged. Any
+/// other exception passes on to the caller unchanged. An empty block does nothing.
+///
+/// Example:
+///   std::string done = "before";
+///   KZMTryCatchBlock([&] {
+///     done = "begun";
+///     throw kzm::Exception("Sensor", "no answer");
+///   });
+///   done  // "begun"
 KZM_EXPORT void KZMTryCatchBlock(const std::function<void()>& block);
 
-/// Runs the block and tells the completion how it ended: null for success, else the platform exception itself, with its
-/// dynamic type, valid during the call only.
+/// Runs the block and calls the completion with how it ended: null for success, else the kzm::Exception itself, with
+/// its dynamic type, valid during the call only.
 ///
-/// The completion's call with null is guarded like the block: if it raises a platform exception, the completion is
-/// called a second time, with that exception. What the completion raises when it is given an exception passes on to the
-/// caller, and so does any other kind of exception from the block. An empty block succeeds; an empty completion is told
-/// nothing.
+/// The completion's call with null is guarded like the block: if it raises a kzm::Exception, the completion is called a
+/// second time, with that exception. What the completion raises when it is given an exception passes on to the caller,
+/// and so does any other kind of exception from the block. An empty block succeeds; an empty completion is not called.
+///
+/// Example:
+///   std::string outcome;
+///   KZMTryCatchBlockWithError([] { throw kzm::Exception("Sensor", "no answer"); },
+///                             [&](const kzm::Exception* e) { outcome = e != nullptr ? e->reason() : "fine"; });
+///   outcome  // "no answer"
 KZM_EXPORT void KZMTryCatchBlockWithError(const std::function<void()>& block,
                                           const std::function<void(const kzm::Exception*)>& completion);
 
-/// The greater of the finite arguments; 0.0 when neither is finite (NaN, an infinity). On a tie, a:
-/// KZMMAXDouble(-0.0, 0.0) is -0.0.
+/// The greater of the finite arguments; 0.0 when neither is finite (NaN, an infinity). On a tie, a: the maximum of -0.0
+/// and 0.0 is -0.0.
+///
+/// Example:
+///   KZMMAXDouble(std::nan(""), -2.0)  // -2.0
 [[nodiscard]] KZM_EXPORT double KZMMAXDouble(double a, double b);
 
-/// The lesser of the finite arguments; 0.0 when neither is finite (NaN, an infinity). On a tie, b:
-/// KZMMINDouble(0.0, -0.0) is -0.0.
+/// The lesser of the finite arguments; 0.0 when neither is finite (NaN, an infinity). On a tie, b: the minimum of 0.0
+/// and -0.0 is -0.0.
+///
+/// Example:
+///   KZMMINDouble(3.0, -2.0)  // -2.0
 [[nodiscard]] KZM_EXPORT double KZMMINDouble(double a, double b);
 
 /// Published under its name, with no operations and no state. Its constructor is defined inside the library, for a

@@ -1,6 +1,6 @@
 // The keys of a Dictionary, and the names of all options and results.
 //
-// Like value.h, this header stands on its own: there is no library code behind it.
+// Like value.h, this header needs no library: all of its code is here.
 #ifndef KZMUTILITIES_KEY_H
 #define KZMUTILITIES_KEY_H
 
@@ -64,14 +64,14 @@ constexpr std::size_t signatureOf(std::uint32_t hash) noexcept { return (hash >>
 // The slot of the name with each signature.
 inline constexpr std::array<std::uint8_t, kSignatures> kSlotOfSignature = [] {
   constexpr std::uint8_t kNone = kSlottedNames.size();
-  std::array<std::uint8_t, kSignatures> slots{};
-  slots.fill(kNone);
+  std::array<std::uint8_t, kSignatures> places{};
+  places.fill(kNone);
   for (std::size_t i = 0; i < kSlottedNames.size(); ++i) {
-    std::uint8_t& slot = slots[signatureOf(hashOf(kSlottedNames[i]))];
+    std::uint8_t& slot = places[signatureOf(hashOf(kSlottedNames[i]))];
     if (slot != kNone) throw "two names have one signature";
     slot = static_cast<std::uint8_t>(i);
   }
-  return slots;
+  return places;
 }();
 
 }  // namespace internal

@@ -1,8 +1,8 @@
 // Child processes that must not run longer than a given time.
 //
 // Every operation may be called from any thread. Watchdogs and termination handlers run on the main queue, which is
-// GLib's default main context: the host's toolkit turns it, or the host does. The rest works without anybody turning
-// it.
+// GLib's default main context, run by the host's toolkit or by the host itself. Everything else works even if no one
+// runs it.
 #ifndef KZMUTILITIES_PROCESS_H
 #define KZMUTILITIES_PROCESS_H
 
@@ -22,9 +22,11 @@ namespace platform {
 class Child;
 }
 
+// ---- Files and pipes ------------------------------------------------------------------------------------------------
+
 /// An open file, pipe end or device. Copies are handles on the same one: closing any of them closes it for all, once;
-/// a descriptor number that the system has given to something else meanwhile is never closed. The last handle closes it
-/// too.
+/// a descriptor number that the system has since given to something else is never closed. The last handle to go closes
+/// it too.
 class KZM_EXPORT FileHandle {
  public:
   /// A closed handle.
@@ -52,7 +54,13 @@ class KZM_EXPORT FileHandle {
 /// A pipe: what goes into the writing end comes out of the reading end. Copies are handles on the same pipe.
 class KZM_EXPORT Pipe {
  public:
-  /// A new pipe; both ends are closed if the system has none to give.
+  /// A new pipe; both ends are closed if the system has no more.
+  ///
+  /// Example:
+  ///   const Pipe pipe;
+  ///   pipe.writingEnd().close();
+  ///   pipe.readingEnd().isOpen()  // true
+  ///   pipe.writingEnd().isOpen()  // false
   Pipe();
   [[nodiscard]] const FileHandle& readingEnd() const noexcept { return readingEnd_; }
   [[nodiscard]] const FileHandle& writingEnd() const noexcept { return writingEnd_; }
@@ -71,6 +79,8 @@ struct NullStream {};
 /// host; a file stays open until its last handle is gone.
 using StandardConnection = std::variant<InheritedStream, NullStream, Pipe, FileHandle>;
 
+// ---- Child processes ------------------------------------------------------------------------------------------------
+
 /// What is to be started, and how.
 struct ChildConfiguration {
   /// Path of the program, never searched for; a relative one starts at the host's working directory. It is also the
@@ -78,7 +88,7 @@ struct ChildConfiguration {
   std::string executable{};
   /// The arguments from number 1.
   std::vector<std::string> arguments{};
-  /// The whole environment; none: the host's.
+  /// The whole environment; null: the host's.
   std::optional<std::map<std::string, std::string>> environment{};
   /// Empty: the host's.
   std::string workingDirectory{};
@@ -107,8 +117,14 @@ struct ExitStatus {
 /// The exit is noticed by the main queue, or by the next isRunning, exitStatus, start or release of any ChildProcess.
 /// The object may be released while its child runs: the child goes on, pipes held by nobody else are closed, and the
 /// library keeps no more than what it needs to collect the exit and to call the termination handler. The library has no
-/// thread of its own, so in a host that neither turns its main queue nor calls any of these, an ended child waits to
+/// thread of its own, so in a host that neither runs its main queue nor calls any of these, an ended child waits to
 /// be collected until the host ends.
+///
+/// Example:
+///   ChildProcess child({.executable = "/bin/sh", .arguments = {"-c", "exit 3"}});
+///   child.launch()  // true
+///   while (child.isRunning()) std::this_thread::yield();
+///   child.exitStatus()->code  // 3
 class KZM_EXPORT ChildProcess {
  public:
   /// Called once on the main queue when the child has ended. It must not throw. While it is set and not yet called it
@@ -131,9 +147,15 @@ class KZM_EXPORT ChildProcess {
   bool launch();
 
   /// `launchWithTimeout:` Starts the child and arms a watchdog, which calls forceCancel on the main queue after
-  /// `seconds`, cut to whole nanoseconds: NaN, zero or less on its next turn, more than 9.2e9 (infinity too) never.
+  /// `seconds`, cut to whole nanoseconds: NaN, zero or less when it next runs, more than 9.2e9 (infinity too) never.
   /// The watchdog keeps the child object alive until it fires, also when the child has ended before. If the start
   /// fails, cleanup is called, and nothing else happens.
+  ///
+  /// Example:
+  ///   ChildProcess child({.executable = "/bin/sleep", .arguments = {"60"}});
+  ///   child.launchWithTimeout(10.0);
+  ///   child.isRunning()  // true
+  ///   child.forceCancel();
   void launchWithTimeout(double seconds);
 
   /// `forceCancel` Stops the child if it is running: SIGTERM at once, SIGKILL after 2 seconds on the main queue. Both

@@ -12,7 +12,7 @@ namespace kzm {
 /// The identifier of the bundle that holds the "KZMUtilities" string tables.
 inline constexpr std::string_view kBundleIdentifier = "org.kzm.utilities";
 
-/// The bundle with this identifier; null when there is none. Bundles live for ever. May be called from any thread.
+/// The bundle with this identifier; null when there is none. Bundles live forever. May be called from any thread.
 [[nodiscard]] KZM_EXPORT const ResourceBundle* bundleWithIdentifier(std::string_view identifier) noexcept;
 
 }  // namespace kzm

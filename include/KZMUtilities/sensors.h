@@ -20,8 +20,7 @@
 
 namespace kzm {
 
-/// The kinds of reading. The numbers are published; a kind is handed over as an integer, so that others can be asked
-/// for.
+/// The kinds of reading. The numbers are published. The kind is passed as an integer; an unknown one yields nothing.
 struct SensorType {
   enum Kind : std::int64_t {
     temperature = 1,  // in degrees Celsius; shown in the user's sensor temperature unit, always whole
@@ -44,13 +43,16 @@ struct SensorType {
 ///
 /// type  one of kzm::SensorType
 /// options:
-///   "space"                boolean    one blank between number and unit, of those that have a form with one
+///   "space"                boolean    one space between number and unit, of those that have a form with one
 ///   "reverse-type"         presence   temperature: swaps Celsius and Fahrenheit; Kelvin stays
 ///   "off"                  presence   fan: a speed of exactly 0 is the word for "Off"
 ///   "short"                boolean    light and frequency: the short unit, "Lx" and "G"
 ///   "decimals-amperage", "decimals-power", "decimals-voltage"   decimals rules of current, power and voltage; without
 ///                          one that holds 1, but 0 in the small unit and for a value of 0
 ///   "decimals-frequency"   decimals rules of frequency; without one that holds 2
+///
+/// Example (English):
+///   *KZMUtilitiesSensorData(kzm::SensorType::voltage, {}, 0.95)->find("value")  // 950.0
 [[nodiscard]] KZM_EXPORT std::optional<kzm::Dictionary> KZMUtilitiesSensorData(std::int64_t type,
                                                                                const kzm::Dictionary& options,
                                                                                double value);
@@ -59,11 +61,11 @@ struct SensorType {
 ///
 /// options  as above, and:
 ///   "units"   boolean    the number with its unit; else the number alone
-///   "strip"   presence   takes every blank out of the finished text, and every "," and "." too when the number has no
+///   "strip"   presence   takes every space out of the finished text, and every "," and "." too when the number has no
 ///                        decimals. Separators that are another kind of space stay.
 ///
-/// Example (English):  KZMUtilitiesFormatSensor(kzm::SensorType::fan, {{"units", true}, {"space", true}}, 1200.0)  //
-/// "1,200 rpm"
+/// Example (English):
+///   KZMUtilitiesFormatSensor(kzm::SensorType::fan, {{"units", true}, {"space", true}}, 1200.0)  // "1,200 rpm"
 [[nodiscard]] KZM_EXPORT std::string KZMUtilitiesFormatSensor(std::int64_t type, const kzm::Dictionary& options,
                                                               double value);
 

@@ -23,7 +23,7 @@ namespace kzm {
 ///   "Locale-Posix-<identifier>"             Locale
 ///   "Localizations-Units-Network", "…-DiskActivity", "…-Space", "…-Memory", "…-Sensors"
 ///                                           Dictionary, unit template to its text in the user's language
-/// An entry that a host puts there is used by the very next call. One of another kind than stands above counts as
+/// An entry that a host puts there is used by the very next call. One of another kind than listed above counts as
 /// missing: the library makes its own and stores it in that place.
 class KZM_EXPORT Cache {
  public:
@@ -57,18 +57,18 @@ class KZM_EXPORT Cache {
 /// Holder of the shared cache.
 class KZM_EXPORT KZMUtilities {
  public:
-  /// `shared`: the one instance that the library works with, made on the first call; it lives until the process ends.
+  /// `shared` The one instance that the library works with, made on the first call; it lives until the process ends.
   [[nodiscard]] static KZMUtilities& shared();
 
-  /// `init`: an instance with an empty cache.
+  /// `init` An instance with an empty cache.
   KZMUtilities();
   KZMUtilities(const KZMUtilities&) = delete;
   KZMUtilities& operator=(const KZMUtilities&) = delete;
   ~KZMUtilities();
 
-  /// `cache`: never null.
+  /// `cache` The cache, never null.
   [[nodiscard]] std::shared_ptr<kzm::Cache> cache() const;
-  /// `setCache:` puts another cache in place, for the next call on; null puts an empty one there.
+  /// `setCache:` Puts another cache in place, for the next call on; null puts an empty one there.
   void setCache(std::shared_ptr<kzm::Cache> cache);
 
  private:

@@ -16,17 +16,26 @@
 
 namespace kzm {
 
-/// `replaceString:withString:attributes:`   Replaces the first occurrence of the target by the replacement text with
+/// `replaceString:withString:attributes:` Replaces the first occurrence of the target by the replacement text with
 /// the given attributes over its whole length.
 ///
 /// The search is literal and case-sensitive, from the start. An empty target, or one that is not found, changes
 /// nothing; the rest of the text keeps its attributes.
 ///
-/// Example:  "%@ of %@" with "%@" replaced by "3" is "3 of %@".
+/// Example:
+///   AttributedString text("%@ of %@");
+///   replaceStringWithStringAttributes(text, "%@", "3", nullptr);
+///   text.text()  // "3 of %@"
 KZM_EXPORT void replaceStringWithStringAttributes(AttributedString& text, std::string_view target,
                                                   std::string_view replacement, const Value& attributes);
 
-/// `replaceString:withAttributedString:`   The same with a replacement that keeps its own runs.
+/// `replaceString:withAttributedString:` The same with a replacement that keeps its own runs.
+///
+/// Example:
+///   AttributedString text("%@ MB", "gray");
+///   replaceStringWithAttributedString(text, "%@", AttributedString("3", "bold"));
+///   text.runs()[0].attributes  // "bold"
+///   text.runs()[1].attributes  // "gray"
 KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::string_view target,
                                                   const AttributedString& replacement);
 
@@ -40,32 +49,35 @@ KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::s
 /// is, and so does one that is isolated as a whole. Not needed are isolates in a line whose direction and whose texts
 /// are all from left to right, and for a text that has a line of its own; there they are invisible, but in copies.
 ///
-/// Example:  isolated("19.7 GB") + " / " + isolated("83.1 GB")  // seen as "83.1 GB / 19.7 GB" in a Hebrew line
+/// Example: with another one after " / ", a Hebrew line shows the two in its own order
+///   isolated("19.7 GB")  // "\u206819.7 GB\u2069"
 [[nodiscard]] KZM_EXPORT std::string isolated(std::string_view text);
 
 /// The same; the marks have the attributes of their neighbors.
 [[nodiscard]] KZM_EXPORT AttributedString isolated(const AttributedString& text);
 
-/// `doesStringMatchExpression:`   Whether the pattern is found in the text and its capture group 1 took part.
+/// `doesStringMatchExpression:` Whether the pattern is found in the text and its capture group 1 took part.
 ///
 /// The pattern is an ICU regular expression, used case-insensitively by full Unicode folding and without any other
 /// option; the first match anywhere in the text counts. Invalid UTF-8 counts as U+FFFD, one for each bad sequence.
 ///
 /// False for an invalid pattern, one without a capture group, and a search that the engine gives up: after 2000 units
-/// of work of ten thousand steps each (about a quarter of a second) and one more for every 1250 bytes of text, after one
-/// second and half a microsecond for each byte of text in work that it does not count in steps, or when its stack is
-/// full. Not searched at all are texts above 1 GiB, texts above 16 KiB when the pattern refers back to a group, patterns
-/// above 2 KiB whose sets would take more than a quarter of a second to compile, and patterns above 64 KiB.
+/// of work of ten thousand steps each (about a quarter of a second) and one more for every 1250 bytes of text, after
+/// one second and half a microsecond for each byte of text in work that it does not count in steps, or when its stack
+/// is full. Not searched at all are texts above 1 GiB, texts above 16 KiB when the pattern refers back to a group,
+/// patterns above 2 KiB whose sets would take more than a quarter of a second to compile, and patterns above 64 KiB.
 ///
 /// A failed allocation throws std::bad_alloc.
 ///
-/// Example:  doesStringMatchExpression("ab", "([A-Z]{2})")  // true
+/// Example:
+///   doesStringMatchExpression("ab", "([A-Z]{2})")  // true
 [[nodiscard]] KZM_EXPORT bool doesStringMatchExpression(std::string_view text, std::string_view pattern);
 
-/// `matchForExpression:`   The text of capture group 1 in the first match, possibly empty; null where
+/// `matchForExpression:` The text of capture group 1 in the first match, possibly empty; null where
 /// doesStringMatchExpression is false.
 ///
-/// Example:  matchForExpression("12 Files", "(\\d+) files")  // "12"
+/// Example:
+///   matchForExpression("12 Files", "(\\d+) files")  // "12"
 [[nodiscard]] KZM_EXPORT std::optional<std::string> matchForExpression(std::string_view text, std::string_view pattern);
 
 }  // namespace kzm

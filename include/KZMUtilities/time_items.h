@@ -21,6 +21,9 @@
 ///
 /// The array is new on each call and the caller's own; the groups and all inside them are shared by all callers and
 /// never change. Nothing is localized, nothing depends on the date. Never fails. May be called from any thread.
+///
+/// Example:
+///   *KZMUtilitiesTimeItems()[0].dictionary()->find("type")  // "hour"
 [[nodiscard]] KZM_EXPORT kzm::Array KZMUtilitiesTimeItems();
 
 #endif

@@ -1,6 +1,6 @@
 // The values that options, results and settings are made of. Include dictionary.h, which completes this header.
 //
-// `Value` and `Dictionary` are plain types without any library code behind them: the settings, localization and
+// `Value` and `Dictionary` are plain types that need no library: the settings, localization and
 // utilities libraries all share them by this header alone. A Value is cheap to copy: strings are copied, arrays and
 // dictionaries are shared and never change once they are inside a Value. Like any standard container, one object may
 // be read from many threads, or changed by one.
@@ -24,7 +24,7 @@ class Value;
 
 using Array = std::vector<Value>;
 
-/// Base of everything that a Value hands through without looking inside: text attributes of a host's own kind, and
+/// Base of everything that a Value passes on without looking inside: text attributes of a host's own kind, and
 /// the shared objects of the library's cache.
 class Object {
  public:
@@ -33,7 +33,7 @@ class Object {
   Object& operator=(const Object&) = default;
   virtual ~Object() = default;
 
-  /// Whether the other object stands for the same thing. Two neighbouring runs of text with equal attributes are one.
+  /// Whether the other object means the same. Two neighboring runs of text with equal attributes are one.
   [[nodiscard]] virtual bool equals(const Object& other) const { return this == &other; }
 };
 

@@ -17,7 +17,7 @@ constexpr int kFirstFreeDescriptor = 3;
 constexpr mode_t kNewFileMode = 0666;
 
 int openFile(const std::string& path, int flags) {
-  if (path.find('\0') != std::string::npos) return -1;  // the system would open what stands before the zero byte
+  if (path.find('\0') != std::string::npos) return -1;  // the system would open what is before the zero byte
   return port::retried([&] { return ::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, kNewFileMode); });
 }
 

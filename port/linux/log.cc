@@ -1,4 +1,4 @@
-// The system log of a Linux desktop: the journal, else syslog, and standard error for whoever looks at the terminal.
+// The system log of a Linux desktop: the journal, else syslog, and standard error for a person at the terminal.
 #include "port/log.h"
 
 #include <array>
@@ -14,6 +14,7 @@
 #include <unistd.h>
 
 #include "port/linux/standard_error.h"
+#include "port/never_destroyed.h"
 
 namespace kzm::port {
 namespace {
@@ -62,8 +63,8 @@ class SystemLog final : public Log {
 }  // namespace
 
 Log& systemLog() {
-  static SystemLog& log = *std::make_unique<SystemLog>().release();
-  return log;
+  static NeverDestroyed<SystemLog> log;
+  return *log;
 }
 
 }  // namespace kzm::port

@@ -7,6 +7,8 @@
 #include <sys/eventfd.h>
 #include <utility>
 
+#include "port/never_destroyed.h"
+
 namespace kzm::port {
 namespace {
 
@@ -55,7 +57,7 @@ class DescriptorWatch final : public MainQueue::Watch {
 
 class GlibMainQueue final : public MainQueue {
  public:
-  // The context opens a descriptor when somebody first asks for it, and keeps it. Nobody can tell whether the host has
+  // The context opens a descriptor when somebody first asks for it, and keeps it. Nobody knows whether the host has
   // asked; so until we have done so, a place is kept, perhaps for nothing.
   std::optional<FileHandle> keepPlace() override {
     if (isOpen_.load(std::memory_order_acquire)) return std::nullopt;
@@ -89,8 +91,8 @@ class GlibMainQueue final : public MainQueue {
 }  // namespace
 
 MainQueue& mainQueue() {
-  static GlibMainQueue& queue = *std::make_unique<GlibMainQueue>().release();
-  return queue;
+  static NeverDestroyed<GlibMainQueue> queue;
+  return *queue;
 }
 
 }  // namespace kzm::port

@@ -1,4 +1,4 @@
-// Descriptors that stand for one process, asked of the kernel itself: C libraries older than glibc 2.36 have no calls
+// Descriptors of one process, asked of the kernel itself: C libraries older than glibc 2.36 have no calls
 // for them. A kernel before 5.4 answers ENOSYS or EINVAL.
 #ifndef KZM_PORT_LINUX_PIDFD_H
 #define KZM_PORT_LINUX_PIDFD_H

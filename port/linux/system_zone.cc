@@ -4,6 +4,7 @@
 #include <memory>
 #include <system_error>
 
+#include "port/never_destroyed.h"
 #include "port/time_zone.h"
 
 namespace kzm::port {
@@ -63,21 +64,30 @@ ZonePointer localZone(std::string identifier) {
   return std::make_shared<const LocalZone>(std::move(identifier));
 }
 
-// Named zones are there for ever.
+// Named zones are there forever.
 ZonePointer unowned(const Zone& zone) { return {ZonePointer(), &zone}; }
+
+// Whether the C library would open something that is no file: it would wait for the other end of a FIFO.
+bool isOtherThanAFile(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(path, error);
+  return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+}
 
 ZonePointer zoneOfVariable(std::string_view text) {
   if (text.starts_with(':')) text.remove_prefix(1);
   if (text.empty()) return unowned(utcZone());
   const Zone* named = namedZone(text.starts_with('/') ? nameInPath(text) : text);
-  return named != nullptr ? unowned(*named) : localZone(std::string(text));
+  if (named != nullptr) return unowned(*named);
+  return isOtherThanAFile(std::filesystem::path(zoneFolder()) / text) ? unowned(utcZone())
+                                                                      : localZone(std::string(text));
 }
 
 ZonePointer zoneOfLink(const std::filesystem::path& link) {
   std::error_code error;
   const std::string target = std::filesystem::read_symlink(link, error).string();
   if (const Zone* named = namedZone(nameInPath(target))) return unowned(*named);
-  return std::filesystem::exists(link, error) ? localZone("localtime") : unowned(utcZone());
+  return std::filesystem::is_regular_file(link, error) ? localZone("localtime") : unowned(utcZone());
 }
 
 }  // namespace
@@ -87,10 +97,9 @@ ZonePointer findSystemZone(const char* variable, const std::filesystem::path& li
 }
 
 const Zone& systemZone() {
-  // Never destroyed, as zones are handed out.
   // NOLINTNEXTLINE(concurrency-mt-unsafe): read once, and never written here
-  static const ZonePointer& zone = *new ZonePointer(findSystemZone(std::getenv("TZ"), "/etc/localtime"));
-  return *zone;
+  static const NeverDestroyed<ZonePointer> zone(findSystemZone(std::getenv("TZ"), "/etc/localtime"));
+  return **zone;
 }
 
 }  // namespace kzm::port

@@ -1,4 +1,4 @@
-// A started program behind a pidfd, a descriptor that stands for this one process and never for a later one that gets
+// A started program and its pidfd, a descriptor of this one process and never of a later one that gets
 // its number.
 #include "port/task.h"
 
@@ -28,7 +28,7 @@ ExitStatus statusOf(const siginfo_t& info) {
   return {exited ? ExitStatus::Reason::exited : ExitStatus::Reason::signaled, info.si_status};
 }
 
-// Made before its program is started, so that nothing can fail for want of memory afterwards.
+// Made before its program is started, so that nothing can fail for want of memory after that.
 class LinuxTask final : public Task {
  public:
   LinuxTask() = default;
@@ -61,7 +61,8 @@ class LinuxTask final : public Task {
     return status_;
   }
 
-  void signal(int number) override {
+  void stop(Stop how) override {
+    const int number = how == Stop::force ? SIGKILL : SIGTERM;
     if (!status_ && pidfd_ >= 0) signalPidfd(pidfd_, number);
   }
 

@@ -10,9 +10,8 @@ Dictionary code(Value code) { return {{"bandwidthformat", std::move(code)}}; }
 
 Dictionary reversed(Value code) { return {{"bandwidthformat", std::move(code)}, {"reverse-type", true}}; }
 
-void expectAll(std::span<const DataRow> rows) {
-  for (const DataRow& row : rows) expectData(row, KZMUtilitiesBandwidthData(row.options, row.quantity));
-}
+constexpr FamilyCalls kBandwidth{KZMUtilitiesBandwidthData, KZMUtilitiesFormatBandwidth,
+                                 KZMUtilitiesFormatBandwidthWithAttributes};
 
 TEST(Bandwidth, ThresholdsAreReachedNotPassed) {
   const DataRow rows[] = {
@@ -31,7 +30,7 @@ TEST(Bandwidth, ThresholdsAreReachedNotPassed) {
       {"early: a byte below giga", kEarly, 999999999.0, "%@MB/s", 953.6743154525757},
       {"early: above giga", kEarly, 0x1.dcd6500000001p29, "%@GB/s", 0x1.dcd6500000001p-1},
   };
-  expectAll(rows);
+  kBandwidth.expectAll(rows);
 }
 
 TEST(Bandwidth, AnEarlyUpgradeMovesTheThresholdsButNotTheFactors) {
@@ -50,7 +49,7 @@ TEST(Bandwidth, AnEarlyUpgradeMovesTheThresholdsButNotTheFactors) {
       {"any number is one",          {{"early-upgrade", -3}},            1000000.0,    "%@MB/s", 0.95367431640625},
   };
   // clang-format on
-  expectAll(rows);
+  kBandwidth.expectAll(rows);
 }
 
 TEST(Bandwidth, FormatCodes) {
@@ -80,7 +79,7 @@ TEST(Bandwidth, FormatCodes) {
       {"an array is 0",            code(Array{2}),   2048.0,       "%@KB/s", 2.0},
   };
   // clang-format on
-  expectAll(rows);
+  kBandwidth.expectAll(rows);
 }
 
 TEST(Bandwidth, TheReversedFormatIsOneWay) {
@@ -99,7 +98,7 @@ TEST(Bandwidth, TheReversedFormatIsOneWay) {
       {"present is enough: null",  {{"reverse-type", nullptr}}, 256.0,  "%@Kb/s", 2.0},
   };
   // clang-format on
-  expectAll(rows);
+  kBandwidth.expectAll(rows);
 }
 
 TEST(Bandwidth, EveryDoubleHasAnAnswer) {
@@ -125,7 +124,7 @@ TEST(Bandwidth, EveryDoubleHasAnAnswer) {
       {"the largest as bits",     code(2), kLargest,      "%@Gb/s", kInfinity},
   };
   // clang-format on
-  expectAll(rows);
+  kBandwidth.expectAll(rows);
 }
 
 // Every unit once: 2 kilo, 3 mega and 4 giga in each of the ten styles.
@@ -175,7 +174,7 @@ TEST(Bandwidth, UnitSizes) {
       {"present is enough: false", {{"short", false}, {"unitsize", 2}}, 2048.0, "2K"},
       {"present is enough: 0",     {{"short", 0}},                      2048.0, "2K"},
       {"present is enough: null",  {{"short", nullptr}},                2048.0, "2K"},
-      {"short with a blank",       {{"short", true}, {"space", true}},  2048.0, "2 K"},
+      {"short with a space",       {{"short", true}, {"space", true}},  2048.0, "2 K"},
       {"space as \"no\"",          {{"space", "no"}},                   2048.0, "2KB/s"},
       {"space as a text",          {{"space", "true"}},                 2048.0, "2 KB/s"},
       {"space as an array",        {{"space", Array{true}}},            2048.0, "2KB/s"},
@@ -192,11 +191,11 @@ TEST(Bandwidth, TheWorkedExample) {
                            {"unitsize", 3},
                            {"decimals-mb", Array{rule(10, 2), rule(100, 1)}},
                            {"attributes-main", "bold"},
-                           {"attributes-units", "grey"}};
+                           {"attributes-units", "gray"}};
   expectData({"data", {}, 0.0, "%@ Mb/s", 11.444091796875, 1}, KZMUtilitiesBandwidthData(options, 1500000.0));
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 1500000.0), "11.4 Mb/s");
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatBandwidthWithAttributes(options, 1500000.0)),
-            (Runs{{"11.4", "bold"}, {" Mb/s", "grey"}}));
+            (Runs{{"11.4", "bold"}, {" Mb/s", "gray"}}));
 }
 
 TEST(Bandwidth, WithoutDecimalsTheAttributedNumberIsNeverGrouped) {

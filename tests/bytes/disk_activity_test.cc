@@ -4,6 +4,9 @@
 namespace kzm::bytes {
 namespace {
 
+constexpr FamilyCalls kActivity{KZMUtilitiesDiskActivityData, KZMUtilitiesFormatDiskActivity,
+                                KZMUtilitiesFormatDiskActivityWithAttributes};
+
 const Dictionary kEarly{{"early-upgrade", true}};
 
 TEST(DiskActivity, LevelsAndValues) {
@@ -35,7 +38,7 @@ TEST(DiskActivity, LevelsAndValues) {
       {"no unit sizes",            {{"unitsize", 1}},        2048.0,               "%@KB/s", 2.0},
   };
   // clang-format on
-  for (const DataRow& row : rows) expectData(row, KZMUtilitiesDiskActivityData(row.options, row.quantity));
+  kActivity.expectAll(rows);
 }
 
 TEST(DiskActivity, EveryUnitInItsStyle) {
@@ -62,14 +65,11 @@ TEST(DiskActivity, EveryUnitInItsStyle) {
       {"infinite",                {},                                 kInfinity,    "∞GB/s"},
   };
   // clang-format on
-  for (const TextRow& row : rows) {
-    EXPECT_EQ(KZMUtilitiesFormatDiskActivity(row.options, row.quantity), row.text) << row.why;
-    EXPECT_EQ(KZMUtilitiesFormatDiskActivityWithAttributes(row.options, row.quantity).text(), row.text) << row.why;
-  }
+  kActivity.expectAll(rows);
 }
 
 TEST(DiskActivity, HiddenBytesAreADashInTheAttributedTextAlone) {
-  const Dictionary hides{{"hide-bytes", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
+  const Dictionary hides{{"hide-bytes", true}, {"attributes-main", "bold"}, {"attributes-units", "gray"}};
   struct Case {
     const char* why;
     Dictionary options;
@@ -81,15 +81,15 @@ TEST(DiskActivity, HiddenBytesAreADashInTheAttributedTextAlone) {
   const Case cases[] = {
       {"just below",       hides,                              1023.9,               dash},
       {"one ulp below",    hides,                              0x1.fffffffffffffp9,  dash},
-      {"at the bound",     hides,                              1024.0,               {{"1", "bold"}, {"KB/s", "grey"}}},
-      {"one ulp above",    hides,                              0x1.0000000000001p10, {{"1", "bold"}, {"KB/s", "grey"}}},
+      {"at the bound",     hides,                              1024.0,               {{"1", "bold"}, {"KB/s", "gray"}}},
+      {"one ulp above",    hides,                              0x1.0000000000001p10, {{"1", "bold"}, {"KB/s", "gray"}}},
       {"zero",             hides,                              0.0,                  dash},
       {"negative",         hides,                              -1e9,                 dash},
       {"minus infinite",   hides,                              -kInfinity,           dash},
-      {"NaN is not below", hides, kNaN, {{"NaN", "bold"}, {"KB/s", "grey"}}},
-      {"infinite",         hides,                              kInfinity,            {{"∞", "bold"}, {"GB/s", "grey"}}},
-      {"not asked for",    with(hides, "hide-bytes", false),   512.0,                {{"0", "bold"}, {"KB/s", "grey"}}},
-      {"null is no",       with(hides, "hide-bytes", nullptr), 512.0,                {{"0", "bold"}, {"KB/s", "grey"}}},
+      {"NaN is not below", hides, kNaN, {{"NaN", "bold"}, {"KB/s", "gray"}}},
+      {"infinite",         hides,                              kInfinity,            {{"∞", "bold"}, {"GB/s", "gray"}}},
+      {"not asked for",    with(hides, "hide-bytes", false),   512.0,                {{"0", "bold"}, {"KB/s", "gray"}}},
+      {"null is no",       with(hides, "hide-bytes", nullptr), 512.0,                {{"0", "bold"}, {"KB/s", "gray"}}},
       {"\"yes\" is yes",   with(hides, "hide-bytes", "yes"),   512.0,                dash},
       {"no attributes",    {{"hide-bytes", true}},             512.0,                {{"-", nullptr}}},
   };
@@ -103,9 +103,9 @@ TEST(DiskActivity, HiddenBytesAreADashInTheAttributedTextAlone) {
 }
 
 TEST(DiskActivity, TheAttributedNumberIsThatOfThePlainText) {
-  const Dictionary styled{{"attributes-main", "bold"}, {"attributes-units", "grey"}};
+  const Dictionary styled{{"attributes-main", "bold"}, {"attributes-units", "gray"}};
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatDiskActivityWithAttributes(styled, 1047552.0)),
-            (Runs{{"1,023", "bold"}, {"KB/s", "grey"}}));
+            (Runs{{"1,023", "bold"}, {"KB/s", "gray"}}));
 }
 
 }  // namespace

@@ -4,9 +4,7 @@
 namespace kzm::bytes {
 namespace {
 
-void expectAll(std::span<const DataRow> rows) {
-  for (const DataRow& row : rows) expectData(row, KZMUtilitiesSpaceData(row.options, row.quantity));
-}
+constexpr FamilyCalls kSpace{KZMUtilitiesSpaceData, KZMUtilitiesFormatSpace, KZMUtilitiesFormatSpaceWithAttributes};
 
 TEST(DiskSpace, TheFirstThreeThresholdsAreReachedTheFourthIsNot) {
   const DataRow rows[] = {
@@ -27,7 +25,7 @@ TEST(DiskSpace, TheFirstThreeThresholdsAreReachedTheFourthIsNot) {
       {"10^15 is peta", {}, 1000000000000000.0, "%@PB", 1.000000004096},
       {"above 10^15", {}, 0x1.c6bf526340001p49, "%@PB", 0x1.0000001197999p0},
   };
-  expectAll(rows);
+  kSpace.expectAll(rows);
 }
 
 TEST(DiskSpace, ThePetaDivisorIsInSinglePrecision) {
@@ -37,7 +35,7 @@ TEST(DiskSpace, ThePetaDivisorIsInSinglePrecision) {
       {"the divisor", {}, 999999995904000.0, "%@TB", 999.999995904},
       {"a thousandfold", {}, 999999995904000000.0, "%@PB", 1000.0},
   };
-  expectAll(rows);
+  kSpace.expectAll(rows);
 }
 
 TEST(DiskSpace, EveryDoubleHasAnAnswer) {
@@ -55,18 +53,13 @@ TEST(DiskSpace, EveryDoubleHasAnAnswer) {
       {"no format codes",    {{"bandwidthformat", 2}},  1e6,        "%@KB", 1000.0},
   };
   // clang-format on
-  expectAll(rows);
+  kSpace.expectAll(rows);
 }
 
 TEST(DiskSpace, EveryUnitInItsStyle) {
   constexpr double kSizes[] = {2e3, 3e6, 4e9, 5e12, 6e15};
-  struct Style {
-    const char* why;
-    Dictionary options;
-    const char* texts[5];
-  };
   // clang-format off
-  const Style styles[] = {
+  const StyleRow styles[] = {
       {"brief", {{"short", true}}, {"2K", "3M", "4G", "5T", "6P"}},
       {"spaced", {{"space", true}}, {"2 KB", "3 MB", "4 GB", "5 TB", "6 PB"}},
       {"tight", {}, {"2KB", "3MB", "4GB", "5TB", "6PB"}},
@@ -77,13 +70,7 @@ TEST(DiskSpace, EveryUnitInItsStyle) {
       {"no unit sizes", {{"unitsize", 1}}, {"2KB", "3MB", "4GB", "5TB", "6PB"}},
   };
   // clang-format on
-  for (const Style& style : styles) {
-    for (std::size_t level = 0; level < 5; ++level) {
-      EXPECT_EQ(KZMUtilitiesFormatSpace(style.options, kSizes[level]), style.texts[level]) << style.why;
-      EXPECT_EQ(KZMUtilitiesFormatSpaceWithAttributes(style.options, kSizes[level]).text(), style.texts[level])
-          << style.why;
-    }
-  }
+  kSpace.expectAll(styles, kSizes);
 }
 
 TEST(DiskSpace, ZerosAtTheEndAreDropped) {
@@ -100,17 +87,14 @@ TEST(DiskSpace, ZerosAtTheEndAreDropped) {
       {"infinite", {}, kInfinity, "∞PB"},
       {"minus infinite", {}, -kInfinity, "-∞KB"},
   };
-  for (const TextRow& row : rows) {
-    EXPECT_EQ(KZMUtilitiesFormatSpace(row.options, row.quantity), row.text) << row.why;
-    EXPECT_EQ(KZMUtilitiesFormatSpaceWithAttributes(row.options, row.quantity).text(), row.text) << row.why;
-  }
+  kSpace.expectAll(rows);
 }
 
 TEST(DiskSpace, TheNumberIsMainAndTheUnitIsUnit) {
-  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
+  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "gray"}};
   EXPECT_EQ(KZMUtilitiesFormatSpace(options, 250000000000.0), "250 GB");
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatSpaceWithAttributes(options, 250000000000.0)),
-            (Runs{{"250", "bold"}, {" GB", "grey"}}));
+            (Runs{{"250", "bold"}, {" GB", "gray"}}));
 }
 
 }  // namespace

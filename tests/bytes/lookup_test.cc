@@ -1,6 +1,7 @@
 // What the families ask the localization library for: this program brings its own, which writes down every lookup.
+#include "tests/support/lookup.h"
+
 #include <gtest/gtest.h>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,20 +12,13 @@
 
 namespace {
 
-struct Lookup {
-  std::string key;
-  std::string table;
-  const kzm::ResourceBundle* bundle;
-  std::optional<std::string> comment;
-};
-std::vector<Lookup> lookups;
+std::vector<kzm::tests::Lookup> lookups;
 
 }  // namespace
 
 std::string KZMLocalizedStringFromTableInBundle(std::string_view key, std::string_view table,
                                                 const kzm::ResourceBundle* bundle, const char* comment) {
-  lookups.push_back({std::string(key), std::string(table), bundle,
-                     comment != nullptr ? std::optional<std::string>(comment) : std::nullopt});
+  lookups.emplace_back(key, table, bundle, comment);
   return "<%@ of " + std::string(key) + ">";
 }
 
@@ -59,7 +53,7 @@ class Lookups : public testing::Test {
   [[nodiscard]] static Value cached(std::string_view key) { return KZMUtilities::shared().cache()->find(key); }
 };
 
-TEST_F(Lookups, BandwidthUnitsWithoutPerSecondBearItsHintsAllTheSame) {
+TEST_F(Lookups, BandwidthUnitsWithoutPerSecondHaveItsHintsAllTheSame) {
   constexpr Row kRows[] = {
       {"%@ G", "gigabyte"},         {"%@ M", "megabyte"},         {"%@ K", "kilobyte"},
       {"%@G", "gigabyte"},          {"%@M", "megabyte"},          {"%@K", "kilobyte"},

@@ -4,9 +4,7 @@
 namespace kzm::bytes {
 namespace {
 
-void expectAll(std::span<const DataRow> rows) {
-  for (const DataRow& row : rows) expectData(row, KZMUtilitiesMemoryData(row.options, row.quantity));
-}
+constexpr FamilyCalls kMemory{KZMUtilitiesMemoryData, KZMUtilitiesFormatMemory, KZMUtilitiesFormatMemoryWithAttributes};
 
 TEST(Memory, TheFirstThresholdIsReachedTheOthersAreNot) {
   const DataRow rows[] = {
@@ -26,7 +24,7 @@ TEST(Memory, TheFirstThresholdIsReachedTheOthersAreNot) {
       {"above 2^50", {}, 0x1.0000000000001p50, "%@PB", 0x1.0000000000001p0},
       {"nothing above peta", {}, 0x1p60, "%@PB", 1024.0},
   };
-  expectAll(rows);
+  kMemory.expectAll(rows);
 }
 
 TEST(Memory, EveryDoubleHasAnAnswer) {
@@ -44,18 +42,13 @@ TEST(Memory, EveryDoubleHasAnAnswer) {
       {"no reversal",        {{"reverse-type", true}},  2048.0,        "%@KB", 2.0},
   };
   // clang-format on
-  expectAll(rows);
+  kMemory.expectAll(rows);
 }
 
 TEST(Memory, EveryUnitInItsStyle) {
   constexpr double kSizes[] = {2048.0, 3145728.0, 4294967296.0, 5497558138880.0, 6755399441055744.0};
-  struct Style {
-    const char* why;
-    Dictionary options;
-    const char* texts[5];
-  };
   // clang-format off
-  const Style styles[] = {
+  const StyleRow styles[] = {
       {"brief",                   {{"short", true}},                   {"2K", "3M", "4G", "5T", "6P"}},
       {"spaced",                  {{"space", true}},                   {"2 KB", "3 MB", "4 GB", "5 TB", "6 PB"}},
       {"tight",                   {},                                  {"2KB", "3MB", "4GB", "5TB", "6PB"}},
@@ -65,19 +58,13 @@ TEST(Memory, EveryUnitInItsStyle) {
       {"no unit sizes",           {{"unitsize", 1}},                   {"2KB", "3MB", "4GB", "5TB", "6PB"}},
   };
   // clang-format on
-  for (const Style& style : styles) {
-    for (std::size_t level = 0; level < 5; ++level) {
-      EXPECT_EQ(KZMUtilitiesFormatMemory(style.options, kSizes[level]), style.texts[level]) << style.why;
-      EXPECT_EQ(KZMUtilitiesFormatMemoryWithAttributes(style.options, kSizes[level]).text(), style.texts[level])
-          << style.why;
-    }
-  }
+  kMemory.expectAll(styles, kSizes);
 }
 
 TEST(Memory, TextsInBothRenderings) {
   const Dictionary twoDigits{{"decimals-kb", Array{rule(10000, 2)}}, {"decimals-mb", Array{rule(10000, 2)}}};
   const TextRow rows[] = {
-      {"exactly so many digits", twoDigits, 1572864.0, "1.50MB"},
+      {"exactly two digits", twoDigits, 1572864.0, "1.50MB"},
       {"zeros stay", twoDigits, 2097152.0, "2.00MB"},
       {"grouped with digits", twoDigits, 1048576.0, "1,024.00KB"},
       {"grouped without digits too", {}, 1048576.0, "1,024KB"},
@@ -86,17 +73,14 @@ TEST(Memory, TextsInBothRenderings) {
       {"minus infinite", {}, -kInfinity, "-∞KB"},
       {"minus zero", {}, -0.0, "-0KB"},
   };
-  for (const TextRow& row : rows) {
-    EXPECT_EQ(KZMUtilitiesFormatMemory(row.options, row.quantity), row.text) << row.why;
-    EXPECT_EQ(KZMUtilitiesFormatMemoryWithAttributes(row.options, row.quantity).text(), row.text) << row.why;
-  }
+  kMemory.expectAll(rows);
 }
 
 TEST(Memory, TheNumberIsMainAndTheUnitIsUnit) {
-  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
+  const Dictionary options{{"space", true}, {"attributes-main", "bold"}, {"attributes-units", "gray"}};
   EXPECT_EQ(KZMUtilitiesFormatMemory(options, 1073741824.0), "1 GB");
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatMemoryWithAttributes(options, 1073741824.0)),
-            (Runs{{"1", "bold"}, {" GB", "grey"}}));
+            (Runs{{"1", "bold"}, {" GB", "gray"}}));
 }
 
 }  // namespace

@@ -44,6 +44,13 @@ struct TextRow {
   const char* text;
 };
 
+/// Options, and the text of a size at each level.
+struct StyleRow {
+  const char* why;
+  Dictionary options;
+  const char* texts[5];
+};
+
 inline bool isSame(double a, double b) {
   return std::isnan(a) ? std::isnan(b) : a == b && std::signbit(a) == std::signbit(b);
 }
@@ -59,7 +66,30 @@ inline void expectData(const DataRow& row, const Dictionary& result) {
   EXPECT_TRUE(isSame(*value, row.value)) << std::hexfloat << *value << " is not " << row.value;
 }
 
-/// A decimals rule: so many digits below the bound.
+/// The three calls of a family. Rows are compared with what they give.
+struct FamilyCalls {
+  Dictionary (*data)(const Dictionary& options, double quantity);
+  std::string (*plain)(const Dictionary& options, double quantity);
+  AttributedString (*attributed)(const Dictionary& options, double quantity);
+
+  void expectAll(std::span<const DataRow> rows) const {
+    for (const DataRow& row : rows) expectData(row, data(row.options, row.quantity));
+  }
+  void expectText(const char* why, const Dictionary& options, double quantity, const char* text) const {
+    EXPECT_EQ(plain(options, quantity), text) << why;
+    EXPECT_EQ(attributed(options, quantity).text(), text) << why;
+  }
+  void expectAll(std::span<const TextRow> rows) const {
+    for (const TextRow& row : rows) expectText(row.why, row.options, row.quantity, row.text);
+  }
+  void expectAll(std::span<const StyleRow> rows, const double (&sizes)[5]) const {
+    for (const StyleRow& row : rows) {
+      for (std::size_t level = 0; level < 5; ++level) expectText(row.why, row.options, sizes[level], row.texts[level]);
+    }
+  }
+};
+
+/// A decimals rule: the given number of digits below the bound.
 inline Value rule(Value bound, Value decimals) {
   return Dictionary{{"value", std::move(bound)}, {"decimals", std::move(decimals)}};
 }

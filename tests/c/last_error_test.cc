@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <new>
+#include <stdexcept>
 #include <string>
 
 namespace kzm::c {
@@ -22,15 +23,19 @@ TEST(LastError, IsCutBetweenCharacters) {
   };
   for (const Case& c : cases) {
     setError(c.text);
-    EXPECT_EQ(lastError(), c.told) << c.why;
+    EXPECT_EQ(lastError, c.told) << c.why;
   }
 }
 
-TEST(LastError, TellsOfAFailedAllocation) {
+TEST(LastError, TellsOfWhateverIsThrown) {
   EXPECT_EQ(guarded(7, []() -> int { throw std::bad_alloc(); }), 7);
-  EXPECT_STREQ(lastError(), "out of memory");
+  EXPECT_STREQ(lastError, "out of memory");
+  EXPECT_EQ(guarded(7, []() -> int { throw std::runtime_error("no"); }), 7);
+  EXPECT_STREQ(lastError, "no");
+  EXPECT_EQ(guarded(7, []() -> int { throw 1; }), 7);
+  EXPECT_STREQ(lastError, "something was thrown that is no error");
   EXPECT_EQ(guarded(7, [] { return 8; }), 8);
-  EXPECT_EQ(lastError(), nullptr);
+  EXPECT_EQ(lastError, nullptr);
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace kzm::c {
 namespace {
 
-// {"n": number}, with as many bytes behind it as make it that long.
+// {"n": number}, with as many bytes after it as make it that long.
 std::string textOf(int number, std::size_t size = 0) {
   std::string text = "{\"n\": " + std::to_string(number) + "}";
   text.resize(std::max(text.size(), size), ' ');

@@ -53,6 +53,33 @@ TEST(Batch, AnswersInOrder) {
   EXPECT_EQ(outcome.status, 0);
 }
 
+TEST(Batch, BytesAfterAZeroByteAreAnError) {
+  const std::string_view line("{\"call\":\"mpsToKph\",\"args\":[1],\"id\":1}\0garbage]]]\n", 49);
+  EXPECT_EQ(run({"call", "--batch"}, line).output, R"({"id": null, "error": "malformed JSON at byte 38"})"
+                                                   "\n");
+}
+
+TEST(Batch, IdsComeBackAsTheyCame) {
+  for (const char* id : {"12345678901234567890123", "-12345678901234567890123", "0.10000000000000000001", "1.50",
+                         R"(["a",{"b":18446744073709551616}])", "18446744073709551615", "1E3", "0.1"}) {
+    EXPECT_EQ(run({"call", "--batch"}, std::string(R"({"call":"mpsToKph","args":[1],"id":)") + id + "}\n").output,
+              std::string(R"({"id": )") + id + R"(, "result": 3.6})" + "\n");
+  }
+}
+
+TEST(Batch, AByteOrderMarkIsPassedOver) {
+  EXPECT_EQ(run({"call", "--batch"}, "\xEF\xBB\xBF{\"call\":\"mpsToKph\",\"args\":[1],\"id\":1}\n").output,
+            R"({"id": 1, "result": 3.6})"
+            "\n");
+}
+
+TEST(Batch, ALineHasAnyLength) {
+  const std::string spaces(std::size_t{20} << 20U, ' ');
+  EXPECT_EQ(run({"call", "--batch"}, spaces + R"({"call":"mpsToKph","args":[1],"id":1})" + "\n").output,
+            R"({"id": 1, "result": 3.6})"
+            "\n");
+}
+
 TEST(Batch, SettingsHoldFromTheirLineOn) {
   const std::string pressure = R"("call": "KZMUtilitiesFormatWeatherPressure", "args": [{"units": true}, 1013])";
   const std::string lines = "{" + pressure + ", \"settings\": {\"Weather.Global.Units.Pressure\": 2}}\n" +  //

@@ -69,6 +69,30 @@ TEST(Call, PrintsTheResult) {
   }
 }
 
+TEST(Call, DoublesAreTheirShortestText) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"2.7536714443987216e+20", "2.7536714443987216e+20\n"},
+      {"275367144439872159744.5", "2.7536714443987216e+20\n"},
+      {"36028797018963968.0", "36028797018963968.0\n"},
+      {"-100000000000000000000", "-1e+20\n"},
+      {"1000", "1000.0\n"},
+      {"100000", "1e+05\n"},
+      {"0.1", "0.1\n"},
+      {"-0.0", "-0.0\n"},
+      {"5e-324", "5e-324\n"},
+  };
+  for (const auto& [number, text] : cases) EXPECT_EQ(run({"call", "KZMMAXDouble", number, number}).output, text);
+}
+
+TEST(Call, NumbersBeyondTheTypesGoThroughAttributesUnread) {
+  const Outcome outcome =
+      run({"call", "KZMUtilitiesFormatPercentageWithAttributes",
+           R"({"attributes-main":12345678901234567890123,"attributes-units":12345678901234567890124})", "5"});
+  EXPECT_EQ(outcome.output, R"({"text": "5%", "runs": [{"text": "5", "attributes": 12345678901234567890123}, )"
+                            R"({"text": "%", "attributes": 12345678901234567890124}]})"
+                            "\n");
+}
+
 TEST(Call, RefusesInOneLine) {
   const Case cases[] = {
       {{"formatMemory", "{}", "1"}, "no function is named \"formatMemory\""},

@@ -130,6 +130,33 @@ TEST(Format, ReadsLinesFromStandardInput) {
   EXPECT_EQ(run({"format", "memory"}).output, "");
 }
 
+// Lines are read in blocks of 65,536 bytes, and end where they end.
+TEST(Format, ReadsLinesAcrossBlocks) {
+  std::string lines;
+  std::string answers;
+  for (int i = 0; i < 30000; ++i) {
+    lines += "1024\n";
+    answers += "1KB\n";
+  }
+  EXPECT_EQ(run({"format", "memory"}, lines).output, answers);
+  EXPECT_EQ(run({"format", "memory"}, std::string(200000, ' ') + "2048\n1024").output, "2KB\n1KB\n");
+  EXPECT_EQ(run({"format", "memory"}, std::string(65536 - 5, ' ') + "1024\n2048\n").output, "1KB\n2KB\n");
+}
+
+TEST(Format, InputThatCannotBeReadIsAFailure) {
+  Pipe out;
+  Pipe err;
+  const int folder = ::open("/", O_RDONLY | O_CLOEXEC);
+  const pid_t process = started({"format", "memory"}, folder, out.writer(), err.writer());
+  ::close(folder);
+  err.closeWriter();
+  std::string errors;
+  while (readSome(err.reader(), errors)) {
+  }
+  EXPECT_EQ(errors, "kzmutil: standard input could not be read\n");
+  EXPECT_EQ(statusOf(process), 1);
+}
+
 TEST(Format, AnswersEachLineAtOnce) {
   Pipe in;
   Pipe out;

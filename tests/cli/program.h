@@ -1,4 +1,4 @@
-// Runs the real kzmutil in an environment of its own, and tells what it said.
+// Runs the real kzmutil in an environment of its own, and returns what it said.
 #ifndef KZM_TESTS_CLI_PROGRAM_H
 #define KZM_TESTS_CLI_PROGRAM_H
 

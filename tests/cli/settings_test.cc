@@ -159,12 +159,14 @@ TEST(Settings, BadInputIsOneLineWithTheRightWords) {
   }
 }
 
-TEST(Settings, AWriteThatFailsIsOneLineAndStatusOne) {
+TEST(Settings, AWriteThatFailsNamesTheFileAndTheReason) {
+  const std::string path = configuration().path("config/KZMUtilities/settings.json");
   configuration().write("config/KZMUtilities/settings.json", "broken");
   const Outcome outcome = run({"settings", "set", kPressure, "2"});
   configuration().write("config/KZMUtilities/settings.json", "{}");
-  EXPECT_TRUE(outcome.errors.ends_with("kzmutil: settings: the settings file could not be written\n"))
-      << outcome.errors;
+  EXPECT_EQ(outcome.errors, "KZMSettings: " + path +
+                                " is not changed: line 1 is not JSON\n"
+                                "kzmutil: settings: the settings file could not be written\n");
   EXPECT_EQ(outcome.output, "");
   EXPECT_EQ(outcome.status, 1);
 }

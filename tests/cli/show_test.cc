@@ -49,7 +49,7 @@ TEST(Show, EverythingWithoutATopic) {
   const Outcome all = run({"show", "--interval", "0.1"});
   EXPECT_EQ(all.status, 0);
   for (const char* title : {"Memory ", "\n\nLoad\n"}) EXPECT_NE(all.output.find(title), std::string::npos) << title;
-  EXPECT_EQ(all.output.find("none"), std::string::npos) << "what the machine lacks is left out";
+  EXPECT_EQ(all.output.find("  –\n"), std::string::npos) << "what the machine lacks is left out";
 }
 
 TEST(Monitor, EndsAfterTheCount) {
@@ -61,7 +61,7 @@ TEST(Monitor, EndsAfterTheCount) {
 }
 
 TEST(Monitor, EndsCleanlyBySignal) {
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
     Pipe out;
     const pid_t process =
         started({"monitor", "memory", "--interval", "3600"}, STDIN_FILENO, out.writer(), STDERR_FILENO);
@@ -80,7 +80,14 @@ TEST(Monitor, EndsWhenNobodyReadsLongBeforeTheNextDrawing) {
   std::string text;
   ASSERT_TRUE(readSome(out.reader(), text));
   out.closeReader();
-  EXPECT_EQ(statusOf(process), 0);
+  EXPECT_EQ(statusOf(process), 1);
+}
+
+TEST(Monitor, EndsAtADrawingThatNobodyReads) {
+  Pipe out;
+  out.closeReader();
+  EXPECT_EQ(statusOf(started({"monitor", "memory", "--interval", "0.1"}, STDIN_FILENO, out.writer(), STDERR_FILENO)),
+            1);
 }
 
 // A terminal of our own.
@@ -139,6 +146,19 @@ TEST(Monitor, RedrawsInPlaceOnATerminalAndGivesTheCursorBack) {
   EXPECT_TRUE(terminal.saw("\x1b[?25h"));
 }
 
+TEST(Monitor, GivesTheCursorBackAfterEverySignalThatEndsIt) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
+    Terminal terminal(24, 60);
+    if (!terminal.isThere()) GTEST_SKIP() << "left out: there are no terminals, as /dev/pts is not mounted";
+    const pid_t process =
+        started({"monitor", "memory", "--interval", "3600"}, STDIN_FILENO, terminal.end(), STDERR_FILENO);
+    ASSERT_TRUE(terminal.saw("\x1b[J"));
+    ::kill(process, signal);
+    EXPECT_EQ(statusOf(process), 0) << signal;
+    EXPECT_TRUE(terminal.saw("\x1b[?25h")) << signal;
+  }
+}
+
 TEST(Monitor, IsCutToTheHeightOfTheTerminal) {
   Terminal terminal(4, 200);
   if (!terminal.isThere()) GTEST_SKIP() << "left out: there are no terminals, as /dev/pts is not mounted";
@@ -148,7 +168,7 @@ TEST(Monitor, IsCutToTheHeightOfTheTerminal) {
   ASSERT_TRUE(terminal.saw("\x1b[?25h"));
   const std::string text = terminal.take();
   EXPECT_EQ(countOf(text, "\n"), 3U) << text;
-  EXPECT_NE(text.find(" more lines"), std::string::npos) << text;
+  EXPECT_NE(text.find("… +"), std::string::npos) << text;
   EXPECT_EQ(text.find("\x1b[1m"), std::string::npos) << "no styles";
 }
 

@@ -8,7 +8,7 @@
 namespace kzm::tests {
 namespace {
 
-constexpr const char* kVerbs[] = {"show", "monitor", "format", "settings", "call", "list"};
+constexpr const char* kVerbs[] = {"show", "monitor", "format", "settings", "languages", "call", "list"};
 
 TEST(Usage, EveryVerbHasHelp) {
   for (const char* verb : kVerbs) {
@@ -43,6 +43,8 @@ TEST(Usage, TheProgramTakesFlagsBeforeItsVerb) {
   const Case cases[] = {
       {{"--locale", "de_DE", "format", "number", "1234"}, "1.234\n"},
       {{"--locale=de_DE", "format", "number", "1234"}, "1.234\n"},
+      {{"--locale", "C", "format", "number", "1234"}, "1,234\n"},
+      {{"--locale", "oc", "format", "number", "1234"}, "1,234\n"},
       {{"--locale", "de_DE", "--time-zone", "Asia/Tokyo", "call", "dayStart", "1700000000"}, "1699974000.0\n"},
       {{"--locale", "de_DE", "format", "--locale", "fr_CA", "number", "0.5", "--decimals", "1"}, "0,5\n"},
   };
@@ -71,7 +73,11 @@ TEST(Usage, UnknownWordsAreOneLine) {
       {{"frobnicate"}, "kzmutil: no verb is named \"frobnicate\"; `kzmutil --help` lists them\n"},
       {{"--frobnicate"}, "kzmutil: no option \"--frobnicate\"; `kzmutil --help` lists them\n"},
       {{"--locale"}, "kzmutil: --locale: its value is missing\n"},
+      {{"--locale", "german", "list"}, "kzmutil: no locale \"german\"; names are such as de_CH\n"},
+      {{"--locale=", "list"}, "kzmutil: no locale \"\"; names are such as de_CH\n"},
+      {{"format", "number", "1", "--locale", "xx_DE"}, "kzmutil: locale \"xx_DE\" is of no known language\n"},
       {{"list", "x"}, "kzmutil: list takes no arguments\n"},
+      {{"languages", "de"}, "kzmutil: languages takes no arguments\n"},
       {{"call", "--frob"}, "kzmutil: call: no option \"--frob\"; `kzmutil call --help` lists them\n"},
       {{"call"}, "kzmutil: call: a name is missing; `kzmutil list` shows them\n"},
       {{"call", "--locale"}, "kzmutil: --locale: its value is missing\n"},

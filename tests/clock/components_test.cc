@@ -6,8 +6,6 @@
 
 #include <KZMUtilities/dates.h>
 
-#include "clock/calendar.h"
-#include "clock/weeks.h"
 #include "tests/clock/zones.h"
 
 namespace kzm {
@@ -116,44 +114,6 @@ TEST(Components, NumberGivesIntegersOnly) {
   EXPECT_EQ(found->number(kCalendarUnitYear), 1970);
   EXPECT_EQ(found->number(kCalendarUnitTimeZone), std::nullopt);
   EXPECT_EQ(found->number(kCalendarUnitDay), std::nullopt);
-}
-
-TEST(Weeks, AreCountedByTheLocalesRules) {
-  constexpr port::WeekRules kIso{2, 4};
-  constexpr port::WeekRules kUnitedStates{1, 1};
-  struct Case {
-    const char* why;
-    std::int64_t day;
-    port::WeekRules rules;
-    std::int64_t year;
-    int week;
-    int weekOfMonth;
-  };
-  const Case cases[] = {
-      {"Sunday 2023-01-01, ISO", 19358, kIso, 2022, 52, 0},
-      {"Sunday 2023-01-01, Sunday is 1", 19358, kUnitedStates, 2023, 1, 1},
-      {"Monday 2024-12-30, ISO", 20087, kIso, 2025, 1, 5},
-      {"Sunday 2021-01-03, ISO", 18630, kIso, 2020, 53, 0},
-      {"Sunday 2023-12-31, ISO", 19722, kIso, 2023, 52, 4},
-      {"Sunday 2023-12-31, Sunday is 1", 19722, kUnitedStates, 2024, 1, 6},
-      {"Sunday 2023-11-12, ISO", 19673, kIso, 2023, 45, 2},
-      {"Sunday 2023-11-12, Sunday is 1", 19673, kUnitedStates, 2023, 46, 3},
-  };
-  for (const Case& c : cases) {
-    const std::int64_t year = clock::yearOfWeek(c.day, c.rules);
-    EXPECT_EQ(year, c.year) << c.why;
-    EXPECT_EQ(clock::weekNumber(c.day, clock::newYearsDay(year), c.rules), c.week) << c.why;
-    const std::int64_t firstOfMonth = c.day - clock::dateOfDay(c.day).day + 1;
-    EXPECT_EQ(clock::weekNumber(c.day, firstOfMonth, c.rules), c.weekOfMonth) << c.why;
-  }
-}
-
-TEST(Calendar, DayNumbersAndDatesAgreeEverywhere) {
-  for (std::int64_t day = -2441000; day < 200000000; day += day < 1000000 ? 1 : 997) {
-    const clock::CivilDate date = clock::dateOfDay(day);
-    ASSERT_EQ(clock::dayOfDate(date), day);
-    ASSERT_TRUE(date.day >= 1 && date.day <= clock::daysInMonth(date.year, date.month)) << day;
-  }
 }
 
 TEST(DateFromComponents, TakesTheNamedFieldsOfNow) {

@@ -15,7 +15,7 @@ using tests::Runs;
 
 AttributedString sample() {
   AttributedString text("11.4", "bold");
-  text.append(AttributedString(" Mb/s", "grey"));
+  text.append(AttributedString(" Mb/s", "gray"));
   return text;
 }
 
@@ -33,13 +33,13 @@ TEST(AttributedString, ReplacesRangesAndKeepsTheRest) {
        2,
        1,
        AttributedString(","),
-       {{"11", "bold"}, {",", nullptr}, {"4", "bold"}, {" Mb/s", "grey"}}},
-      {"across two runs", 2, 4, AttributedString("x", "red"), {{"11", "bold"}, {"x", "red"}, {"b/s", "grey"}}},
-      {"equal neighbours are one", 4, 1, AttributedString("!", "bold"), {{"11.4!", "bold"}, {"Mb/s", "grey"}}},
-      {"an insertion", 0, 0, AttributedString("~", "grey"), {{"~", "grey"}, {"11.4", "bold"}, {" Mb/s", "grey"}}},
-      {"a deletion", 0, 5, AttributedString(), {{"Mb/s", "grey"}}},
+       {{"11", "bold"}, {",", nullptr}, {"4", "bold"}, {" Mb/s", "gray"}}},
+      {"across two runs", 2, 4, AttributedString("x", "red"), {{"11", "bold"}, {"x", "red"}, {"b/s", "gray"}}},
+      {"equal neighbors are one", 4, 1, AttributedString("!", "bold"), {{"11.4!", "bold"}, {"Mb/s", "gray"}}},
+      {"an insertion", 0, 0, AttributedString("~", "gray"), {{"~", "gray"}, {"11.4", "bold"}, {" Mb/s", "gray"}}},
+      {"a deletion", 0, 5, AttributedString(), {{"Mb/s", "gray"}}},
       {"cut at the end", 4, kEnd, AttributedString("."), {{"11.4", "bold"}, {".", nullptr}}},
-      {"beyond the end", 99, 1, AttributedString("?", "grey"), {{"11.4", "bold"}, {" Mb/s?", "grey"}}},
+      {"beyond the end", 99, 1, AttributedString("?", "gray"), {{"11.4", "bold"}, {" Mb/s?", "gray"}}},
       {"everything", 0, kEnd, AttributedString(), {}},
   };
   for (const Case& c : cases) {
@@ -53,12 +53,15 @@ TEST(AttributedString, NeverSplitsACharacter) {
   AttributedString text("a°b", "bold");
   text.replace(2, 0, AttributedString("-"));  // between the two bytes of the degree sign
   EXPECT_EQ(text.text(), "a-b") << "the range grows to the whole character";
+  text = AttributedString("%@\x85", "bold");  // no UTF-8: a byte that continues nothing
+  text.replace(0, 2, AttributedString("3"));
+  EXPECT_EQ(text.text(), "3\x85") << "it is text of its own";
 }
 
 TEST(AttributedString, ReplacesTheFirstOccurrenceOnly) {
-  AttributedString text("%@ of %@", "grey");
+  AttributedString text("%@ of %@", "gray");
   EXPECT_TRUE(text.replaceFirst("%@", AttributedString("3", "bold")));
-  EXPECT_EQ(tests::runsOf(text), (Runs{{"3", "bold"}, {" of %@", "grey"}}));
+  EXPECT_EQ(tests::runsOf(text), (Runs{{"3", "bold"}, {" of %@", "gray"}}));
   EXPECT_FALSE(text.replaceFirst("OF", AttributedString("x"))) << "the search is case-sensitive";
   EXPECT_FALSE(text.replaceFirst("", AttributedString("x"))) << "an empty target is not found";
 }

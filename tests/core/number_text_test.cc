@@ -2,16 +2,16 @@
 
 #include <cmath>
 #include <cstdint>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
 #include <map>
 #include <random>
 #include <string>
-#include <unicode/numberformatter.h>
+#include <unicode/locid.h>
 
 #include "core/template.h"
 #include "port/environment_locale.h"
+#include "tests/core/number_reference.h"
 
 namespace kzm::core {
 namespace {
@@ -166,50 +166,14 @@ TEST(NumberText, PlainWholeNumbersHaveNoLocale) {
   for (const Case& c : cases) EXPECT_EQ(numberAlone(plainStyle(), c.value), c.text) << c.value;
 }
 
-// The locale library's own formatter is the reference for what a number looks like; ours is faster, and equal.
-class Reference {
- public:
-  Reference(const char* locale, int least, int most)
-      : formatter_(icu::number::NumberFormatter::withLocale(locale)
-                       .precision(icu::number::Precision::minMaxFraction(least, most))
-                       .roundingMode(UNUM_ROUND_HALFEVEN)) {}
-
-  std::string text(double value) const {
-    UErrorCode status = U_ZERO_ERROR;
-    std::string bytes;
-    formatter_.formatDouble(value, status).toString(status).toUTF8String(bytes);
-    return U_SUCCESS(status) ? bytes : "failed";
-  }
-
- private:
-  icu::number::LocalizedNumberFormatter formatter_;
-};
-
-double anyDouble(std::mt19937_64& random) {
-  switch (random() % 4) {
-    case 0: {  // every bit pattern
-      const std::uint64_t bits = random();
-      double value = 0;
-      std::memcpy(&value, &bits, sizeof value);
-      return std::isnan(value) ? 0.0 : value;
-    }
-    case 1:
-      return static_cast<double>(random() % 20000001) / 1000.0 - 10000.0;  // three decimals: many ties
-    case 2:
-      return static_cast<double>(random() % 2000001) / 2.0;  // halves
-    default:
-      return std::ldexp(static_cast<double>(random() >> 11), -40);  // what a monitor reads
-  }
-}
-
 TEST(NumberText, EqualsTheLocaleLibrarysFormatter) {
   std::mt19937_64 random(20260101);
   for (const char* locale : {"en_US", "de_CH", "es_ES", "hi_IN", "ar_EG", "sv_SE", "fr_FR", "pl_PL"}) {
     for (int most = 0; most <= 8; ++most) {
       const int least = most % 2 == 0 ? most : 0;
-      const Reference reference(locale, least, most);
+      const tests::NumberReference reference(locale, least, most);
       for (int i = 0; i < 1500; ++i) {
-        const double value = anyDouble(random);
+        const double value = tests::anyDouble(random);
         ASSERT_EQ(text(locale, least, most, value), reference.text(value)) << locale << ' ' << most << ' ' << value;
       }
     }
@@ -218,7 +182,7 @@ TEST(NumberText, EqualsTheLocaleLibrarysFormatter) {
 
 // Around every tie the quick rounding must hand over to the exact one.
 TEST(NumberText, EqualsTheReferenceAroundTies) {
-  const Reference reference("en_US", 0, 3);
+  const tests::NumberReference reference("en_US", 0, 3);
   for (int i = 0; i < 2000; ++i) {
     const double tie = i * 1.037 + 0.0005;
     for (const double value : {std::nextafter(tie, 0.0), tie, std::nextafter(tie, 1e9), tie * 1e8, -tie}) {
@@ -234,7 +198,7 @@ TEST(NumberText, EveryLocaleLooksAsItsDataSayAfterItsNameWasRead) {
   ASSERT_GT(count, 500);
   for (int32_t i = 0; i < count; ++i) {
     const std::string name = port::usableLocale(locales[i].getName());
-    ASSERT_EQ(text(name, 2, 2, -1234567.891), Reference(name.c_str(), 2, 2).text(-1234567.891)) << name;
+    ASSERT_EQ(text(name, 2, 2, -1234567.891), tests::NumberReference(name.c_str(), 2, 2).text(-1234567.891)) << name;
   }
   EXPECT_EQ(text(port::usableLocale("nb_NO.UTF-8"), 0, 2, -1234.5), "\u22121\u00a0234,5");
   EXPECT_EQ(text(port::usableLocale("nn_NO.UTF-8"), 0, 2, -1234.5), "\u22121\u00a0234,5");

@@ -25,7 +25,7 @@ TEST(Percentage, TextsInBothRenderings) {
       {"spaced", {{"space", true}}, 42.0, "42 %"},
       {"half to even", {{"space", true}, {"decimals", 1}}, 42.25, "42.2 %"},
       {"never scaled", {{"decimals", 1}}, 0.5, "0.5%"},
-      {"at most so many digits", {{"decimals", 3}}, 7.0, "7%"},
+      {"at most three digits", {{"decimals", 3}}, 7.0, "7%"},
       {"a text says yes", {{"space", "yes"}}, 1.0, "1 %"},
       {"grouped", {}, 12345.0, "12,345%"},
       {"negative", {}, -3.0, "-3%"},
@@ -39,9 +39,9 @@ TEST(Percentage, TextsInBothRenderings) {
 }
 
 TEST(Percentage, TheNumberIsMainAndTheSignIsUnit) {
-  const Dictionary options{{"space", true}, {"decimals", 1}, {"attributes-main", "bold"}, {"attributes-units", "grey"}};
+  const Dictionary options{{"space", true}, {"decimals", 1}, {"attributes-main", "bold"}, {"attributes-units", "gray"}};
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatPercentageWithAttributes(options, 42.25)),
-            (Runs{{"42.2", "bold"}, {" %", "grey"}}));
+            (Runs{{"42.2", "bold"}, {" %", "gray"}}));
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatPercentageWithAttributes({}, 42.25)), (Runs{{"42%", nullptr}}));
   EXPECT_EQ(tests::runsOf(KZMUtilitiesFormatPercentageWithAttributes({{"attributes-main", Dictionary{}}}, 5.0)),
             (Runs{{"5", Dictionary{}}, {"%", nullptr}}))

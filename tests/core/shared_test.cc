@@ -96,19 +96,29 @@ TEST_F(SharedState, NumbersFormatByTheirDecimals) {
   for (const Case& c : cases) EXPECT_EQ(KZMUtilitiesFormatNumber(c.options, c.value), c.text) << c.why;
 }
 
-TEST_F(SharedState, AHostsFormatterIsHonouredByTheNextCall) {
+TEST_F(SharedState, AHostsFormatterIsHonoredByTheNextCall) {
   EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2");
   cache()->set("NumberFormatter-Decimal--.1", std::make_shared<const NumberFormatter>(4, 4));
   EXPECT_EQ(KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25), "1.2500");
 }
 
-TEST_F(SharedState, AHostsUnitTableIsHonouredByTheNextCall) {
+TEST_F(SharedState, AHostsUnitTableIsHonoredByTheNextCall) {
   const Dictionary options{{"unitsize", 2}, {"space", true}};
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "5 GB");
   cache()->set("Localizations-Units-Network", Dictionary{{"%@ GB", "Go: %@"}});
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "Go: 5");
   EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5.0), "") << "a unit that the host's table lacks";
   EXPECT_TRUE(KZMUtilitiesBandwidthData(options, 5.0).find("format")->isNull());
+}
+
+TEST_F(SharedState, AUnitTableThatAHostMakesAnewIsHonoredByTheNextCall) {
+  const Dictionary options{{"unitsize", 2}, {"space", true}};
+  EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "5 GB");
+  const auto isHosts = [](const Value& value) {
+    return value.dictionary() != nullptr && value.dictionary()->size() == 1;
+  };
+  cache()->findOrMake("Localizations-Units-Network", isHosts, [] { return Value(Dictionary{{"%@ GB", "Go: %@"}}); });
+  EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, 5 * 1073741824.0), "Go: 5");
 }
 
 TEST_F(SharedState, AHostsCacheTakesThePlaceOfTheFormerOne) {
@@ -198,6 +208,20 @@ TEST_F(SharedState, AnEntryIsMadeOnlyWhenNoneIsAccepted) {
   EXPECT_EQ(entries.findOrMake("other", isText, [] { return Value(); }), Value());
   EXPECT_EQ(entries.size(), 1U) << "what could not be made is not stored";
   EXPECT_EQ(entries.entries(), (Dictionary{{"key", "made"}}));
+}
+
+TEST_F(SharedState, AnAbsentEntryIsShownToTheOneWhoAcceptsAsNull) {
+  Cache entries;
+  const auto takesNull = [](const Value& value) { return value.isNull(); };
+  EXPECT_EQ(entries.findOrMake("key", takesNull, [] { return Value("made"); }), Value());
+  EXPECT_EQ(entries.size(), 0U);
+}
+
+TEST_F(SharedState, AnEntryThatIsMadeInThePlaceOfAnotherCountsAtTheNextCall) {
+  EXPECT_EQ(KZMUtilitiesFormatMemory({}, 1073741824.0), "1GB");
+  const auto nothing = [](const Value&) { return false; };
+  cache()->findOrMake("Localizations-Units-Memory", nothing, [] { return Value(Dictionary{{"%@GB", "%@ giga"}}); });
+  EXPECT_EQ(KZMUtilitiesFormatMemory({}, 1073741824.0), "1 giga");
 }
 
 TEST_F(SharedState, TheCacheNeverShrinks) {

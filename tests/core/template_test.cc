@@ -46,7 +46,7 @@ TEST(Template, FillsInTheNumber) {
       {"another numbered place is text", "%2$@", "5", "%2$@", "%2$@"},
       {"two signs are one when formatted", "%@%%", "5", "5%", "5%%"},
       {"a lone sign at the end stays", "%@%", "5", "5%", "5%"},
-      {"behind a blank too", "%@ %", "5", "5 %", "5 %"},
+      {"after a space too", "%@ %", "5", "5 %", "5 %"},
       {"a second place stays text", "%@ of %@", "5", "5 of %@", "5 of %@"},
       {"also a second place of another form", "%@ %1$@", "5", "5 %1$@", "5 %1$@"},
       {"directives are copied", "%d%s%n %@", "5", "%d%s%n 5", "%d%s%n 5"},

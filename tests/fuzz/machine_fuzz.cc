@@ -47,8 +47,8 @@ constexpr std::string_view kFiles[] = {
 
 void checkName(const std::string& name) { demand(machine::shownText(name) == name, "a name can be shown"); }
 
-void checkReadings(const std::vector<machine::Reading>& readings) {
-  for (const machine::Reading& reading : readings) {
+void checkReadings(const std::vector<machine::SensorReading>& readings) {
+  for (const machine::SensorReading& reading : readings) {
     checkName(reading.source);
     checkName(reading.label);
     demand(std::isfinite(reading.value), "a reading is finite");

@@ -1,6 +1,6 @@
 // Runs a shell command and keeps what it says.
-#ifndef TESTS_LOCALIZATION_COMMAND_H
-#define TESTS_LOCALIZATION_COMMAND_H
+#ifndef KZM_TESTS_LOCALIZATION_COMMAND_H
+#define KZM_TESTS_LOCALIZATION_COMMAND_H
 
 #include <array>
 #include <cstdio>

@@ -75,9 +75,9 @@ TEST(BarGraphFill, NarrowBarsHaveEllipticalCornersAndStayInside) {
 
 TEST(BarGraph, WhatIsNoRectangleDrawsNothing) {
   constexpr Rect kCases[] = {
-      {{4, 4}, {0, 8}},    {{4, 4}, {8, 0}},       {{4, 4}, {-8, 8}},   {{4, 4}, {8, -8}},     {{kNan, 4}, {8, 8}},
-      {{4, kNan}, {8, 8}}, {{4, 4}, {kNan, 8}},    {{4, 4}, {8, kNan}}, {{-kInf, 4}, {8, 8}},  {{4, 4}, {kInf, 8}},
-      {{4, 4}, {8, kInf}}, {{kMax, 4}, {kMax, 8}}, {{1e9, 4}, {8, 8}},  {{4, 4}, {1e-300, 8}},
+      {{4, 4}, {-8, 8}},   {{4, 4}, {8, -8}},      {{kNan, 4}, {8, 8}},  {{4, kNan}, {8, 8}},
+      {{4, 4}, {kNan, 8}}, {{4, 4}, {8, kNan}},    {{-kInf, 4}, {8, 8}}, {{4, 4}, {kInf, 8}},
+      {{4, 4}, {8, kInf}}, {{kMax, 4}, {kMax, 8}}, {{1e9, 4}, {8, 8}},   {{4, 4}, {0, -1}},
   };
   for (const Rect& rect : kCases) {
     const Canvas canvas(16, 16);
@@ -86,6 +86,31 @@ TEST(BarGraph, WhatIsNoRectangleDrawsNothing) {
     EXPECT_EQ(canvas.area(), 0.0) << rect.origin.x << " " << rect.origin.y << " " << rect.size.width;
     EXPECT_TRUE(canvas.isSound());
   }
+}
+
+TEST(BarGraphFill, WithoutWidthOrHeightThereIsNothingToFill) {
+  for (const Size& size : {Size{8, 0}, Size{0, 8}, Size{0, 0}, Size{1e-300, 8}, Size{8, 0.001}}) {
+    const Canvas canvas(16, 16);
+    fill(canvas, {{4, 4}, size});
+    EXPECT_EQ(canvas.area(), 0.0) << size.width << " x " << size.height;
+    EXPECT_TRUE(canvas.isSound());
+  }
+}
+
+// A line there and back, half a point wide, and its ends.
+TEST(BarGraphBorder, WithoutWidthOrHeightItIsStrokedAllTheSame) {
+  for (const double thin : {0.002, 0.0019, 1e-9, 1e-300, 0.0}) {
+    for (const Size& size : {Size{20, thin}, Size{thin, 20}}) {
+      const Canvas canvas(32, 32);
+      outline(canvas, {{6, 6}, size});
+      EXPECT_NEAR(canvas.area(), 10.4, 0.5) << size.width << " x " << size.height;
+      EXPECT_TRUE(canvas.isSound());
+    }
+  }
+  const Canvas canvas(32, 32);
+  outline(canvas, {{6, 6}, {0, 0}});
+  EXPECT_LE(canvas.area(), 1.0) << "a point";
+  EXPECT_TRUE(canvas.isSound());
 }
 
 TEST(BarGraph, HugeOnesShowWhatLiesOnTheSurface) {
@@ -146,7 +171,7 @@ TEST(BarGraph, LeavesTheCairoContextAsItWas) {
   EXPECT_TRUE(canvas.isSound());
 }
 
-TEST(BarGraph, HonoursTheHostsClip) {
+TEST(BarGraph, HonorsTheHostsClip) {
   const Canvas canvas(24, 24);
   cairo_rectangle(canvas.cairo(), 0.0, 0.0, 10.0, 24.0);
   cairo_clip(canvas.cairo());

@@ -35,7 +35,7 @@ TEST(TimeoutNanoseconds, CutsTowardZero) {
       {"minus zero", -0.0, 0},
       {"negative", -1.0, 0},
       {"minus infinity", -kInf, 0},
-      {"no number", std::numeric_limits<double>::quiet_NaN(), 0},
+      {"not a number", std::numeric_limits<double>::quiet_NaN(), 0},
       {"the longest that is armed", 9.2e9, 9'200'000'000'000'000'000},
       {"longer: never", 9.3e9, std::nullopt},
       {"the greatest number", std::numeric_limits<double>::max(), std::nullopt},
@@ -110,7 +110,7 @@ TEST_F(ChildTest, ForceCancelNeedsNoWatchdog) {
 TEST_F(ChildTest, ATimeoutOfZeroFiresOnTheNextTurn) {
   const SharedChild child = helper({"block"});
   child->launchWithTimeout(0.0);
-  EXPECT_TRUE(log_.lines.empty()) << "not before the queue is turned";
+  EXPECT_TRUE(log_.lines.empty()) << "not before the queue runs";
   queue_.turn();
   EXPECT_EQ(log_.lines, Texts{kTerminating});
   finish(*child);
@@ -194,7 +194,7 @@ TEST_F(ChildTest, CleanupEndsSilentlyIfTheInputIsNotAPipe) {
   EXPECT_TRUE(std::holds_alternative<Pipe>(child->configuration().standardOutput));
   finish(*child);
   queue_.turn();
-  EXPECT_EQ(calls, 1) << "the handler stands behind the step that failed";
+  EXPECT_EQ(calls, 1) << "the handler comes after the step that failed";
 }
 
 TEST_F(ChildTest, CleanupTwiceNeverClosesAReusedNumber) {

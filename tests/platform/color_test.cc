@@ -20,7 +20,7 @@ TEST(Color, ConvertsBothWays) {
       {"green", 0.0, 1.0, 0.0, 1.0 / 3.0, 1.0, 1.0},  {"cyan", 0.0, 1.0, 1.0, 0.5, 1.0, 1.0},
       {"blue", 0.0, 0.0, 1.0, 2.0 / 3.0, 1.0, 1.0},   {"magenta", 1.0, 0.0, 1.0, 5.0 / 6.0, 1.0, 1.0},
       {"dark pink", 0.5, 0.25, 0.25, 0.0, 0.5, 0.5},  {"white", 1.0, 1.0, 1.0, 0.0, 0.0, 1.0},
-      {"grey", 0.25, 0.25, 0.25, 0.0, 0.0, 0.25},     {"black", 0.0, 0.0, 0.0, 0.0, 0.0, 0.0},
+      {"gray", 0.25, 0.25, 0.25, 0.0, 0.0, 0.25},     {"black", 0.0, 0.0, 0.0, 0.0, 0.0, 0.0},
       {"orange", 1.0, 0.5, 0.0, 1.0 / 12., 1.0, 1.0}, {"rose", 1.0, 0.0, 0.5, 11. / 12., 1.0, 1.0},
   };
   for (const Case& c : cases) {
@@ -69,8 +69,8 @@ TEST(Color, BrightnessIsMultipliedAndTheRestKeptExactly) {
       {"beyond the end is cut off", 0.8, 2.0F, 1.0},
       {"negative", 0.8, -1.0F, 0.0},
       {"endless", 0.8, kFloatInf, 1.0},
-      {"nothing, endlessly, is no number", 0.0, kFloatInf, 0.0},
-      {"no number", 0.8, kFloatNan, 0.0},
+      {"nothing, endlessly, is not a number", 0.0, kFloatInf, 0.0},
+      {"not a number", 0.8, kFloatNan, 0.0},
   };
   for (const Case& c : cases) {
     const Color color = Color::fromHSBA(0.123456789, 0.7, c.brightness, 0.9).multiplyBrightness(c.factor);

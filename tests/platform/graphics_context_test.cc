@@ -45,20 +45,20 @@ TEST(GraphicsContext, EachThreadHasItsOwn) {
   EXPECT_EQ(canvas.area(), 0.0);
 }
 
-TEST(GraphicsContext, AHostSetsColoursAndOrientation) {
+TEST(GraphicsContext, AHostSetsColorsAndOrientation) {
   const Canvas canvas(4, 4);
   const GraphicsContext upright(canvas.cairo(), false);
   const Color red = Color::fromRGBA(1, 0, 0, 1);
   upright.setFillColor(red);
   EXPECT_EQ(upright.fillColor(), red);
-  EXPECT_EQ(upright.strokeColor(), Color()) << "the one colour is not the other";
+  EXPECT_EQ(upright.strokeColor(), Color()) << "the one color is not the other";
   upright.setStrokeColor(red);
   EXPECT_EQ(upright.strokeColor(), red);
   EXPECT_FALSE(upright.isFlipped());
   EXPECT_TRUE(GraphicsContext(canvas.cairo()).isFlipped()) << "down is the ordinary direction of y";
 }
 
-TEST(GraphicsContext, ColoursStaySetAfterABar) {
+TEST(GraphicsContext, ColorsStaySetAfterABar) {
   const Canvas canvas(20, 20);
   const GraphicsContext context(canvas.cairo());
   const auto current = context.makeCurrent();

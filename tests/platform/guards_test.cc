@@ -17,8 +17,8 @@ class RangeException : public Exception {
 
 using Completion = std::function<void(const Exception*)>;
 
-// What a completion was told, call by call: "success" or the exception's name.
-struct Told {
+// What a completion was called with, call by call: "success" or the exception's name.
+struct Outcomes {
   std::vector<std::string> calls;
   void note(const Exception* exception) { calls.push_back(exception ? exception->name() : "success"); }
   Completion completion() {
@@ -52,17 +52,17 @@ TEST(TryCatchBlock, LetsEveryOtherKindPass) {
 TEST(TryCatchBlock, AnEmptyBlockDoesNothing) { EXPECT_NO_THROW(KZMTryCatchBlock(nullptr)); }
 
 TEST(TryCatchBlockWithError, TellsSuccessByNull) {
-  Told told;
+  Outcomes outcomes;
   int runs = 0;
-  KZMTryCatchBlockWithError([&] { ++runs; }, told.completion());
+  KZMTryCatchBlockWithError([&] { ++runs; }, outcomes.completion());
   EXPECT_EQ(runs, 1);
-  EXPECT_EQ(told.calls, std::vector<std::string>{"success"});
+  EXPECT_EQ(outcomes.calls, std::vector<std::string>{"success"});
 }
 
 TEST(TryCatchBlockWithError, HandsOverTheExceptionOnceAndNeverNull) {
-  Told told;
-  KZMTryCatchBlockWithError([] { throw Exception("Any", "reason"); }, told.completion());
-  EXPECT_EQ(told.calls, std::vector<std::string>{"Any"});
+  Outcomes outcomes;
+  KZMTryCatchBlockWithError([] { throw Exception("Any", "reason"); }, outcomes.completion());
+  EXPECT_EQ(outcomes.calls, std::vector<std::string>{"Any"});
 }
 
 TEST(TryCatchBlockWithError, TheExceptionKeepsItsDynamicType) {
@@ -75,13 +75,13 @@ TEST(TryCatchBlockWithError, TheExceptionKeepsItsDynamicType) {
 }
 
 TEST(TryCatchBlockWithError, AnExceptionFromTheSuccessCallCallsTheCompletionASecondTime) {
-  Told told;
+  Outcomes outcomes;
   KZMTryCatchBlockWithError([] {},
                             [&](const Exception* exception) {
-                              told.note(exception);
+                              outcomes.note(exception);
                               if (!exception) throw Exception("FromCompletion", "reason");
                             });
-  EXPECT_EQ(told.calls, (std::vector<std::string>{"success", "FromCompletion"}));
+  EXPECT_EQ(outcomes.calls, (std::vector<std::string>{"success", "FromCompletion"}));
 }
 
 TEST(TryCatchBlockWithError, AnExceptionFromTheErrorCallPassesOn) {
@@ -97,16 +97,16 @@ TEST(TryCatchBlockWithError, AnExceptionFromTheErrorCallPassesOn) {
 }
 
 TEST(TryCatchBlockWithError, LetsEveryOtherKindPassWithoutACall) {
-  Told told;
-  EXPECT_THROW(KZMTryCatchBlockWithError([] { throw std::runtime_error("other"); }, told.completion()),
+  Outcomes outcomes;
+  EXPECT_THROW(KZMTryCatchBlockWithError([] { throw std::runtime_error("other"); }, outcomes.completion()),
                std::runtime_error);
-  EXPECT_TRUE(told.calls.empty());
+  EXPECT_TRUE(outcomes.calls.empty());
 }
 
 TEST(TryCatchBlockWithError, EmptyCallablesAreSurvived) {
-  Told told;
-  KZMTryCatchBlockWithError(nullptr, told.completion());
-  EXPECT_EQ(told.calls, std::vector<std::string>{"success"});
+  Outcomes outcomes;
+  KZMTryCatchBlockWithError(nullptr, outcomes.completion());
+  EXPECT_EQ(outcomes.calls, std::vector<std::string>{"success"});
   EXPECT_NO_THROW(KZMTryCatchBlockWithError([] { throw Exception("Any", "reason"); }, nullptr));
   EXPECT_NO_THROW(KZMTryCatchBlockWithError([] {}, nullptr));
   EXPECT_NO_THROW(KZMTryCatchBlockWithError(nullptr, nullptr));

@@ -85,7 +85,7 @@ TEST(Image, ScaledDownItKeepsBothHalves) {
   EXPECT_EQ(canvas.area(), 16.0);
 }
 
-TEST(Image, MagnifiedBeyondMeasureItShowsTheColourThatLiesThere) {
+TEST(Image, MagnifiedBeyondMeasureItShowsTheColorThatLiesThere) {
   const Canvas canvas(8, 8);
   const auto current = GraphicsContext(canvas.cairo()).makeCurrent();
   redOverBlue(4, 4).drawInRect({{-1e14, -1e12}, {4e14, 4e14}});
@@ -123,6 +123,21 @@ TEST(Image, TakesSizeAndPixelsFromADeviceScale) {
   EXPECT_EQ(pixelOf(image, 3, 2), 0U);
   EXPECT_EQ(image.tint(Color::fromRGBA(0, 0, 1, 1)).size(), (Size{4, 4}));
   EXPECT_EQ(pixelOf(image.tint(Color::fromRGBA(0, 0, 1, 1)), 3, 1), kBluePixel);
+}
+
+TEST(Image, HasAllPixelsOfASurfaceWithADeviceOffset) {
+  for (const double scale : {1.0, 2.0}) {
+    const Canvas canvas(8, 8);
+    canvas.paint(0, 0, 2, 2, kRedPixel);
+    canvas.paint(6, 6, 2, 2, kBluePixel);
+    cairo_surface_set_device_scale(canvas.surface(), scale, scale);
+    cairo_surface_set_device_offset(canvas.surface(), 2.0, 1.0);
+    const Image image = Image::fromSurface(canvas.surface());
+    EXPECT_EQ(pixelOf(image, 0, 0), kRedPixel);
+    const int last = static_cast<int>(8 / scale) - 1;
+    EXPECT_EQ(pixelOf(image, last, last), kBluePixel);
+    EXPECT_EQ(pixelOf(image.tint(Color::fromRGBA(0, 1, 0, 1)), 0, 0), kGreenPixel);
+  }
 }
 
 TEST(Image, FocusDrawsIntoItFromTheTop) {

@@ -114,8 +114,8 @@ TEST(Isolated, MarksAreAddedWhereTheyAreMissing) {
 TEST(Isolated, MarksHaveTheAttributesOfTheirNeighbors) {
   AttributedString reading("57", "bold");
   EXPECT_EQ(tests::runsOf(isolated(reading)), (tests::Runs{{"\u206857\u2069", "bold"}}));
-  reading.append(AttributedString("%", "grey"));
-  EXPECT_EQ(tests::runsOf(isolated(reading)), (tests::Runs{{"\u206857", "bold"}, {"%\u2069", "grey"}}));
+  reading.append(AttributedString("%", "gray"));
+  EXPECT_EQ(tests::runsOf(isolated(reading)), (tests::Runs{{"\u206857", "bold"}, {"%\u2069", "gray"}}));
   EXPECT_EQ(isolated(AttributedString()), AttributedString());
 }
 

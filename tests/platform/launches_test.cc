@@ -1,4 +1,4 @@
-// Ten thousand launches in a row, on the real main queue: nothing is left behind, whether anybody turns it or not.
+// Ten thousand launches in a row, on the real main queue: nothing is left over, whether anybody runs it or not.
 #include <chrono>
 #include <cstdio>
 #include <glib.h>
@@ -30,9 +30,9 @@ int launchMany(int count, AwaitEnd awaitEndOf) {
   return ended;
 }
 
-void withoutATurn(ChildProcess& child) { awaitEnd(child.processIdentifier()); }
+void withoutRunningTheQueue(ChildProcess& child) { awaitEnd(child.processIdentifier()); }
 
-void turningTheQueue(ChildProcess& child) {
+void runningTheQueue(ChildProcess& child) {
   bool called = false;
   child.setTerminationHandler([&](const ExitStatus&) { called = true; });
   while (!called && child.isRunning()) g_main_context_iteration(nullptr, TRUE);
@@ -56,11 +56,11 @@ void expectNothingLeft(const char* how, AwaitEnd awaitEndOf) {
 }
 
 TEST(Launches, LeaveNothingBehindWithoutATurnOfTheQueue) {
-  expectNothingLeft("queue not turned", withoutATurn);
+  expectNothingLeft("queue not run", withoutRunningTheQueue);
   EXPECT_FALSE(g_main_context_pending(nullptr)) << "nothing waits for a queue that nobody turns";
 }
 
-TEST(Launches, LeaveNothingBehindWithAQueueThatTurns) { expectNothingLeft("queue turned", turningTheQueue); }
+TEST(Launches, LeaveNothingWithAQueueThatRuns) { expectNothingLeft("queue run", runningTheQueue); }
 
 }  // namespace
 }  // namespace kzm::tests

@@ -18,7 +18,7 @@ using namespace std::string_view_literals;
 using tests::Runs;
 
 AttributedString sample() {
-  AttributedString text("%@ of ", "grey");
+  AttributedString text("%@ of ", "gray");
   text.append(AttributedString("%@ GB", "bold"));
   return text;
 }
@@ -26,7 +26,7 @@ AttributedString sample() {
 TEST(ReplaceString, TheFirstOccurrenceGetsTheTextAndTheAttributes) {
   AttributedString text = sample();
   replaceStringWithStringAttributes(text, "%@", "3", "red");
-  const Runs expected = {{"3", "red"}, {" of ", "grey"}, {"%@ GB", "bold"}};
+  const Runs expected = {{"3", "red"}, {" of ", "gray"}, {"%@ GB", "bold"}};
   EXPECT_EQ(tests::runsOf(text), expected);
   replaceStringWithStringAttributes(text, "%@", "%@", nullptr);
   EXPECT_EQ(text.text(), "3 of %@ GB") << "what was put in is not searched again";
@@ -37,7 +37,7 @@ TEST(ReplaceString, AnAttributedReplacementKeepsItsRuns) {
   AttributedString number("3", "red");
   number.append(AttributedString(".5", "blue"));
   replaceStringWithAttributedString(text, "of %@", number);
-  const Runs expected = {{"%@ ", "grey"}, {"3", "red"}, {".5", "blue"}, {" GB", "bold"}};
+  const Runs expected = {{"%@ ", "gray"}, {"3", "red"}, {".5", "blue"}, {" GB", "bold"}};
   EXPECT_EQ(tests::runsOf(text), expected) << "across two runs";
 }
 
@@ -55,27 +55,27 @@ TEST(ReplaceString, WhatIsNotFoundChangesNothing) {
 }
 
 TEST(ReplaceString, TheSearchIsLiteral) {
-  AttributedString text("a.b* .b", "grey");
+  AttributedString text("a.b* .b", "gray");
   replaceStringWithStringAttributes(text, ".b", "$1", nullptr);
   EXPECT_EQ(text.text(), "a$1* .b");
 }
 
-TEST(ReplaceString, AnEmptyReplacementDeletesAndNeighboursJoin) {
-  AttributedString text("1 of 2", "grey");
+TEST(ReplaceString, AnEmptyReplacementDeletesAndNeighborsJoin) {
+  AttributedString text("1 of 2", "gray");
   replaceStringWithStringAttributes(text, " of ", "", "red");
-  EXPECT_EQ(tests::runsOf(text), (Runs{{"12", "grey"}}));
+  EXPECT_EQ(tests::runsOf(text), (Runs{{"12", "gray"}}));
   replaceStringWithAttributedString(text, "12", AttributedString());
   EXPECT_TRUE(text.runs().empty());
 }
 
 TEST(ReplaceString, ATextMayReplaceAPartOfItself) {
-  AttributedString text("ab", "grey");
+  AttributedString text("ab", "gray");
   replaceStringWithAttributedString(text, "b", text);
   EXPECT_EQ(text.text(), "aab");
 }
 
 TEST(ReplaceString, NeverSplitsACharacter) {
-  AttributedString text("20°C", "grey");
+  AttributedString text("20°C", "gray");
   replaceStringWithStringAttributes(text, "\xb0", "-", nullptr);  // The second byte of the degree sign.
   EXPECT_EQ(text.text(), "20-C");
 }

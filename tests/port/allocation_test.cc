@@ -1,10 +1,16 @@
-// What is left behind by an allocation that fails, in our own code or inside ICU. ICU's own code ends the process at
+// What is left by an allocation that fails, in our own code or inside ICU. ICU's own code ends the process at
 // some of its allocations; at all others the call fails or gives the right answer, and so do all that follow.
 #include <cstddef>
+#include <functional>
 #include <gtest/gtest.h>
 #include <string>
 
+#include "port/environment_locale.h"
+#include "port/measurement_locale.h"
+#include "port/number_symbols.h"
+#include "port/posix_variant.h"
 #include "port/regex.h"
+#include "port/time_zone.h"
 #include "tests/support/allocations.h"
 
 namespace kzm::port {
@@ -16,6 +22,51 @@ using tests::Heap;
 // Too long for the room that a string has in itself.
 const std::string kWord = "(before|a word that is not there at all)";
 const std::string kNumber = "([0-9]+)";
+
+// Each allocation of a cold call, in a process of its own: the call throws or is right, and so is the next one. After a
+// failure of our own allocations the next one is right.
+void expectRightOrFailed(const char* what, Heap heap, const std::function<bool()>& isRight) {
+  bool wasRight = true;
+  const auto call = [&] { wasRight = isRight(); };
+  const auto check = [&] { return wasRight && isRight(); };
+  std::size_t number = 1;
+  for (ColdCall went{}; went != ColdCall::noSuchAllocation; ++number) {
+    went = tests::coldCallWithFailure(heap, number, call, check);
+    EXPECT_NE(went, ColdCall::wrong) << what << ", allocation " << number;
+    if (heap == Heap::icu) continue;
+    EXPECT_NE(went, ColdCall::failingOn) << what << ", allocation " << number;
+    EXPECT_NE(went, ColdCall::ended) << what << ", allocation " << number;
+  }
+}
+
+struct Cold {
+  const char* what;
+  bool (*isRight)();
+};
+
+// First, for what follows leaves ICU warm.
+TEST(FailingAllocation, IsNoOtherLocaleAndNoOtherZoneEverAfter) {
+  const Cold calls[] = {
+      {"number style", [] { return numberSymbols("de_DE").groupSeparator == "."; }},
+      {"digits of a language", [] { return numberSymbols("ar_EG").digits[1] == "١"; }},
+      {"known language", [] { return usableLocale("de_DE.UTF-8") == "de_DE"; }},
+      {"identifier", [] { return localeIdentifier("sr_RS@latin") == "sr_Latn_RS"; }},
+      {"measurement", [] { return measurementLocaleOf("en@rg=gbzzzz").region == "GB"; }},
+      {"likely region", [] { return measurementLocaleOf("sv").region == "SE"; }},
+      {"variant", [] { return takesPosixVariant("en_US"); }},
+      {"zone",
+       [] {
+         const Zone* zone = namedZone("Asia/Tokyo");
+         return zone != nullptr && zone->identifier() == "Asia/Tokyo" && zone->offset(0) == 32400;
+       }},
+  };
+  for (const Cold& call : calls) {
+    for (const Heap heap : {Heap::own, Heap::icu}) {
+      if (heap == Heap::own || std::string_view(call.what) != "zone")
+        expectRightOrFailed(call.what, heap, call.isRight);
+    }
+  }
+}
 
 TEST(FailingAllocation, NeverPairsAPatternWithTheProgramOfAnother) {
   ASSERT_EQ(firstGroup("before 123", kNumber), "123");

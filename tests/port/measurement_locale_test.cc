@@ -15,8 +15,8 @@ TEST(MeasurementLocale, TellsTheRegionAndTheScale) {
   const Case cases[] = {
       {"a country", "en_US", "US", ""},
       {"a script between", "zh_Hant_TW", "TW", ""},
-      {"a variant behind", "ca_ES_VALENCIA", "ES", ""},
-      {"POSIX behind", "en_US_POSIX", "US", ""},
+      {"a variant after it", "ca_ES_VALENCIA", "ES", ""},
+      {"POSIX after it", "en_US_POSIX", "US", ""},
       {"an old name of a country", "en_UK", "GB", ""},
       {"the world", "en_001", "001", ""},
       {"a part of the world", "es_419", "419", ""},

@@ -114,7 +114,7 @@ TEST_F(SensorData, TemperatureInTheUsersUnit) {
   tests::useOnlySetting(kDegrees, 1);
   const Case celsius[] = {
       {"as it comes", SensorType::temperature, kNone, 50.5, 50.5, 0, "%@°"},
-      {"no blank", SensorType::temperature, kSpace, 50.5, 50.5, 0, "%@°"},
+      {"no space", SensorType::temperature, kSpace, 50.5, 50.5, 0, "%@°"},
       {"reversed", SensorType::temperature, kReverse, 50.0, 121.99999570846578, 0, "%@°"},
       {"no decimals", SensorType::temperature, kDecimals, 50.5, 50.5, 0, "%@°"},
   };
@@ -154,7 +154,7 @@ TEST_F(SensorData, ATemperatureUnitOfAnotherKindIsCelsiusAndNotReversed) {
 TEST_F(SensorData, PercentageIsCappedAboveOnly) {
   const Case cases[] = {
       {"a fraction", SensorType::percentage, kNone, 0.423, 42.3, 0, "%@%%"},
-      {"no blank", SensorType::percentage, kSpace, 0.5, 50.0, 0, "%@%%"},
+      {"no space", SensorType::percentage, kSpace, 0.5, 50.0, 0, "%@%%"},
       {"full", SensorType::percentage, kNone, 1.0, 100.0, 0, "%@%%"},
       {"just below full", SensorType::percentage, kNone, below(1.0), 99.99999999999999, 0, "%@%%"},
       {"just above full", SensorType::percentage, kNone, above(1.0), 100.0, 0, "%@%%"},

@@ -65,7 +65,7 @@ TEST_F(SensorFormat, NumberAndUnit) {
       {"the minus stays", SensorType::temperature, kUnits, -0.3, "-0°"},
       {"a percentage", SensorType::percentage, kUnits, 0.5, "50%"},
       {"a percentage, alone", SensorType::percentage, kNone, 0.5, "50"},
-      {"no blank in it", SensorType::percentage, kSpaced, 0.423, "42%"},
+      {"no space in it", SensorType::percentage, kSpaced, 0.423, "42%"},
       {"a fan", SensorType::fan, kSpaced, 1200.0, "1,200 rpm"},
       {"a fan, tight", SensorType::fan, kUnits, 1200.0, "1,200rpm"},
       {"a fan, stripped", SensorType::fan, kStripped, 1200.0, "1200rpm"},

@@ -28,16 +28,18 @@ TEST(Json, TellsWhyATextHoldsNoSettings) {
     const char* fault;
   };
   const std::string bracketsInTexts = R"({"[[\"{": ")" + std::string(200, '[') + "\"}";
-  const std::string hostile(1000000, '[');
+  const std::string hostile = "{\"a\":" + std::string(1000000, '[');
   const Case kCases[] = {
       {"empty object", "{}", ""},
       {"one member", "{\"a\": 1}\n", ""},
       {"brackets in texts", bracketsInTexts, ""},
-      {"nothing at all", "", "line 1 is not JSON"},
-      {"only blanks", "  \n ", "line 2 is not JSON"},
+      {"nothing at all", "", ""},
+      {"only white space", "  \n ", ""},
+      {"a byte-order mark", "\xEF\xBB\xBF{}", ""},
+      {"a zero byte after it", std::string("{\n}\0,\"a\":1}", 11), "line 2 is not JSON"},
       {"cut off", "{\n\"a\": 1,\n\"b\": ", "line 3 is not JSON"},
       {"a comma too many", "{\n\"a\": 1,\n}", "line 3 is not JSON"},
-      {"something behind", "{} {}", "line 1 is not JSON"},
+      {"something after it", "{} {}", "line 1 is not JSON"},
       {"not UTF-8", "{\"a\": \"\xff\"}", "line 1 is not JSON"},
       {"half a surrogate pair", "{\"a\": \"\\ud800\"}", "line 1 is not JSON"},
       {"NaN is not JSON", "{\"a\": NaN}", "line 1 is not JSON"},
@@ -61,7 +63,45 @@ TEST(Json, ReadsEveryKindOfMember) {
       {"yes", true},  {"int", -7},   {"big", 18446744073709551616.0}, {"real", 2.5}, {"text", "a\"\u00e9"},
       {"list", list}, {"map", deep},
   };
-  EXPECT_EQ(settingsIn(parsed.object), expected);
+  EXPECT_EQ(settingsIn(parsed.members), expected);
+}
+
+TEST(Json, WritesEveryMemberBackAsItCame) {
+  for (const char* text :
+       {"12345678901234567890123", "0.10000000000000000001", "1E3", "1.50", "-0.0", "18446744073709551615", "null",
+        R"("\u0001 \"quoted\" \\ \t")", "[]", "{}", R"(["a", {"b": [1, {}]}])"}) {
+    const Members members = parse("{\"a\": " + std::string(text) + "}").members;
+    ASSERT_EQ(members.count("a"), 1U) << text;
+    const Members again = parse(textOf(members)).members;
+    EXPECT_EQ(again.at("a").text, members.at("a").text) << text;
+    EXPECT_EQ(again.at("a").value, members.at("a").value) << text;
+    const bool isContainer = text[0] == '[' || text[0] == '{';
+    EXPECT_TRUE(isContainer || members.at("a").text == text) << text;
+  }
+}
+
+TEST(Json, WritesEachPartOnALineOfItsOwn) {
+  EXPECT_EQ(textOf(parse(R"({"a": ["x", {"b": [1, {}], "c": null}], "d": []})").members),
+            R"({
+  "a": [
+    "x",
+    {
+      "b": [
+        1,
+        {}
+      ],
+      "c": null
+    }
+  ],
+  "d": []
+}
+)");
+  EXPECT_EQ(textOf({}), "{}\n");
+}
+
+TEST(Json, WritesAValueAsItReadsIt) {
+  const Value value = Array{1, 2.0, Dictionary{{"k", Array{true, nullptr, "x"}}}};
+  EXPECT_EQ(memberFor(value)->text, parse(R"({"a": [1, 2.0, {"k": [true, null, "x"]}]})").members.at("a").text);
 }
 
 TEST(Json, RefusesWhatAFileCannotHold) {
@@ -91,13 +131,12 @@ TEST(Json, RefusesWhatAFileCannotHold) {
 }
 
 TEST(Json, TheDeepestMemberCanBeReadAgain) {
-  Json object = Json::object();
-  object["a"] = *memberFor(nestedValue(63));
-  EXPECT_EQ(parse(textOf(object)).fault, "");
+  const Members members{{"a", *memberFor(nestedValue(63))}};
+  EXPECT_EQ(parse(textOf(members)).fault, "");
 }
 
 TEST(Json, WritesOneSortedLineForEachMember) {
-  EXPECT_EQ(textOf(parse(R"({"b": 1, "a": 2.0})").object), "{\n  \"a\": 2.0,\n  \"b\": 1\n}\n");
+  EXPECT_EQ(textOf(parse(R"({"b": 1, "a": 2.0})").members), "{\n  \"a\": 2.0,\n  \"b\": 1\n}\n");
 }
 
 }  // namespace

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
 #include <memory>
 #include <string>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
@@ -193,6 +195,127 @@ TEST_F(StoreTest, WhatIsMadeBelongsToTheUserAloneAndNothingElseIsLeft) {
   }
   std::sort(names.begin(), names.end());
   EXPECT_EQ(names, (std::vector<std::string>{"settings.json", "settings.json.lock"}));
+}
+
+TEST_F(StoreTest, AnExistingFileKeepsItsModeAndOwner) {
+  scratch_.write(kFile, "{}");
+  ASSERT_TRUE(geteuid() != 0 || chown(path_.c_str(), 65534, 65534) == 0);
+  for (const mode_t mode : {0664U, 0600U, 0640U}) {
+    ASSERT_EQ(chmod(path_.c_str(), mode), 0);
+    struct stat before {};
+    ASSERT_EQ(stat(path_.c_str(), &before), 0);
+    EXPECT_TRUE(store_.set(static_cast<int>(mode), "a"));
+    struct stat after {};
+    ASSERT_EQ(stat(path_.c_str(), &after), 0);
+    EXPECT_EQ(after.st_mode, before.st_mode);
+    EXPECT_EQ(after.st_uid, before.st_uid);
+    EXPECT_EQ(after.st_gid, before.st_gid);
+  }
+}
+
+TEST_F(StoreTest, WhatRootMakesForAUserIsTheUsers) {
+  if (geteuid() != 0) GTEST_SKIP() << "left out: only root can act for a user";
+  ASSERT_EQ(chown(scratch_.path("").c_str(), 65534, 65534), 0);
+  EXPECT_TRUE(store_.set(1, "a"));
+  for (const char* made : {"KZMUtilities", "KZMUtilities/settings.json", "KZMUtilities/settings.json.lock"}) {
+    struct stat status {};
+    ASSERT_EQ(stat(scratch_.path(made).c_str(), &status), 0) << made;
+    EXPECT_EQ(status.st_uid, 65534U) << made;
+    EXPECT_EQ(status.st_gid, 65534U) << made;
+  }
+}
+
+TEST_F(StoreTest, WhatAKilledWriterLeftIsGoneAfterTheNextChange) {
+  scratch_.write(kFile, "{}");
+  scratch_.write(std::string(kFile) + ".new", "half a fi");
+  scratch_.write("mine", "precious");
+  EXPECT_TRUE(store_.set(1, "a"));
+  EXPECT_FALSE(fs::exists(path_ + ".new"));
+  fs::create_hard_link(scratch_.path("mine"), path_ + ".new");
+  EXPECT_TRUE(store_.set(2, "a"));
+  EXPECT_EQ(scratch_.read("mine"), "precious") << "removed, not emptied";
+  EXPECT_EQ(store_.find("a"), Value(2));
+}
+
+TEST_F(StoreTest, AnEmptyFileIsNoSettingsAndCanBeWritten) {
+  for (const char* nothing : {"", "\n", "  \t\r\n"}) {
+    scratch_.write(kFile, nothing);
+    EXPECT_EQ(linesOf(1), "");
+    EXPECT_TRUE(store_.set(1, "a"));
+    EXPECT_EQ(scratch_.read(kFile), "{\n  \"a\": 1\n}\n");
+  }
+}
+
+TEST_F(StoreTest, BytesAfterAZeroByteAreLeftAlone) {
+  const std::string text("{\"b\": 1}\0,\"Mine\":\"precious\"}", 29);
+  scratch_.write(kFile, text);
+  EXPECT_EQ(linesOf(1), "KZMSettings: " + path_ + " is not used: line 1 is not JSON\n");
+  EXPECT_FALSE(store_.set(2, "a"));
+  EXPECT_EQ(scratch_.read(kFile), text);
+}
+
+TEST_F(StoreTest, AByteOrderMarkIsPassedOverAndNotWrittenAgain) {
+  scratch_.write(kFile, "\xEF\xBB\xBF{\"b\": 1}");
+  EXPECT_EQ(store_.find("b"), Value(1));
+  EXPECT_TRUE(store_.set(2, "a"));
+  EXPECT_EQ(scratch_.read(kFile), "{\n  \"a\": 2,\n  \"b\": 1\n}\n");
+}
+
+TEST_F(StoreTest, NumbersOfOthersAreWrittenBackAsTheyCame) {
+  scratch_.write(kFile, R"({"b": 12345678901234567890123, "c": [0.10000000000000000001, 1E3]})");
+  EXPECT_TRUE(store_.set(2, "a"));
+  EXPECT_EQ(scratch_.read(kFile),
+            "{\n  \"a\": 2,\n  \"b\": 12345678901234567890123,\n  \"c\": [\n    0.10000000000000000001,\n    1E3\n  "
+            "]\n}\n");
+}
+
+// A file that cannot be changed, and what is told of it.
+TEST_F(StoreTest, EachFailureNamesTheFileAndTheReason) {
+  struct Case {
+    const char* why;
+    void (*prepare)(const tests::ScratchDirectory& scratch);
+    std::string fault;
+  };
+  using Scratch = tests::ScratchDirectory;
+  const std::string lock = path_ + ".lock";
+  const Case cases[] = {
+      {"a broken file", [](const Scratch& s) { s.write(kFile, "{\n"); }, "line 2 is not JSON"},
+      {"a directory in the place of the lock",
+       [](const Scratch& s) { fs::create_directories(s.path(kFile) + ".lock"); }, lock + ": Is a directory"},
+      {"a directory in the place of the new file",
+       [](const Scratch& s) { fs::create_directories(s.path(kFile) + ".new"); }, "File exists"},
+      {"a file in the place of the directory", [](const Scratch& s) { s.write("KZMUtilities", ""); },
+       lock + ": Not a directory"},
+      {"no more room",
+       [](const Scratch& s) { s.write(kFile, "{\"b\": \"" + std::string(kMostBytes - 12, 'x') + "\"}"); },
+       "it would be larger than 1048576 bytes"},
+  };
+  for (const Case& c : cases) {
+    fs::remove_all(scratch_.path("KZMUtilities"));
+    c.prepare(scratch_);
+    static_cast<void>(linesOf(1));  // a broken file is told once by itself
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(store_.set(1, "a")) << c.why;
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "KZMSettings: " + path_ + " is not changed: " + c.fault + "\n")
+        << c.why;
+  }
+}
+
+TEST_F(StoreTest, AFailedWriteTellsTheReasonAndLeavesNothing) {
+  EXPECT_TRUE(store_.set(1, "a"));
+  const rlimit none{0, RLIM_INFINITY};
+  rlimit before{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+  testing::internal::CaptureStderr();
+  const auto former = std::signal(SIGXFSZ, SIG_IGN);
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+  const bool changed = store_.set(2, "a");
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+  std::signal(SIGXFSZ, former);
+  static_cast<void>(testing::internal::GetCapturedStderr());
+  EXPECT_FALSE(changed);
+  EXPECT_EQ(store_.find("a"), Value(1));
+  EXPECT_FALSE(fs::exists(path_ + ".new"));
 }
 
 TEST_F(StoreTest, ALinkedFileIsReplacedWhereItIs) {

@@ -1,6 +1,6 @@
 // The program that the tests start: each argument is a thing to do, in order.
 //
-//   exit N        end with that code             block         wait for a signal, for ever
+//   exit N        end with that code             block         wait for a signal, forever
 //   stubborn      ignore SIGTERM                 polite        end with code 3 at SIGTERM
 //   ready         write the line "ready"         echo          copy the standard input to the output until its end
 //   arguments     write all arguments, from 0   environment   write the variables, one a line

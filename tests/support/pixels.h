@@ -24,7 +24,7 @@ class Canvas {
   [[nodiscard]] cairo_surface_t* surface() const { return surface_; }
   [[nodiscard]] bool isSound() const { return cairo_status(cairo_) == CAIRO_STATUS_SUCCESS; }
 
-  /// 0xAARRGGBB, the colours multiplied by alpha.
+  /// 0xAARRGGBB, the colors multiplied by alpha.
   [[nodiscard]] std::uint32_t pixel(int x, int y) const {
     cairo_surface_flush(surface_);
     const unsigned char* row = cairo_image_surface_get_data(surface_) + y * cairo_image_surface_get_stride(surface_);

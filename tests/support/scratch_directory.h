@@ -28,7 +28,7 @@ class ScratchDirectory {
   /// The path of something in the directory.
   [[nodiscard]] std::string path(std::string_view name) const { return path_ + "/" + std::string(name); }
 
-  /// Writes a file in the directory, and the directories it lies in; gives its path.
+  /// Writes a file in the directory, and the directories it is in; gives its path.
   std::string write(std::string_view name, std::string_view text) const {
     const std::string file = path(name);
     std::filesystem::create_directories(std::filesystem::path(file).parent_path());

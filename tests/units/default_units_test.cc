@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <limits>
@@ -11,6 +12,7 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
 
+#include "core/rows.h"
 #include "tests/support/settings.h"
 
 namespace kzm {
@@ -118,7 +120,7 @@ TEST_F(DefaultUnits, SettingsAreReadAsIntegers) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   const Case cases[] = {
       {"a text", "2", Unit::millibars},
-      {"a text with blanks", "  3x", Unit::inchesOfMercury},
+      {"a text with spaces", "  3x", Unit::inchesOfMercury},
       {"a fraction is cut", 2.9, Unit::millibars},
       {"a text's fraction is cut", "2.9", Unit::millibars},
       {"true is one", true, Unit::hectopascals},
@@ -186,6 +188,24 @@ TEST_F(DefaultUnits, UnitsAreGivenBackAsTheyWereSet) {
   units.setUnits(odd);
   EXPECT_EQ(units.units(), odd);
   EXPECT_EQ(units.windSpeedUnit(), Unit::inches);
+}
+
+TEST_F(DefaultUnits, EveryUnitCanBeChosen) {
+  for (std::size_t i = 0; i < core::countEnumerators<Unit>(); ++i) {
+    const auto unit = static_cast<Unit>(i);
+    const auto offers = [unit](const UnitSetting& setting) { return std::ranges::count(setting.units, unit) > 0; };
+    EXPECT_TRUE(std::ranges::any_of(unitSettings(), offers)) << measurementUnitName(unit);
+  }
+}
+
+TEST_F(DefaultUnits, UnitsAreACopy) {
+  KZMUtilitiesDefaultUnits units;
+  units.setUnits(only("windspeed", Unit::knots));
+  PreferredUnits copy = units.units();
+  copy["windspeed"] = Unit::milesPerHour;
+  EXPECT_EQ(units.windSpeedUnit(), Unit::knots);
+  units.setUnits(copy);
+  EXPECT_EQ(units.windSpeedUnit(), Unit::milesPerHour);
 }
 
 TEST_F(DefaultUnits, FollowTheLocaleInForceWhenMade) {

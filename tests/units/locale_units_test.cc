@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "units/measurement_unit.h"
-
 namespace kzm::units {
 namespace {
 
@@ -137,37 +135,6 @@ TEST(Samples, ReadAsTheRegionsShowThem) {
   EXPECT_EQ(samplesIn({"US", ""}), (Samples{"0 mph", "0 inHg", "32 °F", "0 mi", "1.181 in", "1.181 in"}));
   EXPECT_EQ(samplesIn({"GB", ""}), (Samples{"0 mph", "0 mbar", "0 °C", "0 mi", "30 mm", "3 cm"}));
   EXPECT_EQ(samplesIn({"SE", "kelvin"}), (Samples{"0 m/s", "0 hPa", "273.15 K", "0 km", "30 mm", "3 cm"}));
-}
-
-TEST(MeasurementUnits, HaveNamesAndSymbols) {
-  struct Case {
-    Unit unit;
-    const char* name;
-    const char* symbol;
-  };
-  const Case cases[] = {
-      {Unit::celsius, "celsius", "°C"},
-      {Unit::fahrenheit, "fahrenheit", "°F"},
-      {Unit::kelvin, "kelvin", "K"},
-      {Unit::metersPerSecond, "metersPerSecond", "m/s"},
-      {Unit::kilometersPerHour, "kilometersPerHour", "km/h"},
-      {Unit::milesPerHour, "milesPerHour", "mph"},
-      {Unit::knots, "knots", "kn"},
-      {Unit::hectopascals, "hectopascals", "hPa"},
-      {Unit::millibars, "millibars", "mbar"},
-      {Unit::inchesOfMercury, "inchesOfMercury", "inHg"},
-      {Unit::kilometers, "kilometers", "km"},
-      {Unit::miles, "miles", "mi"},
-      {Unit::millimeters, "millimeters", "mm"},
-      {Unit::centimeters, "centimeters", "cm"},
-      {Unit::inches, "inches", "in"},
-  };
-  static_assert(std::size(cases) == 15);
-  for (const Case& c : cases) {
-    EXPECT_EQ(measurementUnitName(c.unit), c.name);
-    EXPECT_EQ(symbolOf(c.unit), c.symbol);
-  }
-  EXPECT_EQ(measurementUnitName(static_cast<Unit>(200)), "");
 }
 
 }  // namespace

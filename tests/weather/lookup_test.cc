@@ -1,8 +1,9 @@
 // What the weather calls ask the localization library for: this program brings its own, which asks back and locks.
+#include "tests/support/lookup.h"
+
 #include <atomic>
 #include <gtest/gtest.h>
 #include <mutex>
-#include <optional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -15,14 +16,7 @@
 
 namespace {
 
-struct Lookup {
-  std::string key;
-  std::string table;
-  const kzm::ResourceBundle* bundle;
-  std::optional<std::string> comment;
-
-  friend bool operator==(const Lookup&, const Lookup&) = default;
-};
+using kzm::tests::Lookup;
 
 std::mutex ownLock;
 std::vector<Lookup> lookups;
@@ -35,8 +29,7 @@ std::string KZMLocalizedStringFromTableInBundle(std::string_view key, std::strin
   std::string text(key.substr(key.rfind('.') + 1));
   if (std::exchange(asksBack, false)) text += " of " + KZMUtilitiesFormatWeatherDays(2.0);
   const std::lock_guard lock(ownLock);
-  lookups.push_back({std::string(key), std::string(table), bundle,
-                     comment != nullptr ? std::optional<std::string>(comment) : std::nullopt});
+  lookups.emplace_back(key, table, bundle, comment);
   return text;
 }
 
@@ -54,7 +47,7 @@ class WeatherLookups : public testing::Test {
 TEST_F(WeatherLookups, EveryCallLooksItsOneTextUp) {
   const Dictionary units{{"units", true}};
   for (int i = 0; i < 3; ++i) EXPECT_EQ(KZMUtilitiesFormatWeatherTemperature(units, 20.0), "68°");
-  const Lookup degrees{"Units.Weather.%@°", "KZMUtilities", bundleWithIdentifier(kBundleIdentifier), std::nullopt};
+  const Lookup degrees{"Units.Weather.%@°", "KZMUtilities", bundleWithIdentifier(kBundleIdentifier), nullptr};
   EXPECT_EQ(lookups, (std::vector<Lookup>{degrees, degrees, degrees}));
 }
 

@@ -34,7 +34,7 @@ TEST(WeatherPressure, InTheUsersUnit) {
   }
 }
 
-TEST(WeatherPressure, InchesTakeNoHeedOfTheOptions) {
+TEST(WeatherPressure, InchesIgnoreTheOptions) {
   tests::useOnlySetting(kSetting, kInches);
   for (const Dictionary& options : {kNone, kUnits, kSpaced, withDecimals(0), withDecimals(1), withDecimals(5)}) {
     EXPECT_EQ(KZMUtilitiesFormatWeatherPressure(options, 1013.25), "29.92\"");

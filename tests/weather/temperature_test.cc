@@ -30,7 +30,7 @@ TEST(WeatherTemperature, InTheUsersUnit) {
       {"whole", kCelsius, kUnits, 21.6, "22°"},
       {"number alone", kCelsius, kNone, 21.6, "22"},
       {"decimals in Celsius", kCelsius, withDecimals(1), 21.64, "21.6°"},
-      {"at most so many", kCelsius, withDecimals(3), 21.5, "21.5°"},
+      {"at most three", kCelsius, withDecimals(3), 21.5, "21.5°"},
       {"half to even", kCelsius, kUnits, 20.5, "20°"},
       {"half to even", kCelsius, kUnits, 21.5, "22°"},
       {"decimals as text", kCelsius, withDecimals("2"), 1.234, "1.23°"},

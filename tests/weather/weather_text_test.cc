@@ -1,11 +1,14 @@
 #include "weather/weather_text.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include <KZMLocalization/KZMLocalization.h>
+#include <KZMUtilities/default_units.h>
 #include <KZMUtilities/formatters.h>
 #include <KZMUtilities/weather.h>
 
@@ -15,6 +18,31 @@
 
 namespace kzm::weather {
 namespace {
+
+TEST(WeatherTexts, EveryUnitThatCanBeChosenHasATextOfItsOwn) {
+  struct Case {
+    const char* keyPath;
+    std::string (*shown)();
+  };
+  const Case cases[] = {
+      {"Weather.Global.Units.WindSpeed", [] { return KZMUtilitiesFormatWeatherWindSpeed(kUnits, 100.0); }},
+      {"Weather.Global.Units.Degrees", [] { return KZMUtilitiesFormatWeatherTemperature(kUnits, 100.0); }},
+      {"Weather.Global.Units.Pressure", [] { return KZMUtilitiesFormatWeatherPressure(kUnits, 100.0); }},
+      {"Weather.Global.Units.Distance", [] { return KZMUtilitiesFormatWeatherDistance(100.0); }},
+      {"Weather.Global.Units.Precipitation", [] { return KZMUtilitiesFormatWeatherRainAmount(100.0); }},
+      {"Weather.Global.Units.Precipitation", [] { return KZMUtilitiesFormatWeatherSnowAmount(100.0); }},
+  };
+  for (const Case& c : cases) {
+    const auto setting = std::ranges::find(unitSettings(), c.keyPath, &UnitSetting::keyPath);
+    ASSERT_NE(setting, unitSettings().end()) << c.keyPath;
+    std::set<std::string> texts;
+    for (std::int64_t code = 1; code <= std::ssize(setting->units); ++code) {
+      tests::useOnlySetting(c.keyPath, code);
+      EXPECT_TRUE(texts.insert(c.shown()).second) << c.keyPath << " " << code << ": " << c.shown();
+    }
+  }
+  tests::useNoSettings();
+}
 
 TEST(WeatherTexts, HaveTheirEnglishText) {
   struct Case {

@@ -61,7 +61,7 @@ TEST(WeatherWindDirection, ABoundaryBelongsToTheNextSector) {
   }
 }
 
-TEST(WeatherWindDirection, BearingsAreNotBroughtIntoOneTurn) {
+TEST(WeatherWindDirection, BearingsAreNotReducedToOneTurn) {
   for (const double degrees : {-0.0, 0.0, 22.4, -10.0, -180.0, -1e300, 337.5, 360.0, 450.0, 540.0, 720.0, 1e300, kNan,
                                -kNan, kInfinity, -kInfinity}) {
     EXPECT_EQ(KZMUtilitiesFormatWeatherWindDirection(degrees), "North") << degrees;

@@ -13,9 +13,12 @@ case ${CXX:-} in *clang*) compiler=(clang) ;; esac
 packages_build=("${compiler[@]}" cmake ninja-build pkg-config
     libicu-dev libglib2.0-dev libcairo2-dev libcctz-dev nlohmann-json3-dev tzdata)
 packages_test=("${packages_build[@]}" libgtest-dev)
-packages_bench=("${packages_build[@]}" libbenchmark-dev)
-packages_all=("${packages_test[@]}" libbenchmark-dev libpango1.0-dev fonts-dejavu-core fish zsh)
-packages_check=("${packages_all[@]}" clang-format clang-tidy)
+packages_bench=("${packages_build[@]}" valgrind)
+packages_peers=(libfmt-dev libbytesize-dev qtbase5-dev libkf5coreaddons-dev libkf5sysguard-dev)
+packages_languages=(gobject-introspection libgirepository1.0-dev python3-gi gjs lua5.3 lua-lgi valac rustc clang)
+packages_all=("${packages_test[@]}" libpango1.0-dev fish zsh
+    fonts-dejavu-core fonts-noto-ui-core fonts-wqy-microhei fonts-sil-abyssinica)
+packages_check=("${packages_all[@]}" clang-format clang-tidy valgrind)
 
 # need PACKAGE...: installs those that are not there yet.
 need() {
@@ -46,7 +49,7 @@ configure() {
     rm -f "$log"
 }
 
-# build PRESET [TARGET...]: tells how far it is.
+# build PRESET [TARGET...]: shows how far it is.
 build() {
     local preset=$1
     shift
@@ -68,4 +71,20 @@ run_tests() {
 # Everything that can be built, with what it needs; for the verbs that look at all sources.
 configure_all() {
     configure "$1" -DKZM_BUILD_TESTS=ON -DKZM_BUILD_EXAMPLES=ON -DKZM_BUILD_BENCHMARKS=ON -DKZM_ALL_TESTS=ON
+}
+
+# Instructions of one warm call of each kind, as "instructions<TAB>call".
+count_instructions() {
+    configure release -DKZM_BUILD_BENCHMARKS=ON
+    build release kzm_bench
+    bench/count_instructions build/release/bin/kzm_bench
+}
+
+# The file of the counts that belong to this compiler and these libraries.
+instructions_record() {
+    local icu glibc
+    icu=$(pkg-config --modversion icu-uc)
+    glibc=$(getconf GNU_LIBC_VERSION)
+    printf 'bench/instructions/%s-%s-icu-%s-%s.tsv\n' "$(uname -m)" "$("${CXX:-g++}" --version | head -n 1 |
+        sed -E 's/ \(.*\)//; s/ /-/g')" "$icu" "${glibc// /-}"
 }

@@ -12,9 +12,10 @@ prepare_root() {
     [ ! -e "$cache/$root/ready" ] || return 0
     case $root in *-i386) architecture=i386 ;; *) architecture=$(dpkg --print-architecture) ;; esac
     rm -rf --one-file-system "${cache:?}/$root"
-    debootstrap --variant=minbase --arch="$architecture" --include=ca-certificates "$release" "$cache/$root" "$(mirror)"
-    cp -L /etc/resolv.conf "$cache/$root/etc/resolv.conf"
-    touch "$cache/$root/ready"
+    debootstrap --variant=minbase --arch="$architecture" --include=ca-certificates "$release" "$cache/$root" \
+        "$(mirror)" &&
+        cp -L /etc/resolv.conf "$cache/$root/etc/resolv.conf" &&
+        touch "$cache/$root/ready"
 }
 
 # in_root ROOT FOLDER SCRIPT ARGUMENTS: runs the script, named from the folder, there, with nothing of this machine's

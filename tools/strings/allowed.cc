@@ -13,6 +13,7 @@ constexpr std::string_view kSymbols[] = {
     "Gb",   "Mb",  "Kb",  "Gb/s", "Mb/s", "Kb/s",                               // bits
     "°",    "V",   "mV",  "A",    "mA",   "W",    "mW",   "GHz",  "mAh", "x",   // sensors
     "km/h", "m/s", "mph", "hPa",  "mb",   "\"",   "km",   "mm",   "cm",  "%%",  // weather
+    "min",                                                                      // load
 };
 
 // International spellings that English keys do not have.
@@ -29,6 +30,15 @@ constexpr Shared kShared[] = {
     {"Lux", "de"},
     {"West", "nl"},
     {"rpm", "ca es fil gl id ja ko ms my pt si ur zu"},
+    {"Network", "fil"},
+    {"Volumes", "af fr gl nl pt"},
+    {"Temperatures", "ca"},
+    {"Battery", "af"},
+    {"sent", "is"},
+    {"processor", "da fil nl sv"},
+    {"swap", "da fil id ms ro"},
+    {"Full", "is nb"},
+    {"Charge", "fr"},
 };
 
 // Scripts that a language writes within one word.
@@ -60,6 +70,13 @@ constexpr Limit kLimits[] = {
 };
 // clang-format on
 
+// Words stand at the head of columns, or at the left of a row.
+struct WordLimit {
+  std::string_view family;
+  std::size_t cells;
+};
+constexpr WordLimit kWordLimits[] = {{"Topics", 24}, {"Columns", 14}, {"Rows", 18}, {"Load", 8}, {"Battery", 26}};
+
 bool hasWord(std::string_view list, std::string_view word) {
   for (std::size_t at = list.find(word); at != std::string_view::npos; at = list.find(word, at + 1)) {
     const std::size_t end = at + word.size();
@@ -87,8 +104,10 @@ bool mayMixScripts(std::string_view language, std::string_view first, std::strin
   });
 }
 
-std::optional<std::size_t> widthLimit(std::string_view unit) {
-  const auto* found = std::ranges::find(kLimits, unit, &Limit::unit);
+std::optional<std::size_t> widthLimit(const Key& key) {
+  const auto* family = std::ranges::find(kWordLimits, key.family, &WordLimit::family);
+  if (family != std::end(kWordLimits)) return family->cells;
+  const auto* found = std::ranges::find(kLimits, unitOf(key.pattern), &Limit::unit);
   if (found == std::end(kLimits)) return std::nullopt;
   return found->cells;
 }

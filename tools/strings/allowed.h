@@ -6,6 +6,8 @@
 #include <optional>
 #include <string_view>
 
+#include "tools/strings/key.h"
+
 namespace kzm::strings {
 
 /// Whether a text of this language may be the English one: symbols everywhere, words where a language shares them.
@@ -17,8 +19,8 @@ namespace kzm::strings {
 /// Whether one word of this language may have letters of both scripts, given by their ISO 15924 codes.
 [[nodiscard]] bool mayMixScripts(std::string_view language, std::string_view first, std::string_view second);
 
-/// The width that a text of this unit may have beside its number, in cells of a terminal; nothing when none is set.
-[[nodiscard]] std::optional<std::size_t> widthLimit(std::string_view unit);
+/// The width that a text may have, beside its number if it has one, in cells of a terminal; nothing when none is set.
+[[nodiscard]] std::optional<std::size_t> widthLimit(const Key& key);
 
 }  // namespace kzm::strings
 

@@ -15,6 +15,10 @@ namespace kzm::strings {
 
 inline constexpr std::string_view kDevelopmentLanguage = "en";
 
+/// The tables: the units of readings, and the words of programs that show them.
+inline constexpr std::string_view kUnitTable = "KZMUtilities";
+inline constexpr std::string_view kWordTable = "Words";
+
 struct Catalog {
   std::vector<Table> tables;
 

@@ -1,6 +1,6 @@
 // Checks the string tables and writes them as one C++ source: kzm_compile_strings OUTPUT TABLE...
 //
-// Each TABLE is a file <language>.lproj/<name>.strings. A fault is told in one line with its place, and nothing is
+// Each TABLE is a file <language>.lproj/<name>.strings. A fault is reported in one line with its place, and nothing is
 // written then. This runs at build time, on the machine that builds, and needs nothing but the standard library.
 #include <exception>
 #include <filesystem>
@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
   }
   try {
     const Faults faults = compile(argv[1], {argv + 2, argv + argc});
-    for (const Fault& fault : faults) std::cerr << told(fault) << '\n';
+    for (const Fault& fault : faults) std::cerr << asLine(fault) << '\n';
     return faults.empty() ? 0 : 1;
   } catch (const std::exception& error) {
     std::cerr << "kzm_compile_strings: " << error.what() << '\n';

@@ -22,8 +22,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kTable = "KZMUtilities";
-
 constexpr std::string_view kUsage =
     "usage: kzm_strings_desk FOLDER VERB [ARGUMENT...]\n"
     "\n"
@@ -41,8 +39,8 @@ struct Failure : std::runtime_error {
 
 using Arguments = std::vector<std::string>;
 
-int tell(const Faults& faults) {
-  for (const Fault& fault : faults) std::cerr << told(fault) << '\n';
+int complain(const Faults& faults) {
+  for (const Fault& fault : faults) std::cerr << asLine(fault) << '\n';
   return faults.empty() ? 0 : 1;
 }
 
@@ -54,10 +52,9 @@ void needTag(std::string_view language) {
   }
 }
 
-const Table& tableOf(const Catalog& catalog, const std::string& language) {
-  const Table* table = catalog.find(language, kTable);
-  if (table == nullptr) throw Failure("there is no table of the language \"" + language + '"');
-  return *table;
+void needTable(const Catalog& catalog, const std::string& language) {
+  if (std::ranges::find(catalog.tables, language, &Table::language) != catalog.tables.end()) return;
+  throw Failure("there is no table of the language \"" + language + '"');
 }
 
 /// All faults, or those of one language.
@@ -76,15 +73,18 @@ Faults faultsOf(const Catalog& catalog, std::string_view language) {
 }
 
 int check(const Catalog& catalog, const fs::path& /*folder*/, const Arguments& arguments) {
-  if (!arguments.empty()) tableOf(catalog, arguments[0]);
-  return tell(faultsOf(catalog, arguments.empty() ? "" : arguments[0]));
+  if (!arguments.empty()) needTable(catalog, arguments[0]);
+  return complain(faultsOf(catalog, arguments.empty() ? "" : arguments[0]));
 }
 
 int report(const Catalog& catalog, const fs::path& /*folder*/, const Arguments& arguments) {
   if (arguments.empty()) {
     reportAll(std::cout, catalog);
-  } else {
-    reportTexts(std::cout, tableOf(catalog, arguments[0]));
+    return 0;
+  }
+  needTable(catalog, arguments[0]);
+  for (const Table& table : catalog.tables) {
+    if (table.language == arguments[0]) reportTexts(std::cout, table);
   }
   return 0;
 }
@@ -99,46 +99,94 @@ void writeFile(const fs::path& path, const std::string& content) {
 int exportTexts(const Catalog& catalog, const fs::path& /*folder*/, const Arguments& arguments) {
   needTag(arguments[0]);
   std::ostringstream texts;
-  writeCatalog(texts, catalog, arguments[0], kTable);
+  writeCatalog(texts, catalog, arguments[0]);
   writeFile(arguments[1], texts.str());
   return 0;
 }
 
-/// What is wrong with the table that an import makes, told at the lines of the messages.
-Faults faultsOfImport(Catalog catalog, Table table, const std::string& path, const std::vector<Message>& messages) {
+/// The names of the tables, as the development language has them.
+std::vector<std::string> tableNames(const Catalog& catalog) {
+  std::vector<std::string> names;
+  for (const Table& table : catalog.tables) {
+    if (table.language == kDevelopmentLanguage) names.push_back(table.name);
+  }
+  return names;
+}
+
+/// What the tables of a language become with the messages of a PO file.
+struct Change {
+  std::vector<Table> tables;  // with their new content
+  std::vector<std::string> keys;
+  Faults faults;
+};
+
+Change changeOf(const Catalog& catalog, const fs::path& folder, const std::string& language, const std::string& path,
+                const std::vector<Message>& messages) {
+  Change change;
+  for (const std::string& name : tableNames(catalog)) {
+    Import import = importCatalog(catalog, language, name, path, messages);
+    change.faults = std::move(import.faults);
+    if (!change.faults.empty()) break;
+    if (import.changed.empty()) continue;
+    change.tables.push_back(parseTable(folder / (language + ".lproj") / (name + ".strings"), import.content));
+    std::ranges::move(import.changed, std::back_inserter(change.keys));
+  }
+  return change;
+}
+
+void put(Catalog& catalog, const Table& table) {
   const auto old = std::ranges::find(catalog.tables, table.path, &Table::path);
   if (old == catalog.tables.end()) {
     catalog.tables.push_back(table);
   } else {
     *old = table;
   }
-  Faults faults = faultsOf(catalog, table.language);
+}
+
+/// The row that a fault is in.
+const Entry* entryOf(const std::vector<Table>& tables, const Fault& fault) {
+  const auto table = std::ranges::find(tables, fault.path, &Table::path);
+  if (table == tables.end()) return nullptr;
+  const auto entry = std::ranges::find(table->entries, fault.line, &Entry::line);
+  return entry == table->entries.end() ? nullptr : &*entry;
+}
+
+/// What is wrong with the tables that an import makes, told at the lines of the messages.
+Faults faultsOfImport(Catalog catalog, const std::vector<Table>& tables, const std::string& language,
+                      const std::string& path, const std::vector<Message>& messages) {
+  for (const Table& table : tables) put(catalog, table);
+  Faults faults = faultsOf(catalog, language);
   for (Fault& fault : faults) {
-    const auto entry = std::ranges::find(table.entries, fault.line, &Entry::line);
-    if (entry == table.entries.end()) continue;
+    const Entry* entry = entryOf(tables, fault);
+    if (entry == nullptr) continue;
     const auto message = std::ranges::find(messages, entry->key, &Message::context);
     if (message != messages.end()) fault = {path, message->line, fault.what};
   }
   return faults;
 }
 
+std::vector<Message> readFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  const std::string content{std::istreambuf_iterator<char>(file), {}};
+  if (!file) throw Failure(path + " cannot be read");
+  return readMessages(path, content);
+}
+
 int importTexts(const Catalog& catalog, const fs::path& folder, const Arguments& arguments) {
   const std::string& language = arguments[0];
+  const std::string& path = arguments[1];
   needTag(language);
   if (language == kDevelopmentLanguage) throw Failure("the English texts are the keys");
-  std::ifstream file(arguments[1], std::ios::binary);
-  const std::string content{std::istreambuf_iterator<char>(file), {}};
-  if (!file) throw Failure(arguments[1] + " cannot be read");
-  const std::vector<Message> messages = readMessages(arguments[1], content);
-  const Import result = importCatalog(catalog, language, kTable, arguments[1], messages);
-  if (!result.faults.empty()) return tell(result.faults);
-  const fs::path path = folder / (language + ".lproj") / (std::string(kTable) + ".strings");
-  const Table table = parseTable(path, result.content);
-  const Faults faults = faultsOfImport(catalog, table, arguments[1], messages);
-  if (!faults.empty()) return tell(faults);
-  fs::create_directories(path.parent_path());
-  if (!result.changed.empty()) writeFile(path, result.content);
-  for (const std::string& key : result.changed) std::cout << "changed: " << literalOf(key) << '\n';
+  const std::vector<Message> messages = readFile(path);
+  const Change change = changeOf(catalog, folder, language, path, messages);
+  if (!change.faults.empty()) return complain(change.faults);
+  const Faults faults = faultsOfImport(catalog, change.tables, language, path, messages);
+  if (!faults.empty()) return complain(faults);
+  for (const Table& table : change.tables) {
+    fs::create_directories(fs::path(table.path).parent_path());
+    writeFile(table.path, table.content);
+  }
+  for (const std::string& key : change.keys) std::cout << "changed: " << literalOf(key) << '\n';
   return 0;
 }
 
@@ -164,12 +212,12 @@ int run(const Arguments& arguments) {
   if (!fs::is_directory(folder)) throw Failure(folder.string() + " is no folder");
   Faults faults;
   const Catalog catalog = readCatalog(tablePaths(folder), faults);
-  if (faults.empty() && catalog.find(kDevelopmentLanguage, kTable) == nullptr) {
+  if (faults.empty() && catalog.find(kDevelopmentLanguage, kUnitTable) == nullptr) {
     throw Failure(folder.string() + " has no table of the development language");
   }
-  // A check tells all faults; the other verbs need tables that can be taken apart.
+  // A check reports all faults; the other verbs need tables that can be taken apart.
   if (faults.empty() && verb->run != check) faults = structureFaults(catalog);
-  return faults.empty() ? verb->run(catalog, folder, {arguments.begin() + 2, arguments.end()}) : tell(faults);
+  return faults.empty() ? verb->run(catalog, folder, {arguments.begin() + 2, arguments.end()}) : complain(faults);
 }
 
 }  // namespace

@@ -15,6 +15,8 @@ struct Use {
 constexpr Use kUses[] = {
     {"Network", "bytes/bandwidth.cc"}, {"Activity", "bytes/disk_activity.cc"}, {"Space", "bytes/disk_space.cc"},
     {"Memory", "bytes/memory.cc"},     {"Sensors", "sensors/sensor_table.cc"}, {"Weather", "weather/weather_text.cc"},
+    {"Topics", "cli/show/topics.cc"},  {"Columns", "cli/show/topics.cc"},      {"Rows", "cli/show/topics.cc"},
+    {"Load", "cli/show/topics.cc"},    {"Battery", "cli/show/topics.cc"},
 };
 
 void addLines(std::vector<std::string>& lines, std::string_view text) {
@@ -49,8 +51,10 @@ Message messageOf(const Entry& english) {
   message.original = english.text;
   addLines(message.comments, english.section);
   addLines(message.comments, english.hint);
-  if (const auto cells = widthLimit(unitOf(key.pattern))) {
-    message.comments.push_back("at most " + std::to_string(*cells) + " cells beside the number");
+  if (const auto cells = widthLimit(key)) {
+    const bool hasNumber = partsOf(key.pattern).hasNumber;
+    message.comments.push_back("at most " + std::to_string(*cells) + " cells" +
+                               (hasNumber ? " beside the number" : ""));
   }
   const auto* use = std::ranges::find(kUses, key.family, &Use::family);
   if (use != std::end(kUses)) message.references.emplace_back(use->file);
@@ -63,20 +67,27 @@ void addTranslation(Message& message, const Table& table, const Entry& entry) {
   message.comments.push_back("source: " + note.source + "; reviewer: " + note.reviewer);
 }
 
-}  // namespace
-
-void writeCatalog(std::ostream& out, const Catalog& catalog, std::string_view language, std::string_view name) {
-  const Table& development = *catalog.find(kDevelopmentLanguage, name);
+/// The texts of one table.
+void writeTexts(std::ostream& out, const Catalog& catalog, const Table& development, std::string_view language) {
+  const std::string& name = development.name;
   const Table* table = language == kDevelopmentLanguage ? nullptr : catalog.find(language, name);
   const Table* parent = table == nullptr ? nullptr : catalog.parent(*table);
-  writeMessage(out, headerOf(language));
   for (const Entry& english : development.entries) {
     Message message = messageOf(english);
     const Entry* own = table == nullptr ? nullptr : table->find(english.key);
     if (own != nullptr) addTranslation(message, *table, *own);
-    if (parent != nullptr)
-      message.comments.push_back("in " + parent->language + ": " + parent->find(english.key)->text);
+    const Entry* above = parent == nullptr ? nullptr : parent->find(english.key);
+    if (above != nullptr) message.comments.push_back("in " + parent->language + ": " + above->text);
     writeMessage(out, message);
+  }
+}
+
+}  // namespace
+
+void writeCatalog(std::ostream& out, const Catalog& catalog, std::string_view language) {
+  writeMessage(out, headerOf(language));
+  for (const Table& table : catalog.tables) {
+    if (table.language == kDevelopmentLanguage) writeTexts(out, catalog, table, language);
   }
 }
 

@@ -18,15 +18,15 @@ struct Fault {
 
 using Faults = std::vector<Fault>;
 
-/// The fault in one line, as compilers tell theirs: "path:line: what".
-[[nodiscard]] inline std::string told(const Fault& fault) {
+/// The fault in one line, as compilers write theirs: "path:line: what".
+[[nodiscard]] inline std::string asLine(const Fault& fault) {
   const std::string place = fault.line == 0 ? fault.path : fault.path + ':' + std::to_string(fault.line);
   return place + ": " + fault.what;
 }
 
 /// Ends the reading of a file that cannot be understood.
 struct Unreadable : std::runtime_error {
-  explicit Unreadable(Fault found) : std::runtime_error(told(found)), fault(std::move(found)) {}
+  explicit Unreadable(Fault found) : std::runtime_error(asLine(found)), fault(std::move(found)) {}
   Fault fault;
 };
 

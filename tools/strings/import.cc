@@ -36,7 +36,10 @@ class Importer {
  public:
   Importer(const Catalog& catalog, std::string_view language, std::string_view name, const std::string& path,
            const std::vector<Message>& messages)
-      : development_(*catalog.find(kDevelopmentLanguage, name)), path_(path), isLayer_(withoutRegion(language)) {
+      : catalog_(catalog),
+        development_(*catalog.find(kDevelopmentLanguage, name)),
+        path_(path),
+        isLayer_(withoutRegion(language)) {
     for (const Message& message : messages) keep(message, language);
     const Table* table = catalog.find(language, name);
     isNew_ = table == nullptr;
@@ -65,6 +68,7 @@ class Importer {
   void keep(const Message& message, std::string_view language) {
     if (message.context.empty() && message.original.empty()) return keepHeader(message, language);
     const Entry* english = development_.find(message.context);
+    if (english == nullptr && isInAnotherTable(message.context)) return;
     if (english == nullptr) return fault(message.line, "unknown key \"" + message.context + '"');
     if (english->text != message.original) {
       return fault(message.line, "\"" + message.original + "\" is not the English text of \"" + message.context + '"');
@@ -72,6 +76,12 @@ class Importer {
     if (!messages_.emplace(message.context, &message).second) {
       fault(message.line, '"' + message.context + "\" is there twice");
     }
+  }
+
+  [[nodiscard]] bool isInAnotherTable(const std::string& key) const {
+    return std::ranges::any_of(catalog_.tables, [&](const Table& table) {
+      return table.language == kDevelopmentLanguage && table.find(key) != nullptr;
+    });
   }
 
   void keepHeader(const Message& header, std::string_view language) {
@@ -142,6 +152,7 @@ class Importer {
 
   void fault(std::size_t line, const std::string& what) { import_.faults.push_back({path_, line, what}); }
 
+  const Catalog& catalog_;
   const Table& development_;
   const std::string& path_;
   bool isLayer_;

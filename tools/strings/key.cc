@@ -1,6 +1,7 @@
 #include "tools/strings/key.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace kzm::strings {
 namespace {
@@ -23,8 +24,9 @@ int countOf(std::string_view part, std::string_view text) {
 }  // namespace
 
 std::optional<Key> parseKey(std::string_view key) {
-  if (!key.starts_with(kPrefix)) return std::nullopt;
-  key.remove_prefix(kPrefix.size());
+  const auto* prefix = std::ranges::find_if(kPrefixes, [&](std::string_view each) { return key.starts_with(each); });
+  if (prefix == std::end(kPrefixes)) return std::nullopt;
+  key.remove_prefix(prefix->size());
   const auto letters = static_cast<std::size_t>(std::ranges::find_if_not(key, isLetter) - key.begin());
   if (letters == 0 || letters + 1 >= key.size() || key[letters] != '.') return std::nullopt;
   return Key{key.substr(0, letters), key.substr(letters + 1)};

@@ -1,4 +1,5 @@
-// The parts of keys and of texts: "Units.Network.%@ MB/s" is the unit MB/s of the family Network, after a space.
+// The parts of keys and of texts: "Units.Network.%@ MB/s" is the unit MB/s of the family Network, after a space;
+// "Words.Battery.Full" is a word of the family Battery.
 #ifndef TOOLS_STRINGS_KEY_H
 #define TOOLS_STRINGS_KEY_H
 
@@ -8,7 +9,7 @@
 
 namespace kzm::strings {
 
-inline constexpr std::string_view kPrefix = "Units.";
+inline constexpr std::string_view kPrefixes[] = {"Units.", "Words."};
 inline constexpr std::string_view kNumber = "%@";
 inline constexpr std::string_view kPercent = "%%";
 inline constexpr std::string_view kNoBreakSpace = "\u00A0";
@@ -18,7 +19,7 @@ struct Key {
   std::string_view pattern;  // what an English text says
 };
 
-/// The parts of "Units.<letters>.<pattern>"; nothing when the key is not of that form.
+/// The parts of "Units.<letters>.<pattern>" or "Words.<letters>.<pattern>"; nothing for a key of another form.
 [[nodiscard]] std::optional<Key> parseKey(std::string_view key);
 
 /// What a pattern or a text has to be filled in.

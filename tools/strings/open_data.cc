@@ -61,6 +61,7 @@ constexpr Unit kUnits[] = {
     {"", "cm", "centimeter"},
     {"", "Days", "day"},
     {"", "%%", "percent"},
+    {"Load", "min", "minute"},
 };
 
 // Each of them takes another form in some language.

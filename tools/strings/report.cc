@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::string_view kNobody = "none";
 constexpr int kLanguageWidth = 12;
+constexpr int kTableWidth = 12;
 constexpr int kCountWidth = 12;
 
 struct Counts {
@@ -49,12 +50,12 @@ void reportAll(std::ostream& out, const Catalog& catalog) {
   const auto column = [&](const auto& content) -> std::ostream& {
     return out << std::right << std::setw(kCountWidth) << content;
   };
-  out << std::left << std::setw(kLanguageWidth) << "language";
+  out << std::left << std::setw(kLanguageWidth) << "language" << std::setw(kTableWidth) << "table";
   for (const char* heading : {"translated", "English", "reviewed", "differing"}) column(heading);
   out << "  sources\n";
   for (const Table& table : catalog.tables) {
     const Counts counts = countsOf(table);
-    out << std::left << std::setw(kLanguageWidth) << table.language;
+    out << std::left << std::setw(kLanguageWidth) << table.language << std::setw(kTableWidth) << table.name;
     for (const std::size_t count : {table.entries.size(), counts.english, counts.reviewed, counts.differing}) {
       column(count);
     }

@@ -1,4 +1,4 @@
-// What each text must be on its own, as far as plain bytes tell.
+// What each text must be on its own, as far as plain bytes show.
 #include <algorithm>
 
 #include "tools/strings/allowed.h"
@@ -21,7 +21,8 @@ bool contains(std::string_view text, std::string_view part) { return text.find(p
 
 void checkEntrySlots(const Entry& entry, std::string_view pattern, Report& report) {
   if (entry.text.empty()) report.add(entry, "the text of " + inQuotes(entry.key) + " is empty");
-  if (contains(entry.text, kPrefix)) report.add(entry, "a key's prefix in the text of " + inQuotes(entry.key));
+  const auto isIn = [&](std::string_view prefix) { return contains(entry.text, prefix); };
+  if (std::ranges::any_of(kPrefixes, isIn)) report.add(entry, "a key's prefix in the text of " + inQuotes(entry.key));
   const auto slots = slotsOf(entry.text);
   if (!slots) {
     report.add(entry, "a \"%\" other than %@ and %% in the text of " + inQuotes(entry.key));

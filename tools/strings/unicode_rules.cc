@@ -111,14 +111,14 @@ void checkScripts(const Table& table, const Entry& entry, Report& report) {
 // Width ---------------------------------------------------------------------------------------------------------------
 
 void checkWidth(const Entry& entry, Report& report) {
-  const std::string unit = unitOf(parseKey(entry.key)->pattern);
+  const Key key = *parseKey(entry.key);
   const std::size_t cells = cli::displayWidth(unitOf(entry.text));
-  const auto limit = widthLimit(unit);
+  const auto limit = widthLimit(key);
   if (!limit) {
-    report.add(entry, "no limit of width for " + inQuotes(unit));
+    report.add(entry, "no limit of width for " + inQuotes(entry.key));
   } else if (cells > *limit) {
-    report.add(entry, inQuotes(entry.text) + " takes " + std::to_string(cells) + " cells beside the number; " +
-                          std::to_string(*limit) + " is the limit");
+    report.add(entry, inQuotes(entry.text) + " takes " + std::to_string(cells) + " cells; " + std::to_string(*limit) +
+                          " is the limit");
   }
 }
 

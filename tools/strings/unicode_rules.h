@@ -1,4 +1,4 @@
-// What each text must be as Unicode data tell. Apart from the other rules, since the build has to do without ICU.
+// What each text must be as Unicode data say. Apart from the other rules, since the build has to do without ICU.
 #ifndef TOOLS_STRINGS_UNICODE_RULES_H
 #define TOOLS_STRINGS_UNICODE_RULES_H
 

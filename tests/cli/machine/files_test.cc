@@ -82,7 +82,7 @@ TEST(Files, ShownTextHoldsNothingThatSteersATerminal) {
   };
   constexpr Case kCases[] = {
       {"plain", "Core 0", "Core 0"},
-      {"blanks at the ends", "  a b \n", "a b"},
+      {"spaces at the ends", "  a b \n", "a b"},
       {"escape sequence", "\x1b[2Ja\x07", "[2Ja"},
       {"C1 control in two bytes",
        "a\xc2\x9b"

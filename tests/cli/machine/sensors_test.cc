@@ -25,7 +25,7 @@ class Sensors : public testing::Test {
   }
 };
 
-void expectReadings(const std::vector<Reading>& actual, const std::vector<Reading>& expected) {
+void expectReadings(const std::vector<SensorReading>& actual, const std::vector<SensorReading>& expected) {
   ASSERT_EQ(actual.size(), expected.size());
   for (std::size_t i = 0; i < actual.size(); ++i) {
     EXPECT_EQ(actual[i].kind, expected[i].kind) << expected[i].label;

@@ -50,7 +50,7 @@ constexpr const char* kFiles[] = {
 
 void expectShowable(const std::string& text) { EXPECT_EQ(shownText(text), text); }
 
-// What a renderer may rely on, whatever stands in the files.
+// What a renderer may rely on, whatever is in the files.
 void expectSane(const Root& root) {
   for (const Sample& sample : {readNetwork(root, 0), readDisks(root, 0)}) {
     for (const Counter& counter : sample.counters) expectShowable(counter.name);
@@ -61,11 +61,11 @@ void expectSane(const Root& root) {
   (void)readMemory(root);
   (void)readLoadAverages(root);
   for (const ProcessorTime& time : readProcessor(root)) EXPECT_LE(time.idle, time.total);
-  std::vector<Reading> readings = readSensors(root);
+  std::vector<SensorReading> readings = readSensors(root);
   for (const Battery& battery : readBatteries(root)) {
     readings.insert(readings.end(), battery.readings.begin(), battery.readings.end());
   }
-  for (const Reading& reading : readings) {
+  for (const SensorReading& reading : readings) {
     EXPECT_TRUE(std::isfinite(reading.value)) << reading.label;
     EXPECT_FALSE(reading.label.empty());
     expectShowable(reading.label);

@@ -10,7 +10,7 @@ int main(void) {
   text = kzm_format_bandwidth("{\"bandwidthformat\": 2, \"space\": true}", 1500000.0);
   if (text == NULL) return 1;
   puts(text);
-  is_right = strcmp(text, "11 Mb/s") == 0 && strcmp(kzm_version(), KZM_VERSION) == 0;
+  is_right = strcmp(text, "11 Mb/s") == 0;
   kzm_free(text);
   return is_right ? 0 : 1;
 }

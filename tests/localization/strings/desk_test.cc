@@ -1,4 +1,4 @@
-// The translator's desk as a program: its verbs, and what it says when it cannot do as it is told.
+// The translator's desk as a program: its verbs, and what it says when it cannot do what is asked.
 #include <gtest/gtest.h>
 #include <string>
 

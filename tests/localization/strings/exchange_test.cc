@@ -46,7 +46,7 @@ Catalog catalog() {
 
 std::string exported(std::string_view language) {
   std::ostringstream out;
-  writeCatalog(out, catalog(), language, "T");
+  writeCatalog(out, catalog(), language);
   return out.str();
 }
 
@@ -76,7 +76,7 @@ msgstr ""
 
 #. Sensors: no full stops
 #. a fan at rest
-#. at most 12 cells beside the number
+#. at most 12 cells
 #. in de: Aus
 #: sensors/sensor_table.cc
 msgctxt "Units.Sensors.Off"
@@ -214,7 +214,7 @@ TEST(Exchange, OfTheLibrarysOwnTablesChangesNothing) {
   for (const Table& table : own.tables) {
     if (table.language == kDevelopmentLanguage) continue;
     std::ostringstream out;
-    writeCatalog(out, own, table.language, table.name);
+    writeCatalog(out, own, table.language);
     const Import result = importCatalog(own, table.language, table.name, "x.po", readMessages("x.po", out.str()));
     EXPECT_EQ(tests::lines(result.faults), "") << table.language;
     EXPECT_EQ(result.content, table.content) << table.language;
@@ -230,6 +230,9 @@ TEST(Exchange, TheLibrarysOwnRowsHaveHintsForTranslators) {
   for (const Entry& entry : readTable(KZM_SOURCES "/resources/en.lproj/KZMUtilities.strings").entries) {
     EXPECT_FALSE(entry.section.empty()) << entry.key;
     EXPECT_TRUE(!entry.hint.empty() || isDirection(entry.text)) << entry.key;
+  }
+  for (const Entry& entry : readTable(KZM_SOURCES "/resources/en.lproj/Words.strings").entries) {
+    EXPECT_FALSE(entry.section.empty()) << entry.key;
   }
 }
 

@@ -18,6 +18,8 @@ constexpr KeyCase kKeys[] = {
     {"Units.Network.%@ GB", "Network", "%@ GB"},
     {"Units.A.Off", "A", "Off"},
     {"Units.A.a.b", "A", "a.b"},
+    {"Words.A.Not charging", "A", "Not charging"},
+    {"Others.A.x", nullptr, nullptr},
     {"Units.A.", nullptr, nullptr},
     {"Units..x", nullptr, nullptr},
     {"Units.A1.x", nullptr, nullptr},

@@ -1,4 +1,4 @@
-// What is told of the languages.
+// What is reported of the languages.
 #include "tools/strings/report.h"
 
 #include <gtest/gtest.h>
@@ -27,9 +27,9 @@ TEST(Report, CountsTextsForEachLanguage) {
   std::ostringstream out;
   reportAll(out, catalog());
   EXPECT_EQ(out.str(),
-            "language      translated     English    reviewed   differing  sources\n"
-            "en                     3           3           0           1  own 3\n"
-            "de                     3           1           2           1  own 2, symbol 1\n");
+            "language    table         translated     English    reviewed   differing  sources\n"
+            "en          T                      3           3           0           1  own 3\n"
+            "de          T                      3           1           2           1  own 2, symbol 1\n");
 }
 
 TEST(Report, NamesSourceAndReviewerOfEachText) {

@@ -29,7 +29,7 @@ const Case kTables[] = {
      "5: \"Units.A.Off\" is there twice"},
     {"no prefix",
      {{"Units.A.%@ km", "%@ km"}, {"Units.A.%@%%", "%@%%"}, {"Units.A.Off", "Aus"}, {"On", "An"}},
-     "5: the key \"On\" is not \"Units.<family>.<template>\"\n5: unknown key \"On\""},
+     "5: the key \"On\" is not \"Units.<family>.<template>\" or \"Words.<family>.<word>\"\n5: unknown key \"On\""},
     {"an unknown key",
      {{"Units.A.%@ km", "%@ km"}, {"Units.A.%@ mi", "%@ mi"}, {"Units.A.%@%%", "%@%%"}, {"Units.A.Off", "Aus"}},
      "3: unknown key \"Units.A.%@ mi\""},
@@ -45,6 +45,16 @@ const Case kTables[] = {
 
 TEST(StructureRules, ATableHasAllRowsInOrder) {
   for (const Case& test : kTables) EXPECT_EQ(faults("de", test.rows), test.faults) << test.why;
+}
+
+TEST(StructureRules, ALanguageMayLackWords) {
+  const tests::Rows english{{"Words.A.On", "On"}, {"Words.A.Off", "Off"}, {"Words.A.Idle", "Idle"}};
+  const auto faultsOf = [&](const tests::Rows& rows) {
+    return lines(plainFaults({{table("en", english, "Words"), table("de", rows, "Words")}}));
+  };
+  EXPECT_EQ(faultsOf({{"Words.A.Off", "Aus"}}), "");
+  EXPECT_EQ(faultsOf({{"Words.A.Off", "Aus"}, {"Words.A.On", "An"}}), "3: \"Words.A.On\" is out of order");
+  EXPECT_EQ(faultsOf({{"Words.A.Off", "Off"}}), "2: \"Off\" is English");
 }
 
 TEST(StructureRules, EnglishTextsAreTheTemplates) {

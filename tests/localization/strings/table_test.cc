@@ -9,8 +9,8 @@ namespace {
 
 Table read(std::string content) { return parseTable("de.lproj/T.strings", std::move(content)); }
 
-/// What is told of the content; nothing when it can be read.
-std::string told(std::string content) {
+/// What is reported of the content; nothing when it can be read.
+std::string reported(std::string content) {
   try {
     read(std::move(content));
     return "";
@@ -62,7 +62,7 @@ const Unread kUnread[] = {
 
 TEST(Table, WhatCannotBeReadIsToldWithItsLine) {
   for (const Unread& test : kUnread) {
-    EXPECT_EQ(told(test.content), std::string("de.lproj/T.strings:") + test.fault) << test.why;
+    EXPECT_EQ(reported(test.content), std::string("de.lproj/T.strings:") + test.fault) << test.why;
   }
 }
 

@@ -1,6 +1,6 @@
 // String tables made of rows, and what the rules say of them.
-#ifndef TESTS_LOCALIZATION_STRINGS_TABLES_H
-#define TESTS_LOCALIZATION_STRINGS_TABLES_H
+#ifndef KZM_TESTS_LOCALIZATION_STRINGS_TABLES_H
+#define KZM_TESTS_LOCALIZATION_STRINGS_TABLES_H
 
 #include <string>
 #include <utility>
@@ -22,10 +22,10 @@ using Rows = std::vector<Row>;
 inline constexpr const char* kHead = "/* source: own; reviewer: none */\n";
 
 /// The table of a language: the head on line 1, a row on each line that follows.
-inline Table table(const std::string& language, const Rows& rows) {
+inline Table table(const std::string& language, const Rows& rows, const std::string& name = "T") {
   std::string content = kHead;
   for (const Row& row : rows) content += literalOf(row.key) + " = " + literalOf(row.text) + ";\n";
-  return parseTable(language + ".lproj/T.strings", content);
+  return parseTable(language + ".lproj/" + name + ".strings", content);
 }
 
 /// The English rows of the same keys.

@@ -222,14 +222,16 @@ TEST(UnicodeRules, ATextFitsItsPlace) {
       {"at the limit", {{"Units.Weather.%@ Days", "%@ Dagene"}}, "", "nb"},
       {"one cell too wide",
        {{"Units.Weather.%@ Days", "%@ Dagerne"}},
-       "2: \"%@ Dagerne\" takes 7 cells beside the number; 6 is the limit",
+       "2: \"%@ Dagerne\" takes 7 cells; 6 is the limit",
        "nb"},
       {"wide characters",
        {{"Units.Sensors.%@ Lux", "%@ ルクス光"}},
-       "2: \"%@ ルクス光\" takes 8 cells beside the number; 6 is the limit",
+       "2: \"%@ ルクス光\" takes 8 cells; 6 is the limit",
        "ja"},
       {"marks take none", {{"Units.Weather.%@ Days", "%@ दि\u0902नि\u0902"}}, "", "hi"},
-      {"a new unit", {{"Units.Weather.%@ furlongs", "%@ Fur"}}, "2: no limit of width for \"furlongs\""},
+      {"a new unit",
+       {{"Units.Weather.%@ furlongs", "%@ Fur"}},
+       "2: no limit of width for \"Units.Weather.%@ furlongs\""},
   });
 }
 

@@ -1,0 +1,22 @@
+// Locales of ICU by their names.
+#ifndef KZM_PORT_CANONICAL_LOCALE_H
+#define KZM_PORT_CANONICAL_LOCALE_H
+
+#include <new>
+#include <string>
+#include <unicode/locid.h>
+
+namespace kzm::port {
+
+/// The canonical locale of that name, bogus when there is none. Once memory ran out while ICU read its tables of names,
+/// only names that it knows by heart give a locale: then this throws std::bad_alloc, so that nobody takes it for a name
+/// that is none.
+[[nodiscard]] inline icu::Locale canonicalLocale(const std::string& name) {
+  icu::Locale locale = icu::Locale::createCanonical(name.c_str());
+  if (locale.isBogus() != 0 && icu::Locale::createCanonical("sr_ZZ").isBogus() != 0) throw std::bad_alloc();
+  return locale;
+}
+
+}  // namespace kzm::port
+
+#endif
