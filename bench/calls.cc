@@ -13,6 +13,7 @@
 #include <KZMUtilities/sensors.h>
 #include <KZMUtilities/weather.h>
 
+#include "bench/icu_texts.h"
 #include "bench/options.h"
 #include "bench/values.h"
 #include "c/kzm.h"
@@ -158,12 +159,7 @@ void icuPass(Span scaled) {
   using icu::number::NumberFormatter;
   static const auto formatter =
       NumberFormatter::withLocale(icu::Locale::getUS()).precision(icu::number::Precision::fixedFraction(1));
-  for (const double value : scaled) {
-    UErrorCode status = U_ZERO_ERROR;
-    std::string text;
-    formatter.formatDouble(value, status).toString(status).toUTF8String(text);
-    keep(text);
-  }
+  keepIcuTexts(formatter, scaled);
 }
 
 }  // namespace kzm::bench

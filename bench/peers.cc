@@ -25,6 +25,7 @@ extern "C" {
 #include <KZMUtilities/formatters.h>
 
 #include "bench/calls.h"
+#include "bench/icu_texts.h"
 #include "bench/options.h"
 #include "bench/report.h"
 #include "bench/sweep.h"
@@ -43,12 +44,7 @@ void icuUnitPass(Span values) {
                                     .unit(icu::MeasureUnit::getMegabyte())
                                     .unitWidth(UNUM_UNIT_WIDTH_SHORT)
                                     .precision(icu::number::Precision::fixedFraction(1));
-  for (const double value : values) {
-    UErrorCode status = U_ZERO_ERROR;
-    std::string text;
-    formatter.formatDouble(value, status).toString(status).toUTF8String(text);
-    keep(text);
-  }
+  keepIcuTexts(formatter, values);
 }
 
 void glibPass(Span values) {

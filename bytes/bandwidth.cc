@@ -3,6 +3,7 @@
 #include <KZMUtilities/bytes.h>
 
 #include "bytes/rate_ladders.h"
+#include "bytes/readings.h"
 #include "bytes/scaling.h"
 
 namespace kzm::bytes {
@@ -96,6 +97,8 @@ Form formOf(const Dictionary& options, bool bits) {
   return kFormsOfSize[size - 1][bits ? 1 : 0];
 }
 
+}  // namespace
+
 core::Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
   constexpr double kBitsPerByte = 8.0;
   const Format& format = formatOf(options);
@@ -106,12 +109,12 @@ core::Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
 
 // Deliberate: two styles of one text differ when there are no decimals. The plain one groups thousands in the locale's
 // way, the attributed one never does (Bandwidth.WithoutDecimalsTheAttributedNumberIsNeverGrouped).
-core::Reading withPlainWhole(core::Reading reading) {
+core::Reading attributedBandwidth(const Dictionary& options, double bytesPerSecond) {
+  core::Reading reading = bandwidth(options, bytesPerSecond);
   if (reading.amount.decimals <= 0) reading.amount.digits = core::Digits::plain;
   return reading;
 }
 
-}  // namespace
 }  // namespace kzm::bytes
 
 kzm::Dictionary KZMUtilitiesBandwidthData(const kzm::Dictionary& options, double bytesPerSecond) {
@@ -126,5 +129,5 @@ kzm::Dictionary KZMUtilitiesBandwidthData(const kzm::Dictionary& options, double
 
 kzm::AttributedString KZMUtilitiesFormatBandwidthWithAttributes(const kzm::Dictionary& options, double bytesPerSecond) {
   using namespace kzm::bytes;
-  return kzm::core::attributedText<kTable>(withPlainWhole(bandwidth(options, bytesPerSecond)), options);
+  return kzm::core::attributedText<kTable>(attributedBandwidth(options, bytesPerSecond), options);
 }

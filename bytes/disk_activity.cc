@@ -1,6 +1,7 @@
 #include <KZMUtilities/bytes.h>
 
 #include "bytes/rate_ladders.h"
+#include "bytes/readings.h"
 #include "bytes/scaling.h"
 
 namespace kzm::bytes {
@@ -38,13 +39,14 @@ bool isHidden(const Dictionary& options, double bytesPerSecond) {
   return bytesPerSecond < kHiddenBelow && core::readBoolean(options.find(kHideBytes));
 }
 
+}  // namespace
+
 core::Reading diskActivity(const Dictionary& options, double bytesPerSecond) {
   const Ladder& ladder = rateLadder(options, Level::kilo);
   const Style style = wholeUnitStyle(options, Form::bytesPerSecond);
   return scaled(ladder, kIndex, style, core::Digits::exactly, options, bytesPerSecond);
 }
 
-}  // namespace
 }  // namespace kzm::bytes
 
 kzm::Dictionary KZMUtilitiesDiskActivityData(const kzm::Dictionary& options, double bytesPerSecond) {

@@ -1,5 +1,6 @@
 #include <KZMUtilities/bytes.h>
 
+#include "bytes/readings.h"
 #include "bytes/scaling.h"
 #include "bytes/size_units.h"
 
@@ -26,12 +27,13 @@ constexpr auto kRows = core::unitRows("Units.Space.", kSizeTexts);
 constexpr core::UnitTable kTable{"Localizations-Units-Space", kRows};
 constexpr Scale kToKilobytes = over(1000.0);
 
+}  // namespace
+
 core::Reading diskSpace(const Dictionary& options, double bytes) {
   const Style style = wholeUnitStyle(options, Form::bytes);
   return scaled(kLadder, kSizeIndex, style, core::Digits::atMost, options, kToKilobytes(bytes));
 }
 
-}  // namespace
 }  // namespace kzm::bytes
 
 kzm::Dictionary KZMUtilitiesSpaceData(const kzm::Dictionary& options, double bytes) {

@@ -1,5 +1,6 @@
 #include <KZMUtilities/bytes.h>
 
+#include "bytes/readings.h"
 #include "bytes/scaling.h"
 #include "bytes/size_units.h"
 
@@ -24,12 +25,13 @@ constexpr auto kRows = core::unitRows("Units.Memory.", kSizeTexts);
 constexpr core::UnitTable kTable{"Localizations-Units-Memory", kRows};
 constexpr Scale kToKilobytes = times(0x1p-10);
 
+}  // namespace
+
 core::Reading memory(const Dictionary& options, double bytes) {
   const Style style = wholeUnitStyle(options, Form::bytes);
   return scaled(kLadder, kSizeIndex, style, core::Digits::exactly, options, kToKilobytes(bytes));
 }
 
-}  // namespace
 }  // namespace kzm::bytes
 
 kzm::Dictionary KZMUtilitiesMemoryData(const kzm::Dictionary& options, double bytes) {

@@ -16,8 +16,8 @@
 namespace kzm::catalogue {
 namespace {
 
-void demand(bool isThere, const char* what) {
-  if (!isThere) throw std::runtime_error(std::string("the settings library in use cannot ") + what);
+[[noreturn]] void failFor(const char* what) {
+  throw std::runtime_error(std::string("the settings library in use cannot ") + what);
 }
 
 }  // namespace
@@ -29,12 +29,12 @@ bool chooseLanguage(const std::string& locale) {
 }
 
 void useSettings(Dictionary settings) {
-  demand(&KZMSettingsUseObjects != nullptr, "be given settings");
+  if (&KZMSettingsUseObjects == nullptr) failFor("be given settings");
   KZMSettingsUseObjects(std::move(settings));
 }
 
 void storeSetting(const Value& value, std::string_view keyPath) {
-  demand(&KZMSettingsSetObjectForKeyPath != nullptr, "store settings");
+  if (&KZMSettingsSetObjectForKeyPath == nullptr) failFor("store settings");
   if (!KZMSettingsSetObjectForKeyPath(value, keyPath)) {
     throw std::runtime_error("settings: the settings file could not be written");
   }

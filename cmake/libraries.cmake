@@ -43,10 +43,3 @@ function(kzm_module name file)
     OUTPUT_NAME ${file} PREFIX "" SUFFIX ".so.${PROJECT_VERSION}"
     LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/KZMUtilities)
 endfunction()
-
-# kzm_precompile(TARGET HEADER...): the headers that most sources of the target include, compiled once for all of them.
-function(kzm_precompile target)
-  if(KZM_PRECOMPILED_HEADERS)
-    target_precompile_headers(${target} PRIVATE ${ARGN})
-  endif()
-endfunction()

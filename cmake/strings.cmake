@@ -11,6 +11,7 @@ foreach(source allowed catalog cpp_source key note structure_rules table text_ru
 endforeach()
 target_include_directories(kzm_strings PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(kzm_strings PRIVATE kzm_warnings)
+kzm_precompile(kzm_strings kzm_common_headers)
 
 add_executable(kzm_compile_strings ${PROJECT_SOURCE_DIR}/tools/strings/compile_strings.cc)
 target_link_libraries(kzm_compile_strings PRIVATE kzm_strings kzm_warnings)
@@ -20,7 +21,8 @@ add_library(kzm_desk STATIC EXCLUDE_FROM_ALL)
 foreach(source export import open_data po report unicode_rules)
   target_sources(kzm_desk PRIVATE ${PROJECT_SOURCE_DIR}/tools/strings/${source}.cc)
 endforeach()
-target_sources(kzm_desk PRIVATE ${PROJECT_SOURCE_DIR}/cli/show/display_width.cc)
+target_sources(kzm_desk PRIVATE ${PROJECT_SOURCE_DIR}/port/display_width.cc)
+target_include_directories(kzm_desk PRIVATE ${PROJECT_SOURCE_DIR}/include)
 target_link_libraries(kzm_desk PUBLIC kzm_strings ICU::uc ICU::i18n PRIVATE kzm_warnings)
 
 add_executable(kzm_strings_desk EXCLUDE_FROM_ALL ${PROJECT_SOURCE_DIR}/tools/strings/desk.cc)

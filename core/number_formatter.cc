@@ -3,10 +3,8 @@
 
 #include <KZMUtilities/formatters.h>
 
+#include "core/amounts.h"
 #include "core/number_text.h"
-#include "core/option_values.h"
-#include "core/options.h"
-#include "core/rendering.h"
 #include "core/shared.h"
 #include "port/current_locale.h"
 
@@ -51,5 +49,5 @@ std::shared_ptr<const kzm::NumberFormatter> KZMUtilitiesDecimalFormatterWithMaxi
 
 std::string KZMUtilitiesFormatNumber(const kzm::Dictionary& options, double value) {
   using namespace kzm::core;
-  return text(Amount{Digits::atMost, readInteger(options.find(kDecimals)), value});
+  return text(unitlessAmount(options, value));
 }

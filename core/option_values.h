@@ -68,7 +68,6 @@ namespace kzm::core {
 /// Walks decimals rules, dictionaries of "value" and "decimals": the first whose "value" is greater than the number
 /// gives its "decimals". Without such a rule, or when `rules` is no array, `fallback`. NaN matches none.
 [[nodiscard]] inline std::int64_t readDecimals(const Value* rules, double number, std::int64_t fallback = 0) noexcept {
-  static constexpr Key kValue = "value";
   const Array* entries = rules != nullptr ? rules->array() : nullptr;
   if (entries == nullptr) return fallback;
   for (const Value& entry : *entries) {

@@ -13,6 +13,7 @@ inline constexpr Key kReverseType = "reverse-type";
 inline constexpr Key kShort = "short";
 inline constexpr Key kSpace = "space";
 inline constexpr Key kUnits = "units";
+inline constexpr Key kValue = "value";
 
 }  // namespace kzm::core
 

@@ -1,7 +1,7 @@
 #include <KZMUtilities/percentage.h>
 
+#include "core/amounts.h"
 #include "core/option_values.h"
-#include "core/options.h"
 #include "core/rendering.h"
 
 namespace kzm::core {
@@ -14,19 +14,15 @@ constexpr Template kSpaced("%@ %");
 
 const Template& unitOf(const Dictionary& options) { return readBoolean(options.find(kSpace)) ? kSpaced : kTight; }
 
-Amount amountOf(const Dictionary& options, double percent) {
-  return {Digits::atMost, readInteger(options.find(kDecimals)), percent};
-}
-
 }  // namespace
 }  // namespace kzm::core
 
 std::string KZMUtilitiesFormatPercentage(const kzm::Dictionary& options, double percent) {
   using namespace kzm::core;
-  return text(unitOf(options), amountOf(options, percent));
+  return text(unitOf(options), unitlessAmount(options, percent));
 }
 
 kzm::AttributedString KZMUtilitiesFormatPercentageWithAttributes(const kzm::Dictionary& options, double percent) {
   using namespace kzm::core;
-  return attributedText(unitOf(options), amountOf(options, percent), options);
+  return attributedText(unitOf(options), unitlessAmount(options, percent), options);
 }

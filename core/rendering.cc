@@ -11,7 +11,6 @@ AttributedString attributedText(const Template& unit, const Amount& amount, cons
 
 [[gnu::flatten]] Dictionary data(const Template& unit, const Amount& amount, FormatKey format) {
   static constexpr Key kFormat = "format";
-  static constexpr Key kValue = "value";
   Dictionary result;
   result.reserve(3);
   const auto setFormat = [&] { result.set(kFormat, unit.isThere() ? Value(unit.text()) : Value()); };

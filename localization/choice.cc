@@ -12,6 +12,7 @@
 
 #include <KZMUtilities/key.h>
 
+#include "port/canonical_locale.h"
 #include "port/environment_locale.h"
 #include "port/memory_watch.h"
 #include "port/never_destroyed.h"
@@ -35,15 +36,7 @@ struct Wanted {
   std::atomic<const Choice*> latest{nullptr};
 };
 
-/// With the script and the region that are likely where it names none.
-icu::Locale inFull(icu::Locale locale) {
-  UErrorCode status = U_ZERO_ERROR;
-  locale.addLikelySubtags(status);
-  port::demandMemory(status);
-  return locale;
-}
-
-std::string scriptOf(const icu::Locale& locale) { return inFull(locale).getScript(); }
+std::string scriptOf(const icu::Locale& locale) { return port::inFull(locale).getScript(); }
 
 /// The locale with the characters that its readers expect: where Chinese is written in traditional ones, in Taiwan,
 /// Hong Kong and Macau, so are the other Chinese languages.
@@ -119,10 +112,10 @@ std::set<std::string> scriptsOf(const std::vector<icu::Locale>& languages) {
 /// The table of this very language: that of "de" for "de_DE". The matcher would choose it too, but it reads all that it
 /// knows of languages first, which takes longer than everything else at the start of a program.
 const StringTable* tableOf(const icu::Locale& language, const std::vector<const StringTable*>& tables) {
-  const icu::Locale wanted = inFull(language);
+  const icu::Locale wanted = port::inFull(language);
   for (const StringTable* table : tables) {
     if (!table->language.starts_with(wanted.getLanguage())) continue;
-    const icu::Locale offered = inFull(localeOf(table->language));
+    const icu::Locale offered = port::inFull(localeOf(table->language));
     const auto isSame = [&](const char* (icu::Locale::*part)() const) {
       return std::string_view((wanted.*part)()) == (offered.*part)();
     };

@@ -6,6 +6,8 @@
 #include <string>
 #include <unicode/locid.h>
 
+#include "port/memory_watch.h"
+
 namespace kzm::port {
 
 /// The canonical locale of that name, bogus when there is none. Once memory ran out while ICU read its tables of names,
@@ -14,6 +16,14 @@ namespace kzm::port {
 [[nodiscard]] inline icu::Locale canonicalLocale(const std::string& name) {
   icu::Locale locale = icu::Locale::createCanonical(name.c_str());
   if (locale.isBogus() != 0 && icu::Locale::createCanonical("sr_ZZ").isBogus() != 0) throw std::bad_alloc();
+  return locale;
+}
+
+/// The locale with the script and the region that are likely where it names none.
+[[nodiscard]] inline icu::Locale inFull(icu::Locale locale) {
+  UErrorCode status = U_ZERO_ERROR;
+  locale.addLikelySubtags(status);
+  demandMemory(status);
   return locale;
 }
 

@@ -12,7 +12,6 @@
 #include "port/ascii.h"
 #include "port/canonical_locale.h"
 #include "port/memory_watch.h"
-#include "port/never_destroyed.h"
 
 namespace kzm::port {
 namespace {
@@ -82,7 +81,6 @@ std::string canonicalName(const std::string& name) {
 /// Whether that holds for one of the locales that ICU has data for.
 template <typename Predicate>
 bool holdsForAnyName(Predicate predicate) {
-  const MemoryWatch memory;
   UErrorCode status = U_ZERO_ERROR;
   UEnumeration* names = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
   bool holds = false;
@@ -91,7 +89,6 @@ bool holdsForAnyName(Predicate predicate) {
   }
   uenum_close(names);
   demandMemory(status);
-  memory.demand();
   return holds;
 }
 
@@ -102,19 +99,13 @@ bool isLanguageKnown(const icu::Locale& locale) {
   return holdsForAnyName([&](const char* name) { return language == std::string_view(name, std::strcspn(name, "_")); });
 }
 
-std::string likelyScript(icu::Locale locale) {
-  UErrorCode status = U_ZERO_ERROR;
-  locale.addLikelySubtags(status);
-  demandMemory(status);
-  return locale.getScript();
-}
-
 /// Whether ICU has data for the language in the script that the locale names, if it names one.
 bool isScriptKnown(const icu::Locale& locale) {
   const std::string script = locale.getScript();
   return script.empty() || holdsForAnyName([&](const char* name) {
            const icu::Locale available(name);
-           return std::strcmp(available.getLanguage(), locale.getLanguage()) == 0 && likelyScript(available) == script;
+           return std::strcmp(available.getLanguage(), locale.getLanguage()) == 0 &&
+                  inFull(available).getScript() == script;
          });
 }
 
@@ -154,14 +145,6 @@ void append(std::vector<std::string>& identifiers, std::string_view name) {
   if (!identifier.empty()) identifiers.push_back(std::move(identifier));
 }
 
-}  // namespace
-
-const char* processEnvironment(const char* name) {
-  return std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing in the library ever changes the environment
-}
-
-namespace {
-
 std::string identifierOf(std::string_view name) {
   if (isPlain(name) || name.size() > kMaximumLength) return {};
   const std::size_t at = name.find('@');
@@ -182,6 +165,10 @@ std::string usableOf(std::string_view name) {
 }
 
 }  // namespace
+
+const char* processEnvironment(const char* name) {
+  return std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing in the library ever changes the environment
+}
 
 std::string localeIdentifier(std::string_view name) {
   const MemoryWatch memory;

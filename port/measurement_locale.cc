@@ -1,6 +1,5 @@
 #include "port/measurement_locale.h"
 
-#include <new>
 #include <string_view>
 
 #include "port/ascii.h"
@@ -56,12 +55,8 @@ std::string overridingRegion(std::string_view value) {
   return {upper(value[0]), upper(value[1])};
 }
 
-std::string ownRegion(icu::Locale locale) {
-  UErrorCode status = U_ZERO_ERROR;
-  if (*locale.getCountry() == '\0') locale.addLikelySubtags(status);
-  if (status == U_MEMORY_ALLOCATION_ERROR)
-    throw std::bad_alloc();  // from this call or, remembered, from an earlier one
-  return U_SUCCESS(status) ? locale.getCountry() : std::string();
+std::string ownRegion(const icu::Locale& locale) {
+  return *locale.getCountry() != '\0' ? locale.getCountry() : inFull(locale).getCountry();
 }
 
 std::string regionOf(const icu::Locale& locale) {

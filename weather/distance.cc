@@ -2,6 +2,7 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/weather.h>
 
+#include "weather/amounts.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -23,18 +24,25 @@ constexpr DistanceRow kDistances[] = {
 
 const DistanceRow& distanceRow() { return rowFor(kDistances, KZMUtilitiesDefaultUnits::shared().distanceUnit()); }
 
+core::Amount amountOf(const DistanceRow& row, double kilometers) {
+  return {core::Digits::wholeByThrees, 0, row.fromKilometers(kilometers)};
+}
+
 }  // namespace
+
+core::Amount distanceAmount(double kilometers) { return amountOf(distanceRow(), kilometers); }
+
 }  // namespace kzm::weather
 
 std::string KZMUtilitiesFormatWeatherDistance(double kilometers) {
   using namespace kzm::weather;
   const DistanceRow& row = distanceRow();
-  return text(row.shown, {kzm::core::Digits::wholeByThrees, 0, row.fromKilometers(kilometers)});
+  return text(row.shown, amountOf(row, kilometers));
 }
 
 // Deliberate: the number is neither converted nor grouped, only labeled with the unit of distances
 // (WeatherVisibility.IsNeitherConvertedNorGrouped).
 std::string KZMUtilitiesFormatWeatherVisibility(double distance) {
   using namespace kzm::weather;
-  return text(distanceRow().shown, {kzm::core::Digits::plain, 0, distance});
+  return text(distanceRow().shown, plainAmount(distance));
 }

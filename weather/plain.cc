@@ -4,6 +4,7 @@
 #include <KZMUtilities/weather.h>
 
 #include "core/option_values.h"
+#include "weather/amounts.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -14,19 +15,26 @@ constexpr std::int64_t kMostDigits = 2;  // of days and of the illuminated part
 // Deliberate: the sign of humidity is the same in every language (WeatherLookups.WhatHasNoUnitLooksNothingUp).
 constexpr core::Template kPercent("%@%%");
 
-constexpr core::Amount plain(double value) noexcept { return {core::Digits::plain, 0, value}; }
-
 std::string angle(const Dictionary& options, double degrees) {
-  return text(Unit::degrees, atMost(core::readInteger(options.find(core::kDecimals)), degrees));
+  return text(Unit::degrees, angleAmount(options, degrees));
 }
 
 }  // namespace
+
+core::Amount plainAmount(double value) { return {core::Digits::plain, 0, value}; }
+
+core::Amount finelyDividedAmount(double value) { return atMost(kMostDigits, value); }
+
+core::Amount angleAmount(const Dictionary& options, double degrees) {
+  return atMost(core::readInteger(options.find(core::kDecimals)), degrees);
+}
+
 }  // namespace kzm::weather
 
-std::string KZMUtilitiesFormatWeatherUV(double index) { return kzm::core::text(kzm::weather::plain(index)); }
+std::string KZMUtilitiesFormatWeatherUV(double index) { return kzm::core::text(kzm::weather::plainAmount(index)); }
 
 std::string KZMUtilitiesFormatWeatherHumidity(double percent) {
-  return kzm::core::text(kzm::weather::kPercent, kzm::weather::plain(percent));
+  return kzm::core::text(kzm::weather::kPercent, kzm::weather::plainAmount(percent));
 }
 
 std::string KZMUtilitiesFormatWeatherAltitude(const kzm::Dictionary& options, double degrees) {
@@ -39,10 +47,10 @@ std::string KZMUtilitiesFormatWeatherAzimuth(const kzm::Dictionary& options, dou
 
 std::string KZMUtilitiesFormatWeatherDays(double days) {
   using namespace kzm::weather;
-  return text(Unit::days, atMost(kMostDigits, days));
+  return text(Unit::days, finelyDividedAmount(days));
 }
 
 std::string KZMUtilitiesFormatWeatherIllumination(double percent) {
   using namespace kzm::weather;
-  return text(Unit::percent, atMost(kMostDigits, percent));
+  return text(Unit::percent, finelyDividedAmount(percent));
 }

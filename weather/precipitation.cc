@@ -4,6 +4,7 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/weather.h>
 
+#include "weather/amounts.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -30,18 +31,29 @@ constexpr PrecipitationRow kSnow[] = {
 
 // Deliberate: snow, too, follows the unit of rain (WeatherSnow.FollowsTheUnitOfRain).
 template <std::size_t N>
-std::string amount(const PrecipitationRow (&rows)[N], double millimeters) {
-  const PrecipitationRow& row = rowFor(rows, KZMUtilitiesDefaultUnits::shared().rainUnit());
-  return text(row.shown, atMost(row.digits, row.fromMillimeters(millimeters)));
+const PrecipitationRow& rowOf(const PrecipitationRow (&rows)[N]) {
+  return rowFor(rows, KZMUtilitiesDefaultUnits::shared().rainUnit());
+}
+
+core::Amount amountOf(const PrecipitationRow& row, double millimeters) {
+  return atMost(row.digits, row.fromMillimeters(millimeters));
+}
+
+std::string amountText(const PrecipitationRow& row, double millimeters) {
+  return text(row.shown, amountOf(row, millimeters));
 }
 
 }  // namespace
+
+core::Amount rainAmount(double millimeters) { return amountOf(rowOf(kRain), millimeters); }
+core::Amount snowAmount(double millimeters) { return amountOf(rowOf(kSnow), millimeters); }
+
 }  // namespace kzm::weather
 
 std::string KZMUtilitiesFormatWeatherRainAmount(double millimeters) {
-  return kzm::weather::amount(kzm::weather::kRain, millimeters);
+  return kzm::weather::amountText(kzm::weather::rowOf(kzm::weather::kRain), millimeters);
 }
 
 std::string KZMUtilitiesFormatWeatherSnowAmount(double millimeters) {
-  return kzm::weather::amount(kzm::weather::kSnow, millimeters);
+  return kzm::weather::amountText(kzm::weather::rowOf(kzm::weather::kSnow), millimeters);
 }

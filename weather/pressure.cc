@@ -4,6 +4,7 @@
 #include <KZMUtilities/weather.h>
 
 #include "core/option_values.h"
+#include "weather/amounts.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -46,13 +47,24 @@ bool showsUnit(const PressureRow& row, const Dictionary& options) noexcept {
   return row.showing == Showing::complete || core::readBoolean(options.find(core::kUnits));
 }
 
+const PressureRow& pressureRow() { return rowFor(kPressures, KZMUtilitiesDefaultUnits::shared().pressureUnit()); }
+
+core::Amount amountOf(const PressureRow& row, const Dictionary& options, double hectopascals) {
+  return atMost(digitsOf(row, options), row.fromHectopascals(hectopascals));
+}
+
 }  // namespace
+
+core::Amount pressureAmount(const Dictionary& options, double hectopascals) {
+  return amountOf(pressureRow(), options, hectopascals);
+}
+
 }  // namespace kzm::weather
 
 std::string KZMUtilitiesFormatWeatherPressure(const kzm::Dictionary& options, double hectopascals) {
   using namespace kzm::weather;
   using namespace kzm::core;
-  const PressureRow& row = rowFor(kPressures, KZMUtilitiesDefaultUnits::shared().pressureUnit());
-  const Amount amount = atMost(digitsOf(row, options), row.fromHectopascals(hectopascals));
+  const PressureRow& row = pressureRow();
+  const Amount amount = amountOf(row, options, hectopascals);
   return showsUnit(row, options) ? text(row.shown, readSpacing(options), amount) : text(amount);
 }

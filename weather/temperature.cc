@@ -1,4 +1,3 @@
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -8,6 +7,7 @@
 
 #include "core/option_values.h"
 #include "units/measurement_unit.h"
+#include "weather/amounts.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -40,17 +40,28 @@ void dropMinusBeforeZero(std::string& text) {
   }
 }
 
+const TemperatureRow& temperatureRow(const Dictionary& options) {
+  const MeasurementUnit unit = KZMUtilitiesDefaultUnits::shared().weatherTemperatureUnit();
+  return rowFor(kTemperatures, core::readBoolean(options.find(kReverse)) ? units::reversed(unit) : unit);
+}
+
+core::Amount amountOf(const TemperatureRow& row, const Dictionary& options, double celsius) {
+  return atMost(row.honorsDecimals ? core::readInteger(options.find(core::kDecimals)) : 0, row.fromCelsius(celsius));
+}
+
 }  // namespace
+
+core::Amount temperatureAmount(const Dictionary& options, double celsius) {
+  return amountOf(temperatureRow(options), options, celsius);
+}
+
 }  // namespace kzm::weather
 
 std::string KZMUtilitiesFormatWeatherTemperature(const kzm::Dictionary& options, double celsius) {
   using namespace kzm::weather;
   using namespace kzm::core;
-  kzm::MeasurementUnit unit = KZMUtilitiesDefaultUnits::shared().weatherTemperatureUnit();
-  if (readBoolean(options.find(kReverse))) unit = kzm::units::reversed(unit);
-  const TemperatureRow& row = rowFor(kTemperatures, unit);
-  const std::int64_t digits = row.honorsDecimals ? readInteger(options.find(kDecimals)) : 0;
-  const Amount amount = atMost(digits, row.fromCelsius(celsius));
+  const TemperatureRow& row = temperatureRow(options);
+  const Amount amount = amountOf(row, options, celsius);
   std::string shown = readBoolean(options.find(kUnits)) ? text(row.shown, amount) : text(amount);
   dropMinusBeforeZero(shown);
   return shown;

@@ -3,6 +3,7 @@
 #include <KZMUtilities/weather.h>
 
 #include "core/option_values.h"
+#include "weather/amounts.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
@@ -23,6 +24,12 @@ constexpr WindRow kWinds[] = {
     {MeasurementUnit::metersPerSecond,   unchanged,  Unit::metersPerSecond},
 };
 // clang-format on
+
+const WindRow& windRow() { return rowFor(kWinds, KZMUtilitiesDefaultUnits::shared().windSpeedUnit()); }
+
+core::Amount amountOf(const WindRow& row, double metersPerSecond) {
+  return atMost(0, row.fromMetersPerSecond(metersPerSecond));
+}
 
 // A sector of the compass, 45 degrees wide, and the bearing at which the next one begins.
 struct Sector {
@@ -53,13 +60,16 @@ constexpr Unit directionOf(double degrees) noexcept {
 }
 
 }  // namespace
+
+core::Amount windSpeedAmount(double metersPerSecond) { return amountOf(windRow(), metersPerSecond); }
+
 }  // namespace kzm::weather
 
 std::string KZMUtilitiesFormatWeatherWindSpeed(const kzm::Dictionary& options, double metersPerSecond) {
   using namespace kzm::weather;
   using namespace kzm::core;
-  const WindRow& row = rowFor(kWinds, KZMUtilitiesDefaultUnits::shared().windSpeedUnit());
-  const Amount amount = atMost(0, row.fromMetersPerSecond(metersPerSecond));
+  const WindRow& row = windRow();
+  const Amount amount = amountOf(row, metersPerSecond);
   return readBoolean(options.find(kUnits)) ? text(row.shown, readSpacing(options), amount) : text(amount);
 }
 

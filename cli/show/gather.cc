@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "cli/machine/disks.h"
-#include "cli/machine/network.h"
+#include "machine/disks.h"
+#include "machine/network.h"
 
 namespace kzm::cli {
 namespace {

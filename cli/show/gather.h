@@ -6,11 +6,11 @@
 #include <optional>
 #include <vector>
 
-#include "cli/machine/memory.h"
-#include "cli/machine/processor.h"
-#include "cli/machine/rates.h"
-#include "cli/machine/sensors.h"
-#include "cli/machine/volumes.h"
+#include "machine/memory.h"
+#include "machine/processor.h"
+#include "machine/rates.h"
+#include "machine/sensors.h"
+#include "machine/volumes.h"
 
 namespace kzm::cli {
 

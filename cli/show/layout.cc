@@ -4,9 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include <KZMUtilities/display_width.h>
 #include <KZMUtilities/text.h>
-
-#include "cli/show/display_width.h"
 
 namespace kzm::cli {
 namespace {

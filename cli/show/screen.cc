@@ -12,7 +12,7 @@
 #include <system_error>
 #include <unistd.h>
 
-#include "cli/machine/rates.h"
+#include "machine/rates.h"
 
 namespace kzm::cli {
 namespace {

@@ -7,8 +7,8 @@
 
 #include <KZMUtilities/dictionary.h>
 
-#include "cli/machine/sensors.h"
 #include "cli/show/layout.h"
+#include "machine/sensors.h"
 
 namespace kzm::cli {
 

@@ -9,9 +9,9 @@
 
 #include <KZMUtilities/dictionary.h>
 
-#include "cli/machine/files.h"
 #include "cli/show/gather.h"
 #include "cli/show/layout.h"
+#include "machine/files.h"
 
 namespace kzm::cli {
 

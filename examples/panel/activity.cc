@@ -5,9 +5,9 @@
 #include <optional>
 #include <string>
 
-#include "cli/machine/disks.h"
-#include "cli/machine/network.h"
 #include "cli/words.h"
+#include "machine/disks.h"
+#include "machine/network.h"
 #include "styles.h"
 #include "texts.h"
 

@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "cli/machine/files.h"
-#include "cli/machine/rates.h"
+#include "machine/files.h"
+#include "machine/rates.h"
 #include "row.h"
 
 namespace kzm::panel {

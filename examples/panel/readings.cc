@@ -9,11 +9,11 @@
 #include <KZMUtilities/text.h>
 
 #include "activity.h"
-#include "cli/machine/memory.h"
-#include "cli/machine/processor.h"
-#include "cli/machine/sensors.h"
-#include "cli/machine/volumes.h"
 #include "cli/words.h"
+#include "machine/memory.h"
+#include "machine/processor.h"
+#include "machine/sensors.h"
+#include "machine/volumes.h"
 #include "styles.h"
 #include "texts.h"
 

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "cli/machine/files.h"
+#include "machine/files.h"
 #include "row.h"
 
 namespace kzm::panel {

@@ -7,7 +7,7 @@
 
 #include <KZMUtilities/attributed_string.h>
 
-#include "cli/machine/sensors.h"
+#include "machine/sensors.h"
 #include "styles.h"
 
 namespace kzm::panel {

@@ -8,6 +8,7 @@
 #include <KZMUtilities/dates.h>
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/dictionary.h>
+#include <KZMUtilities/display_width.h>
 #include <KZMUtilities/drawing.h>
 #include <KZMUtilities/export.h>
 #include <KZMUtilities/formatters.h>
@@ -22,5 +23,6 @@
 #include <KZMUtilities/time_items.h>
 #include <KZMUtilities/value.h>
 #include <KZMUtilities/weather.h>
+#include <KZMUtilities/widest_text.h>
 
 #endif

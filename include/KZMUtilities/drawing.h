@@ -18,8 +18,8 @@
 #include <KZMUtilities/export.h>
 
 // The two cairo types that a host hands in, under the names that cairo gives them.
-typedef struct _cairo cairo_t;                  // NOLINT(bugprone-reserved-identifier)
-typedef struct _cairo_surface cairo_surface_t;  // NOLINT(bugprone-reserved-identifier)
+typedef struct _cairo cairo_t;                  // NOLINT(clang-diagnostic-reserved-identifier)
+typedef struct _cairo_surface cairo_surface_t;  // NOLINT(clang-diagnostic-reserved-identifier)
 
 namespace kzm {
 

@@ -10,7 +10,6 @@
 namespace kzm {
 namespace {
 
-using tests::Run;
 using tests::Runs;
 
 AttributedString sample() {

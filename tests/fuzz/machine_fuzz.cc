@@ -2,14 +2,14 @@
 #include <cmath>
 #include <string>
 
-#include "cli/machine/disks.h"
-#include "cli/machine/files.h"
-#include "cli/machine/memory.h"
-#include "cli/machine/network.h"
-#include "cli/machine/processor.h"
-#include "cli/machine/rates.h"
-#include "cli/machine/sensors.h"
-#include "cli/machine/volumes.h"
+#include "machine/disks.h"
+#include "machine/files.h"
+#include "machine/memory.h"
+#include "machine/network.h"
+#include "machine/processor.h"
+#include "machine/rates.h"
+#include "machine/sensors.h"
+#include "machine/volumes.h"
 #include "tests/fuzz/input.h"
 #include "tests/support/scratch_directory.h"
 

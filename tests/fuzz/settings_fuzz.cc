@@ -35,15 +35,14 @@ Value valueOf(Input& input, int levels = 3) {
 
 void checkText(std::string_view text) {
   const settings::Parsed parsed = settings::parse(text);
-  demand(parsed.object.is_object(), "there is always an object");
   if (!parsed.fault.empty()) return;
-  const settings::Parsed again = settings::parse(settings::textOf(parsed.object));
-  demand(again.fault.empty() && settings::settingsIn(again.object) == settings::settingsIn(parsed.object),
+  const settings::Parsed again = settings::parse(settings::textOf(parsed.members));
+  demand(again.fault.empty() && settings::settingsIn(again.members) == settings::settingsIn(parsed.members),
          "written and read again it says the same");
 }
 
 void checkFile(const std::string& path, std::string_view text, const std::string& key, const Value& value) {
-  if (!settings::replace(path, text)) return;
+  if (!settings::replace(path, text).identity) return;
   const bool isSound = settings::parse(text).fault.empty();
   const bool isStored = settings::Store(path).set(value, key);
   const settings::Content content = settings::read(path);

@@ -18,7 +18,7 @@ using Environment = std::map<std::string, std::string>;
 
 // A file of its own in the test's temporary folder.
 std::string makeFile(const std::string& name, const std::string& content, bool executable) {
-  const std::string path = testing::TempDir() + "kzm_" + std::to_string(::getpid()) + "_" + name;
+  std::string path = testing::TempDir() + "kzm_" + std::to_string(::getpid()) + "_" + name;
   std::ofstream(path) << content;
   using std::filesystem::perms;
   std::filesystem::permissions(path, executable ? perms::owner_all : perms::owner_read | perms::owner_write);

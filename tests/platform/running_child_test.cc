@@ -199,11 +199,12 @@ TEST_F(RunningChildTest, ManyThreadsMaySeeOneEnd) {
   child->setTerminationHandler([&](const ExitStatus&) { ++calls; });
   ASSERT_TRUE(child->launch());
   std::vector<std::thread> threads;
-  for (int number = 0; number < 4; ++number)
+  for (int number = 0; number < 4; ++number) {
     threads.emplace_back([&] {
       while (child->isRunning()) std::this_thread::yield();
       EXPECT_EQ(child->exitStatus(), (ExitStatus{Reason::exited, 0}));
     });
+  }
   for (std::thread& thread : threads) thread.join();
   queue_.turn();
   EXPECT_EQ(calls, 1);
@@ -212,7 +213,7 @@ TEST_F(RunningChildTest, ManyThreadsMaySeeOneEnd) {
 TEST_F(RunningChildTest, ManyThreadsMayStartChildrenAtOnce) {
   std::vector<std::thread> threads;
   std::atomic<int> ended = 0;
-  for (int number = 0; number < 4; ++number)
+  for (int number = 0; number < 4; ++number) {
     threads.emplace_back([&] {
       for (int turn = 0; turn < 20; ++turn) {
         const Pipe output;
@@ -224,6 +225,7 @@ TEST_F(RunningChildTest, ManyThreadsMayStartChildrenAtOnce) {
         if (awaitEnd(child->processIdentifier()) && !child->isRunning()) ++ended;
       }
     });
+  }
   for (std::thread& thread : threads) thread.join();
   EXPECT_EQ(ended, 80);
 }

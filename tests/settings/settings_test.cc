@@ -20,9 +20,10 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
-std::string fileOfTest() { return std::string(getenv("XDG_CONFIG_HOME")) + "/KZMUtilities/settings.json"; }
+std::string fileOfTest() {
+  const char* const folder = std::getenv("XDG_CONFIG_HOME");
+  return (folder != nullptr ? std::string(folder) : std::string()) + "/KZMUtilities/settings.json";
+}
 
 std::string textOf(const std::string& path) {
   std::ifstream file(path, std::ios::binary);

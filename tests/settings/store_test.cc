@@ -18,6 +18,8 @@
 
 #include "tests/support/scratch_directory.h"
 
+using namespace std::string_literals;
+
 namespace kzm::settings {
 namespace {
 
@@ -247,7 +249,7 @@ TEST_F(StoreTest, AnEmptyFileIsNoSettingsAndCanBeWritten) {
 }
 
 TEST_F(StoreTest, BytesAfterAZeroByteAreLeftAlone) {
-  const std::string text("{\"b\": 1}\0,\"Mine\":\"precious\"}", 29);
+  const std::string text = "{\"b\": 1}\0,\"Mine\":\"precious\"}"s;
   scratch_.write(kFile, text);
   EXPECT_EQ(linesOf(1), "KZMSettings: " + path_ + " is not used: line 1 is not JSON\n");
   EXPECT_FALSE(store_.set(2, "a"));

@@ -3,6 +3,7 @@
 #define KZM_TESTS_SUPPORT_PIXELS_H
 
 #include <cairo.h>
+#include <cstddef>
 #include <cstdint>
 
 #include <KZMUtilities/drawing.h>
@@ -27,7 +28,8 @@ class Canvas {
   /// 0xAARRGGBB, the colors multiplied by alpha.
   [[nodiscard]] std::uint32_t pixel(int x, int y) const {
     cairo_surface_flush(surface_);
-    const unsigned char* row = cairo_image_surface_get_data(surface_) + y * cairo_image_surface_get_stride(surface_);
+    const unsigned char* row =
+        cairo_image_surface_get_data(surface_) + std::ptrdiff_t{y} * cairo_image_surface_get_stride(surface_);
     return reinterpret_cast<const std::uint32_t*>(row)[x];
   }
   [[nodiscard]] int alpha(int x, int y) const { return static_cast<int>(pixel(x, y) >> 24); }

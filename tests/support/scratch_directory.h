@@ -30,7 +30,7 @@ class ScratchDirectory {
 
   /// Writes a file in the directory, and the directories it is in; gives its path.
   std::string write(std::string_view name, std::string_view text) const {
-    const std::string file = path(name);
+    std::string file = path(name);
     std::filesystem::create_directories(std::filesystem::path(file).parent_path());
     std::ofstream(file, std::ios::binary | std::ios::trunc) << text;
     return file;

@@ -40,7 +40,8 @@ void writeSource(std::ostream& out, const Catalog& catalog) {
     const std::vector<Entry> entries = completed(catalog, table).entries;
     const std::string keys = lists.nameOf(entries, &Entry::key);
     const std::string texts = lists.nameOf(entries, &Entry::text);
-    rows += "    {" + literalOf(table.language) + ", " + literalOf(table.name) + ", " + keys + ", " + texts + "},\n";
+    rows.append("    {").append(literalOf(table.language)).append(", ").append(literalOf(table.name));
+    rows.append(", ").append(keys).append(", ").append(texts).append("},\n");
   }
   out << "constexpr StringTable kTables[] = {\n"
       << rows << "};\n\nconstexpr ResourceBundle kBundle{kBundleIdentifier, " << literalOf(kDevelopmentLanguage)

@@ -6,7 +6,8 @@
 #include <unicode/unistr.h>
 #include <unicode/uscript.h>
 
-#include "cli/show/display_width.h"
+#include <KZMUtilities/display_width.h>
+
 #include "tools/strings/allowed.h"
 #include "tools/strings/key.h"
 #include "tools/strings/open_data.h"
@@ -112,7 +113,7 @@ void checkScripts(const Table& table, const Entry& entry, Report& report) {
 
 void checkWidth(const Entry& entry, Report& report) {
   const Key key = *parseKey(entry.key);
-  const std::size_t cells = cli::displayWidth(unitOf(entry.text));
+  const std::size_t cells = displayWidth(unitOf(entry.text));
   const auto limit = widthLimit(key);
   if (!limit) {
     report.add(entry, "no limit of width for " + inQuotes(entry.key));

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "cli/show/display_width.h"
+#include <KZMUtilities/display_width.h>
 
 namespace kzm::cli {
 namespace {

@@ -14,7 +14,8 @@ bool closesOnExec(int descriptor) { return (::fcntl(descriptor, F_GETFD) & FD_CL
 
 TEST(FileHandle, ClosesOnceForAllCopies) {
   const FileHandle handle = FileHandle::openForReading("/dev/null");
-  const FileHandle copy = handle;
+  FileHandle copy;
+  copy = handle;
   const int number = handle.descriptor();
   ASSERT_GE(number, 0);
   EXPECT_EQ(copy.descriptor(), number);
@@ -31,8 +32,11 @@ TEST(FileHandle, ClosesOnceForAllCopies) {
 TEST(FileHandle, TheLastCopyClosesIt) {
   const std::ptrdiff_t before = openDescriptors();
   {
-    const FileHandle handle = FileHandle::openForReading("/dev/null");
-    const FileHandle copy = handle;
+    FileHandle last;
+    {
+      const FileHandle first = FileHandle::openForReading("/dev/null");
+      last = first;
+    }
     EXPECT_EQ(openDescriptors(), before + 1);
   }
   EXPECT_EQ(openDescriptors(), before);

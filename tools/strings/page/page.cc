@@ -6,17 +6,17 @@
 #include <string>
 #include <vector>
 
+#include <KZMUtilities/display_width.h>
 #include <KZMUtilities/text.h>
 
 #include "cli/languages/coverage.h"
-#include "cli/show/display_width.h"
 #include "tools/strings/page/readings.h"
 
 namespace kzm::strings {
 namespace {
 
 std::string lineOf(const std::vector<std::string>& texts) {
-  const bool isolates = std::ranges::any_of(texts, cli::hasRightToLeft);
+  const bool isolates = std::ranges::any_of(texts, hasRightToLeft);
   std::string line;
   for (const std::string& text : texts) line += (line.empty() ? "" : " | ") + (isolates ? isolated(text) : text);
   return line;

@@ -13,8 +13,9 @@
 #include <KZMSettings/KZMSettings.h>
 #include <KZMUtilities/KZMUtilities.h>
 
-#include "cli/machine/sensors.h"
 #include "cli/words.h"
+#include "machine/sensors.h"
+#include "port/canonical_locale.h"
 
 namespace kzm::strings {
 namespace {
@@ -70,12 +71,9 @@ icu::Locale localeOf(std::string_view language) {
 }
 
 void useLanguage(const std::string& language) {
-  UErrorCode status = U_ZERO_ERROR;
-  icu::Locale locale = localeOf(language);
-  locale.addLikelySubtags(status);
   KZMLocalizationSetLanguages({&language, 1});
   KZMSettingsUseObjects({});  // those of whoever runs this have no say
-  setCurrentLocale(locale.getName());
+  setCurrentLocale(port::inFull(localeOf(language)).getName());
 }
 
 // A sample is a line, its texts end in tabs.

@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+#include <limits>
+
+#include <KZMUtilities/widest_text.h>
+
+#include "tests/support/settings.h"
+
+namespace kzm {
+namespace {
+
+Array rules(std::initializer_list<std::pair<double, std::int64_t>> entries) {
+  Array all;
+  for (const auto& [value, decimals] : entries) all.emplace_back(Dictionary{{"value", value}, {"decimals", decimals}});
+  return all;
+}
+
+TEST(WidestText, OfEachFamily) {
+  tests::useNoSettings();
+  struct Case {
+    const char* why;
+    TextFamily family;
+    Dictionary options;
+    ValueRange values;
+    const char* text;
+  };
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const Dictionary steady{{"space", true}, {"decimals-mb", rules({{10.0, 2}, {100.0, 1}})}};
+  const Case cases[] = {
+      {"nothing to choose from", TextFamily::number, {}, {7.0, 7.0}, "7"},
+      {"below zero", TextFamily::number, {}, {-9.0, 9.0}, "-9"},
+      {"more digits below zero", TextFamily::number, {{"decimals", 1}}, {-9.0, 99.0}, "88.8"},
+      {"a sign of its own for what is nearly nothing", TextFamily::number, {}, {-0.1, 9.0}, "-0"},
+      {"rounded up to one more digit", TextFamily::memory, {}, {0.0, 1023.9}, "1KB"},
+      {"no grouping, so the rate is narrower", TextFamily::bandwidthWithAttributes, {}, {0.0, 1e6}, "977KB/s"},
+      {"hidden", TextFamily::diskActivityWithAttributes, {{"hide-bytes", true}}, {0.0, 1023.0}, "-"},
+      {"the longest direction", TextFamily::weatherWindDirection, {}, {0.0, 360.0}, "North East"},
+      {"the only one", TextFamily::weatherWindDirection, {}, {100.0, 110.0}, "East"},
+      {"all of a half", TextFamily::sensorPercentage, {{"units", true}}, {0.0, 0.5}, "11%"},
+      {"capped", TextFamily::sensorPercentage, {{"units", true}}, {0.0, 7.0}, "100%"},
+      {"unknown", TextFamily::sensorPercentage, {{"units", true}}, {-1.0, -1.0}, "0%"},
+      {"a word", TextFamily::sensorFan, {{"units", true}, {"off", true}}, {0.0, 0.0}, "Off"},
+      {"infinity", TextFamily::weatherUV, {}, {kInfinity, kInfinity}, "inf"},
+      {"no value", TextFamily::memory, {}, {1.0, 0.0}, ""},
+  };
+  for (const Case& c : cases) {
+    const std::string found = widestText(c.family, c.options, c.values);
+    EXPECT_EQ(widthInColumns(found), widthInColumns(c.text)) << c.why << ": " << found;
+  }
+}
+
+TEST(WidestText, IsOneThatTheFamilyShows) {
+  EXPECT_EQ(widestText(TextFamily::memory, {{"space", true}}, {0.0, 1048576.0}), "1,024 KB");
+  EXPECT_EQ(widestText(TextFamily::sensorCapacity, {{"units", true}}, {20.0, 20.0}), "20mAh");
+  EXPECT_EQ(widestText(TextFamily::bandwidth, {{"space", true}, {"decimals-mb", rules({{100.0, 2}})}},
+                       {2097152.0, 1048576000.0}),
+            "100.00 MB/s");
+}
+
+TEST(WidestText, IsMeasuredAsTheHostDoes) {
+  const auto narrowOnes = [](std::string_view text) {
+    double width = 0.0;
+    for (const char c : text) width += c == '1' ? 2.0 : c == '8' ? 7.0 : 6.0;
+    return width;
+  };
+  EXPECT_EQ(widestText(TextFamily::percentage, {}, {0.0, 99.0}, narrowOnes), "88%");
+  EXPECT_EQ(widestText(TextFamily::percentage, {}, {0.0, 111.0}, narrowOnes), "108%");
+  EXPECT_EQ(widestText(TextFamily::percentage, {{"decimals", 1}}, {0.0, 99.0}, narrowOnes), "88.8%");
+  EXPECT_EQ(widestText(TextFamily::memory, {{"short", true}}, {0.0, 2e6}, [](std::string_view) { return 1.0; }), "0K")
+      << "all alike: the first";
+}
+
+TEST(WidestText, HasAUsualRangeForEachFamily) {
+  for (int number = 0; number <= static_cast<int>(TextFamily::sensorCapacity); ++number) {
+    const auto family = static_cast<TextFamily>(number);
+    EXPECT_LT(usualRange(family).lowest, usualRange(family).highest) << number;
+    EXPECT_EQ(widestText(family, {{"units", true}}), widestText(family, {{"units", true}}, usualRange(family)));
+    EXPECT_NE(widestText(family, {{"units", true}}), "") << number;
+  }
+}
+
+}  // namespace
+}  // namespace kzm
