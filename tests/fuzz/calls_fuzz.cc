@@ -1,7 +1,9 @@
 // Every exported call, with arguments of any kind and bit pattern: options of known names with values of any type
 // among them. The call answers, the same twice, or refuses.
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <optional>
 #include <string>
 
@@ -83,7 +85,10 @@ std::optional<std::string> answer(const catalogue::Callable& callable, const Jso
 }
 
 // Two calls at two moments may differ.
-bool tellsTheTime(std::string_view name) { return name.find("ForToday") != std::string_view::npos; }
+bool readsTheClock(std::string_view name) {
+  constexpr std::string_view kOfNow[] = {"dateFromComponents:", "timeIntervalFromComponents:", "utcStartForToday"};
+  return std::ranges::find(kOfNow, name) != std::end(kOfNow);
+}
 
 }  // namespace
 }  // namespace kzm::fuzz
@@ -96,7 +101,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     kzm::catalogue::Json arguments = kzm::catalogue::Json::array();
     for (const std::string_view kind : callable.kinds) arguments.push_back(argumentOf(input, kind));
     const std::optional<std::string> first = answer(callable, arguments);
-    demand(first == answer(callable, arguments) || tellsTheTime(callable.name), callable.name);
+    demand(first == answer(callable, arguments) || readsTheClock(callable.name), callable.name);
   }
   return 0;
 }

@@ -23,7 +23,7 @@ std::string filledPlainly(std::string_view text, const std::string& number) {
     } else if (!isDone && (rest.starts_with("%@") || rest.starts_with("%1$@"))) {
       result += number;
       isDone = true;
-      i += rest.starts_with("%@") ? 2 : 4;
+      i += rest.starts_with("%@") ? 2U : 4U;
     } else {
       result += text[i++];
     }
