@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cmath>
 #include <csignal>
-#include <cstdlib>
 #include <poll.h>
 #include <string_view>
 #include <sys/ioctl.h>
@@ -13,6 +12,7 @@
 #include <unistd.h>
 
 #include "machine/rates.h"
+#include "port/environment.h"
 
 namespace kzm::cli {
 namespace {
@@ -54,7 +54,7 @@ bool writtenAll(std::string_view text) {
 }
 
 bool hasValue(const char* variable) {
-  const char* value = std::getenv(variable);  // NOLINT(concurrency-mt-unsafe)
+  const char* value = port::processEnvironment(variable);
   return value != nullptr && *value != '\0';
 }
 
@@ -76,7 +76,7 @@ void cutToHeight(std::vector<std::string>& lines) {
 }  // namespace
 
 bool writesToTerminal() {
-  const char* kind = std::getenv("TERM");  // NOLINT(concurrency-mt-unsafe)
+  const char* kind = port::processEnvironment("TERM");
   const bool isDumb = kind != nullptr && std::string_view(kind) == "dumb";
   return ::isatty(STDOUT_FILENO) == 1 && !isDumb;
 }
@@ -89,11 +89,11 @@ Look lookOfOutput(bool plain) {
   return look;
 }
 
-Screen::Screen() : terminal_(writesToTerminal()), signals_(-1) {
+Screen::Screen() : terminal_(writesToTerminal()) {
   const sigset_t set = signalSet();
   ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
-  signals_ = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
-  if (signals_ < 0) fail("signals");
+  signals_ = port::Descriptor(::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK));
+  if (!signals_.isOpen()) fail("signals");
   if (terminal_) terminal_ = write(kHideCursor);
 }
 
@@ -103,7 +103,6 @@ Screen::~Screen() {
   } catch (const std::system_error&) {
     terminal_ = false;  // it is gone, and its cursor with it
   }
-  ::close(signals_);
 }
 
 bool Screen::write(std::string_view text) {
@@ -112,9 +111,9 @@ bool Screen::write(std::string_view text) {
 }
 
 // A stopped program leaves the cursor to the shell.
-Screen::Event Screen::signalled() {
+Screen::Event Screen::signaled() {
   signalfd_siginfo info{};
-  if (::read(signals_, &info, sizeof info) != static_cast<ssize_t>(sizeof info)) return Event::resized;
+  if (::read(signals_.number(), &info, sizeof info) != static_cast<ssize_t>(sizeof info)) return Event::resized;
   if (info.ssi_signo == SIGWINCH) return Event::resized;
   if (info.ssi_signo != SIGTSTP) return Event::ended;
   if (terminal_ && !write(kShowCursor)) return Event::ended;
@@ -128,11 +127,11 @@ Screen::Event Screen::wait(double seconds) {
   for (;;) {
     const double left = seconds - machine::secondsNow();
     if (left <= 0) return Event::due;
-    pollfd watched[] = {{signals_, POLLIN, 0}, {STDOUT_FILENO, 0, 0}};
+    pollfd watched[] = {{signals_.number(), POLLIN, 0}, {STDOUT_FILENO, 0, 0}};
     const int count = ::poll(watched, 2, static_cast<int>(std::ceil(left * kMilliseconds)));
     if (count < 0 && errno != EINTR) fail("standard output");
     if (count <= 0) continue;
-    if (watched[0].revents != 0) return signalled();
+    if (watched[0].revents != 0) return signaled();
     readerHasLeft_ = true;
     return Event::ended;
   }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/show/layout.h"
+#include "port/descriptor.h"
 
 namespace kzm::cli {
 
@@ -44,12 +45,12 @@ class Screen {
 
  private:
   bool write(std::string_view text);
-  [[nodiscard]] Event signalled();
+  [[nodiscard]] Event signaled();
 
   bool terminal_;
   bool drawn_ = false;
   bool readerHasLeft_ = false;
-  int signals_;  // a descriptor from which the signals are read that end, resize or stop the program
+  port::Descriptor signals_;  // from which the signals are read that end, resize or stop the program
 };
 
 }  // namespace kzm::cli
