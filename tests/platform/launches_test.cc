@@ -55,9 +55,9 @@ void expectNothingLeft(const char* how, AwaitEnd awaitEndOf) {
   EXPECT_FALSE(hasChildren());
 }
 
-TEST(Launches, LeaveNothingBehindWithoutATurnOfTheQueue) {
+TEST(Launches, LeaveNothingWithoutARunOfTheMainLoop) {
   expectNothingLeft("queue not run", withoutRunningTheQueue);
-  EXPECT_FALSE(g_main_context_pending(nullptr)) << "nothing waits for a queue that nobody turns";
+  EXPECT_FALSE(g_main_context_pending(nullptr)) << "nothing waits for a main loop that nobody runs";
 }
 
 TEST(Launches, LeaveNothingWithAQueueThatRuns) { expectNothingLeft("queue run", runningTheQueue); }
