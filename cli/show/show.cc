@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <iostream>
 #include <limits>
 #include <span>
 #include <string>
@@ -14,6 +13,7 @@
 #include "cli/flags.h"
 #include "cli/monitor/monitor.h"
 #include "cli/numbers.h"
+#include "cli/output.h"
 #include "cli/show/feed.h"
 #include "cli/show/outputs.h"
 #include "cli/show/watch.h"
@@ -125,11 +125,9 @@ int showOnce(Watch& watch, const ShowOptions& options) {
   const Texts texts(options.bandwidth);
   if (watch.needsTime()) std::this_thread::sleep_for(std::chrono::duration<double>(options.seconds));
   const std::vector<Group> groups = watch.read();
-  std::cout << options.output->first
-            << (options.output->line == nullptr ? tableOf(groups, texts, lookOfOutput(options.plain))
-                                                : lineOf(groups, texts, options))
-            << options.output->last;
-  return std::cout.flush() ? 0 : 1;
+  const std::string text = options.output->line == nullptr ? tableOf(groups, texts, lookOfOutput(options.plain))
+                                                           : lineOf(groups, texts, options);
+  return print(std::string(options.output->first) + text + std::string(options.output->last));
 }
 
 int showContinuously(Watch& watch, const ShowOptions& options) {
@@ -165,8 +163,7 @@ int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*d
   ShowOptions options;
   const Operands operands = takeFlags<ShowOptions>(verb, words, flags, options);
   if (operands.help) {
-    std::cout << helpText(describeVerb());
-    return std::cout.flush() ? 0 : 1;
+    return print(helpText(describeVerb()));
   }
   try {
     checkWidth(options);

@@ -56,7 +56,7 @@ class Terminal {
  private:
   void enter();
   void leave();
-  [[nodiscard]] Event signalled();
+  [[nodiscard]] Event signaled();
   [[nodiscard]] Event read();
 
   Dress dress_;

@@ -60,12 +60,7 @@ TEST(Call, PrintsTheResult) {
        "1,013mb\n"},
   };
   for (const Case& c : cases) {
-    std::vector<std::string> words{"call"};
-    words.insert(words.end(), c.words.begin(), c.words.end());
-    const Outcome outcome = run(words);
-    EXPECT_EQ(outcome.output, c.output) << outcome.errors;
-    EXPECT_EQ(outcome.errors, "");
-    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(run(line("call", c.words)), (Outcome{c.output, "", 0})) << testing::PrintToString(c.words);
   }
 }
 
@@ -115,12 +110,8 @@ TEST(Call, RefusesInOneLine) {
       {{"KZMUtilitiesPosixLocale", "5"}, "expected a locale identifier, not number"},
   };
   for (const Case& c : cases) {
-    std::vector<std::string> words{"call"};
-    words.insert(words.end(), c.words.begin(), c.words.end());
-    const Outcome outcome = run(words);
-    EXPECT_EQ(outcome.errors, "kzmutil: " + std::string(c.output) + "\n");
-    EXPECT_EQ(outcome.output, "");
-    EXPECT_EQ(outcome.status, 2);
+    const std::string errors = "kzmutil: " + std::string(c.output) + "\n";
+    EXPECT_EQ(run(line("call", c.words)), (Outcome{"", errors, 2})) << testing::PrintToString(c.words);
   }
 }
 

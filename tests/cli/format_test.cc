@@ -15,12 +15,7 @@ struct Case {
 
 void expectOutputs(std::span<const Case> cases) {
   for (const Case& c : cases) {
-    std::vector<std::string> words{"format"};
-    words.insert(words.end(), c.words.begin(), c.words.end());
-    const Outcome outcome = run(words);
-    EXPECT_EQ(outcome.output, c.output) << testing::PrintToString(words);
-    EXPECT_EQ(outcome.errors, "") << testing::PrintToString(words);
-    EXPECT_EQ(outcome.status, 0) << testing::PrintToString(words);
+    EXPECT_EQ(run(line("format", c.words)), (Outcome{c.output, "", 0})) << testing::PrintToString(c.words);
   }
 }
 
@@ -110,7 +105,7 @@ TEST(Format, Values) {
   expectOutputs(cases);
 }
 
-TEST(Format, LocalesMayStandAnywhere) {
+TEST(Format, LocalesMayBeAnywhere) {
   // clang-format off
   const Case cases[] = {
       {{"--locale", "de_DE", "number", "--decimals", "2", "1234.56"}, "1.234,56\n"},
@@ -216,12 +211,8 @@ TEST(Format, BadInputIsOneLineAndStatusTwo) {
       {{"memory"}, std::string("1\0\n", 3), "", "format: line 1: \"1?\" is not a number"},
   };
   for (const Refused& c : cases) {
-    std::vector<std::string> words{"format"};
-    words.insert(words.end(), c.words.begin(), c.words.end());
-    const Outcome outcome = run(words, c.input);
-    EXPECT_EQ(outcome.output, c.output) << testing::PrintToString(words);
-    EXPECT_EQ(outcome.errors, "kzmutil: " + std::string(c.errors) + "\n") << testing::PrintToString(words);
-    EXPECT_EQ(outcome.status, 2) << testing::PrintToString(words);
+    const std::string errors = "kzmutil: " + std::string(c.errors) + "\n";
+    EXPECT_EQ(run(line("format", c.words), c.input), (Outcome{c.output, errors, 2})) << testing::PrintToString(c.words);
   }
 }
 

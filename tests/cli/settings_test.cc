@@ -38,9 +38,8 @@ TEST(Settings, AreSetByCodeOrByMeaning) {
       {"Weather.Global.Units.Precipitation", "region", "0 region\n"},
   };
   for (const Case& c : cases) {
-    const Outcome outcome = run({"settings", "set", c.key, c.code});
-    EXPECT_EQ(outcome.status, 0) << c.key << ' ' << c.code << outcome.errors;
-    EXPECT_EQ(outcome.output, "");
+    SCOPED_TRACE(std::string(c.key) + " " + c.code);
+    EXPECT_EQ(run({"settings", "set", c.key, c.code}), (Outcome{"", "", 0}));
     EXPECT_EQ(got(c.key), c.got);
     EXPECT_EQ(run({"settings", "unset", c.key}).status, 0);
     EXPECT_EQ(got(c.key), "0 region\n");
@@ -132,30 +131,24 @@ TEST(Settings, BadInputIsOneLineWithTheRightWords) {
   };
   // clang-format off
   const Refused cases[] = {
-      {{},                            "list, get, set or unset is missing"},
-      {{"show"},                      "nothing is named \"show\"; there are list, get, set and unset"},
-      {{"get", "Pressure"},           "no setting \"Pressure\"; there are " + keys},
-      {{"set", "x", "1"},             "no setting \"x\"; there are " + keys},
-      {{"unset", ""},                 "no setting \"\"; there are " + keys},
-      {{"set", kPressure, "4"},       "Weather.Global.Units.Pressure has no code \"4\"" + codes},
-      {{"set", kPressure, "-1"},      "Weather.Global.Units.Pressure has no code \"-1\"" + codes},
-      {{"set", kPressure, "02"},      "Weather.Global.Units.Pressure has no code \"02\"" + codes},
-      {{"set", kPressure, "celsius"}, "Weather.Global.Units.Pressure has no code \"celsius\"" + codes},
-      {{"set", kPressure},            "set takes KEY and CODE"},
-      {{"get"},                       "get takes KEY"},
-      {{"list", "x"},                 "list takes no arguments"},
-      {{"list", "--all"},             "no option \"--all\"; `kzmutil settings --help` lists them"},
+      {{},                            ": list, get, set or unset is missing"},
+      {{"show"},                      ": nothing is named \"show\"; there are list, get, set and unset"},
+      {{"get", "Pressure"},           ": no setting \"Pressure\"; there are " + keys},
+      {{"set", "x", "1"},             ": no setting \"x\"; there are " + keys},
+      {{"unset", ""},                 ": no setting \"\"; there are " + keys},
+      {{"set", kPressure, "4"},       ": Weather.Global.Units.Pressure has no code \"4\"" + codes},
+      {{"set", kPressure, "-1"},      ": Weather.Global.Units.Pressure has no code \"-1\"" + codes},
+      {{"set", kPressure, "02"},      ": Weather.Global.Units.Pressure has no code \"02\"" + codes},
+      {{"set", kPressure, "celsius"}, ": Weather.Global.Units.Pressure has no code \"celsius\"" + codes},
+      {{"set", kPressure},            " set takes KEY and CODE"},
+      {{"get"},                       " get takes KEY"},
+      {{"list", "x"},                 " list takes no arguments"},
+      {{"list", "--all"},             ": no option \"--all\"; `kzmutil settings --help` lists them"},
   };
   // clang-format on
   for (const Refused& c : cases) {
-    std::vector<std::string> words{"settings"};
-    words.insert(words.end(), c.words.begin(), c.words.end());
-    const Outcome outcome = run(words);
-    const bool isSubverb =
-        c.errors.starts_with("set takes") || c.errors.starts_with("get takes") || c.errors.starts_with("list takes");
-    EXPECT_EQ(outcome.errors, "kzmutil: settings" + std::string(isSubverb ? " " : ": ") + c.errors + "\n");
-    EXPECT_EQ(outcome.output, "");
-    EXPECT_EQ(outcome.status, 2);
+    const std::string errors = "kzmutil: settings" + c.errors + "\n";
+    EXPECT_EQ(run(line("settings", c.words)), (Outcome{"", errors, 2})) << testing::PrintToString(c.words);
   }
 }
 

@@ -102,7 +102,7 @@ TEST_F(SensorData, OtherKindsGiveNothing) {
   }
 }
 
-TEST_F(SensorData, KeysStandInTheirOrder) {
+TEST_F(SensorData, KeysAreInTheirOrder) {
   const std::optional<Dictionary> data = KZMUtilitiesSensorData(SensorType::fan, kNone, 1200.0);
   ASSERT_TRUE(data.has_value());
   std::string keys;

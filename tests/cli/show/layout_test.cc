@@ -49,7 +49,7 @@ TEST(Layout, SectionsShareOneGridAndEmptyOnesAreLeftOut) {
   EXPECT_EQ(laidOut({fans}, {}), Lines{});
 }
 
-TEST(Layout, AColumnInWhichNothingStandsTakesNoRoom) {
+TEST(Layout, AColumnWithNothingInItTakesNoRoom) {
   const Section section{"Load", {}, {{"processor", {cell("50%"), {}, {}, cell("####")}}}};
   EXPECT_EQ(laidOut({section}, {})[1], "  processor                      50%          ####");
 }

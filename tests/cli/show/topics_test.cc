@@ -128,7 +128,7 @@ TEST(Topics, SensorsByKind) {
   EXPECT_EQ(shown("light", snapshot), (Lines{"  Ambient light              300 Lux"}));
 }
 
-TEST(Topics, ManySensorsOfAKindAreToldByTheirExtremes) {
+TEST(Topics, ManySensorsOfAKindAreShownByTheirExtremes) {
   Snapshot snapshot;
   for (int i = 0; i < 17; ++i) {
     snapshot.sensors.push_back({Kind::frequency, 1000.0 + 100.0 * i, "cpu", "CPU " + std::to_string(i)});
@@ -153,7 +153,7 @@ TEST(Topics, Battery) {
                                         }));
 }
 
-TEST(Topics, AMachineThatTellsNothingHasNoRows) {
+TEST(Topics, AMachineThatReportsNothingHasNoRows) {
   for (const Topic& topic : topics()) EXPECT_TRUE(topic.items({}, {.all = true}).empty()) << topic.name;
 }
 

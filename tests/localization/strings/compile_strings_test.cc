@@ -14,7 +14,7 @@ class CompileStrings : public tests::FolderTest {
   tests::Outcome compile(const std::string& tables) { return run("'" KZM_COMPILE_STRINGS "' out.cc " + tables); }
 };
 
-TEST_F(CompileStrings, FaultsAreToldALineEachAndNothingIsWritten) {
+TEST_F(CompileStrings, FaultsAreReportedALineEachAndNothingIsWritten) {
   write("en.lproj/T.strings",
         "/* source: own; reviewer: none */\n\"Units.A.%@ km\" = \"%@ km\";\n\"Units.A.Off\" = \"Off\";\n");
   write("de.lproj/T.strings",
@@ -27,7 +27,7 @@ TEST_F(CompileStrings, FaultsAreToldALineEachAndNothingIsWritten) {
   EXPECT_FALSE(exists("out.cc"));
 }
 
-TEST_F(CompileStrings, FilesThatAreNotThereOrNotTablesAreTold) {
+TEST_F(CompileStrings, FilesThatAreNotThereOrNotTablesAreReported) {
   write("en.lproj/T.strings", "/* source: own; reviewer: none */\n\"Units.A.Off\" = \"Off\";\n");
   write("de/T.strings", "");
   EXPECT_EQ(compile("fr.lproj/T.strings").output, "fr.lproj/T.strings: cannot be read\n");

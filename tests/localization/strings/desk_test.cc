@@ -58,7 +58,7 @@ TEST_F(Desk, TextsGoOutAndComeBack) {
   EXPECT_NE(read("r/de.lproj/KZMUtilities.strings").find("\"Halt\"; /* source: translator A */"), std::string::npos);
 }
 
-TEST_F(Desk, AnImportThatWouldBreakARuleIsToldAtItsMessageAndWritesNothing) {
+TEST_F(Desk, AnImportThatWouldBreakARuleIsReportedAtItsMessageAndWritesNothing) {
   EXPECT_EQ(desk("r export de de.po").output, "");
   std::string po = read("de.po");
   po.replace(po.find("\"Aus\""), 5, "\"Ausg.\"");
@@ -100,7 +100,7 @@ TEST_F(Desk, WhatItCannotDoIsOneLineAndAnExitCode) {
   }
 }
 
-TEST_F(Desk, TablesThatCannotBeTakenApartAreToldByEveryVerb) {
+TEST_F(Desk, TablesThatCannotBeTakenApartAreReportedByEveryVerb) {
   write("r/it.lproj/KZMUtilities.strings", "/* source: own; reviewer: none */\n\"Off\" = \"Spenta\";\n");
   for (const char* arguments : {"r check", "r report", "r report it", "r export it it.po", "r import it it.po"}) {
     const tests::Outcome outcome = desk(arguments);

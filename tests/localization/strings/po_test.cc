@@ -96,7 +96,7 @@ constexpr Unread kUnread[] = {
     {"another encoding", "\n\nmsgid \"\xE4\"", "3: not valid UTF-8"},
 };
 
-TEST(Po, WhatCannotBeReadIsToldWithItsLine) {
+TEST(Po, WhatCannotBeReadIsReportedWithItsLine) {
   for (const Unread& test : kUnread) {
     try {
       (void)readMessages("de.po", test.content);

@@ -60,7 +60,7 @@ const Unread kUnread[] = {
     {"a million lines", std::string(1 << 20, '\n') + "x", "1048577: expected a key in double quotes"},
 };
 
-TEST(Table, WhatCannotBeReadIsToldWithItsLine) {
+TEST(Table, WhatCannotBeReadIsReportedWithItsLine) {
   for (const Unread& test : kUnread) {
     EXPECT_EQ(reported(test.content), std::string("de.lproj/T.strings:") + test.fault) << test.why;
   }

@@ -1,6 +1,6 @@
 // System calls that a signal handler of the host may interrupt.
-#ifndef KZM_PORT_LINUX_RETRIED_H
-#define KZM_PORT_LINUX_RETRIED_H
+#ifndef KZM_PORT_RETRIED_H
+#define KZM_PORT_RETRIED_H
 
 #include <cerrno>
 

@@ -1,18 +1,16 @@
-// Lines on standard error from inside a host, whatever the host has made of it.
-#ifndef KZM_PORT_LINUX_STANDARD_ERROR_H
-#define KZM_PORT_LINUX_STANDARD_ERROR_H
+#include "port/standard_error.h"
 
 #include <cerrno>
 #include <csignal>
 #include <ctime>
 #include <poll.h>
 #include <pthread.h>
-#include <string_view>
 #include <unistd.h>
 
 namespace kzm::port {
+namespace {
 
-/// Keeps the calling thread from a SIGPIPE of its own making; one that the host was to get stays the host's.
+// Keeps the calling thread from a SIGPIPE of its own making; one that the host was to get stays the host's.
 class WithoutSigpipe {
  public:
   WithoutSigpipe() {
@@ -40,9 +38,9 @@ class WithoutSigpipe {
   bool wasPending_ = false;
 };
 
-/// Writes the line, its end included, in one piece, so that the lines of several programs do not mix. It is lost when
-/// nobody reads, or does not read just now: the host's work never waits for it. A pipe takes up to 4096 bytes at once.
-inline void tellStandardError(std::string_view line) noexcept {
+}  // namespace
+
+void writeToStandardError(std::string_view line) noexcept {
   const WithoutSigpipe guard;
   pollfd output{STDERR_FILENO, POLLOUT, 0};
   if (::poll(&output, 1, 0) == 1 && (output.revents & POLLOUT) != 0) {
@@ -51,5 +49,3 @@ inline void tellStandardError(std::string_view line) noexcept {
 }
 
 }  // namespace kzm::port
-
-#endif
