@@ -1,0 +1,38 @@
+#include "cli/terminal/signals.h"
+
+#include <cerrno>
+#include <csignal>
+#include <sys/signalfd.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace kzm::cli {
+namespace {
+
+constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGWINCH, SIGTSTP};
+
+sigset_t signalSet() {
+  sigset_t set;
+  sigemptyset(&set);
+  for (const int signal : kSignals) sigaddset(&set, signal);
+  return set;
+}
+
+}  // namespace
+
+Signals::Signals() : descriptor_(-1) {
+  const sigset_t set = signalSet();
+  ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
+  descriptor_ = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
+  if (descriptor_ < 0) throw std::system_error(errno, std::generic_category(), "signals");
+}
+
+Signals::~Signals() { ::close(descriptor_); }
+
+int Signals::take() const {
+  signalfd_siginfo info{};
+  const bool came = ::read(descriptor_, &info, sizeof info) == static_cast<ssize_t>(sizeof info);
+  return came ? static_cast<int>(info.ssi_signo) : 0;
+}
+
+}  // namespace kzm::cli
