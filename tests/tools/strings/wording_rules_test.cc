@@ -4,7 +4,7 @@
 #include <unicode/ulocdata.h>
 #include <vector>
 
-#include "tests/localization/strings/tables.h"
+#include "tests/tools/strings/tables.h"
 
 namespace kzm::strings {
 namespace {

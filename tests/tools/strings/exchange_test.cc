@@ -5,7 +5,7 @@
 #include <sstream>
 #include <string>
 
-#include "tests/localization/strings/tables.h"
+#include "tests/tools/strings/tables.h"
 
 namespace kzm::strings {
 namespace {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "tests/localization/strings/folder.h"
+#include "tests/tools/strings/folder.h"
 
 namespace kzm {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "tests/localization/strings/tables.h"
+#include "tests/tools/strings/tables.h"
 
 namespace kzm::strings {
 namespace {

@@ -1,6 +1,6 @@
 // A folder of files that goes away with the test, and programs that run in it.
-#ifndef KZM_TESTS_LOCALIZATION_STRINGS_FOLDER_H
-#define KZM_TESTS_LOCALIZATION_STRINGS_FOLDER_H
+#ifndef KZM_TESTS_TOOLS_STRINGS_FOLDER_H
+#define KZM_TESTS_TOOLS_STRINGS_FOLDER_H
 
 #include <filesystem>
 #include <fstream>

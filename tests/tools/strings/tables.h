@@ -1,6 +1,6 @@
 // String tables made of rows, and what the rules say of them.
-#ifndef KZM_TESTS_LOCALIZATION_STRINGS_TABLES_H
-#define KZM_TESTS_LOCALIZATION_STRINGS_TABLES_H
+#ifndef KZM_TESTS_TOOLS_STRINGS_TABLES_H
+#define KZM_TESTS_TOOLS_STRINGS_TABLES_H
 
 #include <string>
 #include <utility>
