@@ -157,11 +157,14 @@ void putState(const Choices& choices, const Page& page, std::size_t& end, Frame&
 void putLastLine(const Choices& choices, const Page& page, Frame& frame) {
   std::size_t end = frame.size().columns - 1;
   putState(choices, page, end, frame);
+  const std::pair<std::string_view, std::string> keys[] = {
+      {"?", word("Keys.Help")},
+      {"q", word("Keys.Quit")},
+      {"p", word("Keys.Pause")},
+      {"s", choices.topic == nullptr ? "*" : word(choices.topic->title)},
+  };
   std::size_t column = 0;
-  column = putKey("?", word("Keys.Help"), column, end, frame);
-  column = putKey("q", word("Keys.Quit"), column, end, frame);
-  column = putKey("p", word("Keys.Pause"), column, end, frame);
-  column = putKey("s", choices.topic == nullptr ? "*" : word(choices.topic->title), column, end, frame);
+  for (const auto& [key, text] : keys) column = putKey(key, text, column, end, frame);
 }
 
 std::vector<Group> chosen(const std::vector<Group>& groups, const Topic* topic) {
