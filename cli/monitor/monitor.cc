@@ -51,7 +51,7 @@ class Monitor {
 
   bool drawn() {
     if (groups_.empty()) return true;
-    Page page = pageOf({groups_, tracks_, texts_}, controls_.choices, sizeOfOutput());
+    Page page = pageOf({groups_, tracks_, texts_}, controls_.choices, Terminal::size());
     controls_.mostScrolled = page.mostScrolled;
     controls_.lines = page.lines;
     controls_.choices.scrolled = std::min(controls_.choices.scrolled, page.mostScrolled);
