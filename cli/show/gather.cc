@@ -2,9 +2,6 @@
 
 #include <utility>
 
-#include "machine/disks.h"
-#include "machine/network.h"
-
 namespace kzm::cli {
 namespace {
 
@@ -19,11 +16,6 @@ std::vector<Activity> activities(const machine::Sample& earlier, const machine::
 }
 
 }  // namespace
-
-Counters readCounters(const machine::Root& root) {
-  const double seconds = machine::secondsNow();
-  return {machine::readNetwork(root, seconds), machine::readDisks(root, seconds), machine::readProcessor(root)};
-}
 
 Snapshot ratesOf(const Counters& earlier, const Counters& later) {
   Snapshot snapshot;

@@ -1,4 +1,4 @@
-// All readings of one moment.
+// All measurements of one moment.
 #ifndef KZM_CLI_SHOW_GATHER_H
 #define KZM_CLI_SHOW_GATHER_H
 
@@ -14,13 +14,13 @@
 
 namespace kzm::cli {
 
-/// What only means something beside a second reading.
+/// What only means something beside a second reading. Topics that are not asked for stay empty, here and below.
 struct Counters {
+  double seconds = 0;  // when they were read, by machine::secondsNow()
   machine::Sample network;
   machine::Sample disks;
   std::vector<machine::ProcessorTime> processor;
 };
-[[nodiscard]] Counters readCounters(const machine::Root& root);
 
 /// The activity of an interface or a disk.
 struct Activity {
@@ -28,7 +28,7 @@ struct Activity {
   bool wasUsed = false;  // it carried something since the machine started
 };
 
-/// What a screenful is made of. Topics that are not asked for stay empty.
+/// What a screenful is made of.
 struct Snapshot {
   std::vector<Activity> network;
   std::vector<Activity> disks;

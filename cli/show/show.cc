@@ -2,17 +2,22 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <iostream>
 #include <limits>
 #include <span>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include <KZMUtilities/dictionary.h>
+
 #include "cli/flags.h"
+#include "cli/monitor/monitor.h"
 #include "cli/numbers.h"
-#include "cli/show/screen.h"
-#include "cli/show/topics.h"
+#include "cli/output.h"
+#include "cli/show/feed.h"
+#include "cli/show/outputs.h"
+#include "cli/show/watch.h"
+#include "cli/terminal/terminal.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
@@ -20,13 +25,27 @@ namespace {
 
 struct ShowOptions {
   RowChoice rows;
+  Dictionary bandwidth;    // options of KZMUtilitiesFormatBandwidth
   double seconds = 1.0;    // between two readings
   std::int64_t count = 0;  // of drawings; 0 is no end
   bool plain = false;
+  const Output* output = outputs().data();
+  bool constantWidth = false;
 };
 
 using ShowFlag = Flag<ShowOptions>;
 using Text = std::string_view;
+
+// The row of a table that has the name.
+template <class Row>
+const Row& rowNamed(std::span<const Row> rows, Text kind, Text name) {
+  std::string names;
+  for (const Row& row : rows) {
+    if (row.name == name) return row;
+    names.append(names.empty() ? "" : ", ").append(row.name);
+  }
+  throw InputError("no " + std::string(kind) + " " + inQuotes(name) + "; there are " + names);
+}
 
 void useInterval(ShowOptions& options, Text, Text value) {
   constexpr double kLeast = 0.1;
@@ -37,16 +56,16 @@ void useInterval(ShowOptions& options, Text, Text value) {
 }
 
 constexpr ShowFlag kBits{{"--bits", "", "network in bits instead of bytes"},
-                         [](ShowOptions& options, Text, Text) { options.rows.bandwidth.set("bandwidthformat", 2); }};
+                         [](ShowOptions& options, Text, Text) { options.bandwidth.set("bandwidthformat", 2); }};
 constexpr ShowFlag kUnitSize{
     {"--unit-size", "N", "network units: 1 \"M\", 2 \"MB\", 3 \"MB/s\""},
-    [](ShowOptions& options, Text, Text value) { options.rows.bandwidth.set("unitsize", integerIn(value, 1, 3)); }};
+    [](ShowOptions& options, Text, Text value) { options.bandwidth.set("unitsize", integerIn(value, 1, 3)); }};
 constexpr ShowFlag kInterface{
     {"--interface", "NAME", "this interface alone; repeatable"},
     [](ShowOptions& options, Text, Text value) { options.rows.interfaces.emplace_back(value); }};
 constexpr ShowFlag kAll{{"--all", "", "also what was never used, every processor and every sensor"},
                         [](ShowOptions& options, Text, Text) { options.rows.all = true; }};
-constexpr ShowFlag kNoColor{{"--no-color", "", "without bold and faint text"},
+constexpr ShowFlag kNoColor{{"--no-color", "", "without colors, bold and faint text"},
                             [](ShowOptions& options, Text, Text) { options.plain = true; }};
 constexpr ShowFlag kInterval{{"--interval", "SECONDS", "time between two readings, 0.1 to 3600; 1 without it"},
                              useInterval};
@@ -55,15 +74,15 @@ constexpr ShowFlag kCount{{"--count", "N", "ends after the given number of drawi
                             options.count = integerIn(value, 1, std::numeric_limits<std::int64_t>::max());
                           }};
 
-constexpr ShowFlag kShowFlags[] = {kBits, kUnitSize, kInterface, kAll, kInterval, kNoColor};
-constexpr ShowFlag kMonitorFlags[] = {kBits, kUnitSize, kInterface, kAll, kInterval, kCount, kNoColor};
+constexpr ShowFlag kOutput{
+    {"--output", "FORM", "for programs: json, waybar, i3bar, polybar or plain; else a table"},
+    [](ShowOptions& options, Text, Text value) { options.output = &rowNamed(outputs(), "output", value); }};
+constexpr ShowFlag kConstantWidth{{"--constant-width", "", "in a bar, room for the longest text of each reading"},
+                                  [](ShowOptions& options, Text, Text) { options.constantWidth = true; }};
 
-using Topics = std::span<const Topic>;
-
-const machine::Root& thisMachine() {
-  static const machine::Root root("/");
-  return root;
-}
+constexpr ShowFlag kShowFlags[] = {kBits, kUnitSize, kInterface, kAll, kInterval, kNoColor, kOutput, kConstantWidth};
+constexpr ShowFlag kMonitorFlags[] = {kBits,  kUnitSize, kInterface, kAll,          kInterval,
+                                      kCount, kNoColor,  kOutput,    kConstantWidth};
 
 Description describe(Text usage, std::span<const ShowFlag> flags) {
   Description verb{.usage = {usage}, .text = "Without a topic: all of them.\n", .flags = textsOf(flags)};
@@ -71,97 +90,93 @@ Description describe(Text usage, std::span<const ShowFlag> flags) {
   return verb;
 }
 
-Topics topicsIn(Text verb, const std::vector<Text>& words) {
-  if (words.empty()) return topics();
-  if (words.size() > 1) throw InputError(std::string(verb) + " takes one topic");
-  std::string names;
-  for (const Topic& topic : topics()) {
-    if (topic.name == words[0]) return {&topic, 1};
-    names.append(names.empty() ? "" : ", ").append(topic.name);
+Topics topicsIn(const std::vector<Text>& words) {
+  Topics shown;
+  for (const Text word : words) {
+    const Topic* topic = &rowNamed(topics(), "topic", word);
+    if (std::ranges::find(shown, topic) == shown.end()) shown.push_back(topic);
   }
-  throw InputError(std::string(verb) + ": no topic " + inQuotes(words[0]) + "; there are " + names);
+  if (!shown.empty()) return shown;
+  for (const Topic& topic : topics()) shown.push_back(&topic);
+  return shown;
 }
 
-// Every interface that was asked for is there.
-void checkInterfaces(Text verb, const ShowOptions& options, const Counters& counters) {
-  for (const std::string& wanted : options.rows.interfaces) {
-    std::string names;
-    bool found = false;
-    for (const machine::Counter& counter : counters.network.counters) {
-      found = found || counter.name == wanted;
-      names.append(names.empty() ? "" : ", ").append(counter.name);
-    }
-    if (!found) throw InputError(std::string(verb) + ": no interface " + inQuotes(wanted) + "; there are " + names);
-  }
+// The look of standard output as it is now.
+Look lookOfOutput(bool plain) {
+  Look look;
+  if (!writesToTerminal()) return look;
+  look.styles = dressOfOutput(plain) == Dress::colors;
+  if (const Size size = sizeOfOutput(); size.columns > 0) look.columns = size.columns;
+  return look;
 }
 
-// A topic that was asked for by name says so when there is nothing to show.
-std::vector<Section> sectionsOf(Topics shown, Snapshot snapshot, const ShowOptions& options) {
-  for (const Topic& topic : shown) topic.read(thisMachine(), snapshot);
-  std::vector<Section> sections;
-  for (const Topic& topic : shown) sections.push_back(topic.section(snapshot, options.rows));
-  if (shown.size() == 1 && sections[0].rows.empty()) sections[0] = {sections[0].title, {}, {{"–", {}}}};
-  return sections;
+// The whole text of a refresh.
+std::string tableOf(const std::vector<Group>& groups, const Texts& texts, const Look& look) {
+  std::string text;
+  for (const std::string& line : laidOut(sectionsOf(groups, texts), look)) text += line + "\n";
+  return text;
 }
 
-bool needsTime(Topics shown) {
-  return std::any_of(shown.begin(), shown.end(), [](const Topic& topic) { return topic.needsTime; });
+std::string lineOf(const std::vector<Group>& groups, const Texts& texts, const ShowOptions& options) {
+  return options.output->line(groups, {texts, options.constantWidth}) + "\n";
 }
 
-int showOnce(Topics shown, const Counters& first, const ShowOptions& options) {
-  Counters last = first;
-  if (needsTime(shown)) {
-    std::this_thread::sleep_for(std::chrono::duration<double>(options.seconds));
-    last = readCounters(thisMachine());
-  }
-  const std::vector<Section> sections = sectionsOf(shown, ratesOf(first, last), options);
-  for (const std::string& line : laidOut(sections, lookOfOutput(options.plain))) std::cout << line << '\n';
-  return std::cout.flush() ? 0 : 1;
+int showOnce(Watch& watch, const ShowOptions& options) {
+  const Texts texts(options.bandwidth);
+  if (watch.needsTime()) std::this_thread::sleep_for(std::chrono::duration<double>(options.seconds));
+  const std::vector<Group> groups = watch.read();
+  std::string text(options.output->first);
+  text += options.output->line == nullptr ? tableOf(groups, texts, lookOfOutput(options.plain))
+                                          : lineOf(groups, texts, options);
+  return print(text.append(options.output->last));
 }
 
-// Waits for the time, and draws the sections again whenever the terminal has another size; false when it is to end.
-bool waited(Screen& screen, double until, const std::vector<Section>& sections, const ShowOptions& options) {
-  for (;;) {
-    const Screen::Event event = screen.wait(until);
-    if (event != Screen::Event::resized) return event == Screen::Event::due;
-    if (!sections.empty() && !screen.draw(laidOut(sections, lookOfOutput(options.plain)))) return false;
-  }
-}
-
-int showContinuously(Topics shown, const Counters& first, const ShowOptions& options) {
+int showContinuously(Watch& watch, const ShowOptions& options) {
   constexpr double kFirst = 1.0;  // the first drawing does not keep anyone waiting longer
-  Counters earlier = first;
-  Screen screen;
-  std::vector<Section> sections;
-  double due = earlier.network.seconds + (needsTime(shown) ? std::min(kFirst, options.seconds) : 0.0);
-  for (std::int64_t drawings = 0; waited(screen, due, sections, options);) {
-    Counters later = readCounters(thisMachine());
-    sections = sectionsOf(shown, ratesOf(earlier, later), options);
-    earlier = std::move(later);
-    if (!screen.draw(laidOut(sections, lookOfOutput(options.plain))) || ++drawings == options.count) break;
-    due = std::max(due + options.seconds, earlier.network.seconds);
+  const bool isTable = options.output->line == nullptr;
+  if (isTable && writesToTerminal())
+    return monitor(watch, {options.bandwidth, options.seconds, options.count, dressOfOutput(options.plain)});
+  const Texts texts(options.bandwidth);
+  Feed feed;
+  if (!feed.write(options.output->first)) return 1;
+  double due = watch.seconds() + (watch.needsTime() ? std::min(kFirst, options.seconds) : 0.0);
+  for (std::int64_t drawings = 0; feed.waited(due);) {
+    const std::vector<Group> groups = watch.read();
+    const std::string_view between = isTable && drawings > 0 ? "\n" : "";
+    const std::string text = isTable ? tableOf(groups, texts, {}) : lineOf(groups, texts, options);
+    if (!feed.write(std::string(between) + text) || ++drawings == options.count) break;
+    due = std::max(due + options.seconds, watch.seconds());
   }
-  return screen.readerHasLeft() ? 1 : 0;
+  return feed.readerHasLeft() || !feed.write(options.output->last) ? 1 : 0;
+}
+
+void checkWidth(const ShowOptions& options) {
+  if (!options.constantWidth || options.output->takesWidth) return;
+  std::string names;
+  for (const Output& output : outputs()) {
+    if (output.takesWidth) names.append(names.empty() ? "" : ", ").append(output.name);
+  }
+  throw InputError("--constant-width goes with --output " + names);
 }
 
 int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*describeVerb)(),
-        int (*show)(Topics shown, const Counters& first, const ShowOptions& options)) {
+        int (*show)(Watch& watch, const ShowOptions& options)) {
   ShowOptions options;
   const Operands operands = takeFlags<ShowOptions>(verb, words, flags, options);
-  if (operands.help) {
-    std::cout << helpText(describeVerb());
-    return std::cout.flush() ? 0 : 1;
+  if (operands.help) return print(helpText(describeVerb()));
+  try {
+    checkWidth(options);
+    Watch watch(machine::Root("/"), topicsIn(operands.words), options.rows);
+    return show(watch, options);
+  } catch (const InputError& error) {
+    throw InputError(std::string(verb) + ": " + error.what());
   }
-  const Topics shown = topicsIn(verb, operands.words);
-  const Counters first = readCounters(thisMachine());
-  checkInterfaces(verb, options, first);
-  return show(shown, first, options);
 }
 
 }  // namespace
 
-Description describeShow() { return describe("show [TOPIC] [FLAG...]", kShowFlags); }
-Description describeMonitor() { return describe("monitor [TOPIC] [FLAG...]", kMonitorFlags); }
+Description describeShow() { return describe("show [TOPIC...] [FLAG...]", kShowFlags); }
+Description describeMonitor() { return describe("monitor [TOPIC...] [FLAG...]", kMonitorFlags); }
 
 int showVerb(Words words) { return run("show", words, kShowFlags, describeShow, showOnce); }
 int monitorVerb(Words words) { return run("monitor", words, kMonitorFlags, describeMonitor, showContinuously); }

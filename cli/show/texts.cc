@@ -1,15 +1,15 @@
 #include "cli/show/texts.h"
 
-#include <algorithm>
-#include <cstdint>
+#include <cstddef>
+#include <iterator>
 #include <limits>
 #include <string>
-#include <utility>
 
 #include <KZMUtilities/bytes.h>
 #include <KZMUtilities/formatters.h>
 #include <KZMUtilities/percentage.h>
 #include <KZMUtilities/sensors.h>
+#include <KZMUtilities/widest_text.h>
 
 #include "cli/words.h"
 
@@ -53,74 +53,140 @@ Cell cellOf(const AttributedString& text) {
   return cell;
 }
 
-// A reading's kind is passed on as the number that the library has for it.
-// clang-format off
-constexpr std::pair<machine::Kind, SensorType::Kind> kKinds[] = {
-    {machine::Kind::temperature, SensorType::temperature},
-    {machine::Kind::percentage,  SensorType::percentage},
-    {machine::Kind::fan,         SensorType::fan},
-    {machine::Kind::current,     SensorType::current},
-    {machine::Kind::power,       SensorType::power},
-    {machine::Kind::voltage,     SensorType::voltage},
-    {machine::Kind::light,       SensorType::light},
-    {machine::Kind::frequency,   SensorType::frequency},
-    {machine::Kind::capacity,    SensorType::capacity},
-};
-// clang-format on
-static_assert(std::ranges::all_of(kKinds, [](const auto& kind) {
-  return static_cast<std::int64_t>(kind.first) == static_cast<std::int64_t>(kind.second);
-}));
+// ---- Options of each quantity --------------------------------------------------------------------------------------
 
-Cell dash() { return {{"–", Emphasis::faint}}; }
-
-}  // namespace
-
-Cell networkCell(const Dictionary& options, std::optional<double> bytesPerSecond) {
-  if (!bytesPerSecond.has_value()) return dash();
-  Dictionary all = rateOptions();
-  for (const Dictionary::Entry& entry : options) all.set(entry.key, entry.value);
-  return cellOf(KZMUtilitiesFormatBandwidthWithAttributes(all, *bytesPerSecond));
+const Dictionary& amountOptions() {
+  static const Dictionary options = sizeOptions();
+  return options;
 }
 
-Cell diskCell(std::optional<double> bytesPerSecond) {
+// Less than one kilobyte is a dash.
+const Dictionary& diskOptions() {
   static const Dictionary options = [] {
     Dictionary all = sizeOptions();
     all.set("hide-bytes", true);
     return all;
   }();
-  return bytesPerSecond.has_value() ? cellOf(KZMUtilitiesFormatDiskActivityWithAttributes(options, *bytesPerSecond))
-                                    : dash();
+  return options;
 }
 
-Cell spaceCell(double bytes) {
-  static const Dictionary options = sizeOptions();
-  return cellOf(KZMUtilitiesFormatSpaceWithAttributes(options, bytes));
-}
-
-Cell memoryCell(std::optional<double> bytes) {
-  static const Dictionary options = sizeOptions();
-  return bytes.has_value() ? cellOf(KZMUtilitiesFormatMemoryWithAttributes(options, *bytes)) : dash();
-}
-
-Cell partCell(std::optional<double> part) {
+const Dictionary& partOptions() {
   static const Dictionary options{{"attributes-main", kStrong}};
-  constexpr double kPercent = 100.0;
-  return part.has_value() ? cellOf(KZMUtilitiesFormatPercentageWithAttributes(options, *part * kPercent)) : dash();
+  return options;
 }
 
-Cell loadCell(double programs) {
+const Dictionary& loadOptions() {
+  static const Dictionary options{{"decimals", 2}};
+  return options;
+}
+
+const Dictionary& sensorOptions() {
+  static const Dictionary options{{"units", true}, {"space", true}, {"off", true}};
+  return options;
+}
+
+// ---- Writers -------------------------------------------------------------------------------------------------------
+
+constexpr double kPercent = 100.0;
+
+using Options = const Dictionary&;
+
+template <AttributedString (*Format)(Options options, double value)>
+Cell attributed(Options options, double value) {
+  return cellOf(Format(options, value));
+}
+
+Cell part(Options options, double part) {
+  return cellOf(KZMUtilitiesFormatPercentageWithAttributes(options, part * kPercent));
+}
+
+// With all its decimals, so that the points are below each other.
+Cell load(Options /*options*/, double programs) {
   return {{KZMUtilitiesDecimalFormatterWithFractions(2, 2)->string(programs), Emphasis::strong}};
+}
+
+template <SensorType::Kind Kind>
+Cell sensor(Options options, double value) {
+  return {{KZMUtilitiesFormatSensor(Kind, options, value), Emphasis::strong}};
+}
+
+struct WriterRow {
+  Quantity quantity;
+  const Dictionary& (*options)();  // null for the network, whose options are the user's
+  Cell (*write)(Options options, double value);
+  TextFamily family;
+  double most = 0;  // beyond which nobody expects a value; 0 for what is usual in the family
+};
+
+// A state is a word already.
+// clang-format off
+constexpr WriterRow kWriters[] = {
+    {Quantity::bandwidth,    nullptr,       attributed<KZMUtilitiesFormatBandwidthWithAttributes>,
+     TextFamily::bandwidthWithAttributes},
+    {Quantity::diskActivity, diskOptions,   attributed<KZMUtilitiesFormatDiskActivityWithAttributes>,
+     TextFamily::diskActivityWithAttributes},
+    {Quantity::space,        amountOptions, attributed<KZMUtilitiesFormatSpaceWithAttributes>,  TextFamily::space},
+    {Quantity::memory,       amountOptions, attributed<KZMUtilitiesFormatMemoryWithAttributes>, TextFamily::memory},
+    {Quantity::part,         partOptions,   part,                             TextFamily::percentage},
+    {Quantity::load,         loadOptions,   load,                             TextFamily::number,  999.99},
+    {Quantity::temperature,  sensorOptions, sensor<SensorType::temperature>,  TextFamily::sensorTemperature},
+    {Quantity::level,        sensorOptions, sensor<SensorType::percentage>,   TextFamily::sensorPercentage},
+    {Quantity::fan,          sensorOptions, sensor<SensorType::fan>,          TextFamily::sensorFan},
+    {Quantity::current,      sensorOptions, sensor<SensorType::current>,      TextFamily::sensorCurrent},
+    {Quantity::power,        sensorOptions, sensor<SensorType::power>,        TextFamily::sensorPower},
+    {Quantity::voltage,      sensorOptions, sensor<SensorType::voltage>,      TextFamily::sensorVoltage},
+    {Quantity::light,        sensorOptions, sensor<SensorType::light>,        TextFamily::sensorLight},
+    {Quantity::frequency,    sensorOptions, sensor<SensorType::frequency>,    TextFamily::sensorFrequency},
+    {Quantity::capacity,     sensorOptions, sensor<SensorType::capacity>,     TextFamily::sensorCapacity},
+};
+// clang-format on
+static_assert([] {
+  for (std::size_t i = 0; i < std::size(kWriters); ++i) {
+    if (static_cast<std::size_t>(kWriters[i].quantity) != i) return false;
+  }
+  return std::size(kWriters) == static_cast<std::size_t>(Quantity::state);
+}());
+
+const WriterRow& writerOf(Quantity quantity) { return kWriters[static_cast<std::size_t>(quantity)]; }
+
+}  // namespace
+
+Texts::Texts(const Dictionary& bandwidth) : bandwidth_(rateOptions()) {
+  for (const Dictionary::Entry& entry : bandwidth) bandwidth_.set(entry.key, entry.value);
+}
+
+const Dictionary& Texts::optionsOf(Quantity quantity) const {
+  const WriterRow& row = writerOf(quantity);
+  return row.options == nullptr ? bandwidth_ : row.options();
+}
+
+Cell Texts::cell(const Reading& reading) const {
+  if (reading.quantity == Quantity::state) return {{reading.word}};
+  if (!reading.value.has_value()) return {{"–", Emphasis::faint}};
+  return writerOf(reading.quantity).write(optionsOf(reading.quantity), *reading.value);
+}
+
+std::string Texts::text(const Reading& reading) const {
+  std::string text;
+  for (const Piece& piece : cell(reading)) text += piece.text;
+  return text;
+}
+
+std::string Texts::widest(const Reading& reading) const {
+  if (reading.quantity == Quantity::state) return reading.word;
+  std::string& widest = widest_[static_cast<std::size_t>(reading.quantity)];
+  if (!widest.empty()) return widest;
+  const WriterRow& row = writerOf(reading.quantity);
+  ValueRange values = usualRange(row.family);
+  if (row.most > 0) values.highest = row.most;
+  widest = widestText(row.family, optionsOf(reading.quantity), values);
+  return widest;
 }
 
 std::string minutesText(double minutes) {
   std::string text = word("Load.%@ min");
   const std::size_t place = text.find("%@");
   return place == std::string::npos ? text : text.replace(place, 2, KZMUtilitiesFormatNumber({}, minutes));
-}
-
-Cell sensorCell(machine::Kind kind, double value) {
-  static const Dictionary options{{"units", true}, {"space", true}, {"off", true}};
-  return {{KZMUtilitiesFormatSensor(static_cast<std::int64_t>(kind), options, value), Emphasis::strong}};
 }
 
 }  // namespace kzm::cli

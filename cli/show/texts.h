@@ -2,40 +2,42 @@
 #ifndef KZM_CLI_SHOW_TEXTS_H
 #define KZM_CLI_SHOW_TEXTS_H
 
-#include <optional>
+#include <array>
+#include <cstddef>
 #include <string>
 
 #include <KZMUtilities/dictionary.h>
 
 #include "cli/show/layout.h"
-#include "machine/sensors.h"
+#include "cli/show/readings.h"
 
 namespace kzm::cli {
 
-/// Bytes per second of a network interface; the options are those of KZMUtilitiesFormatBandwidth. What is not known is
-/// a faint dash, here and below.
-[[nodiscard]] Cell networkCell(const Dictionary& options, std::optional<double> bytesPerSecond);
+/// The writer of readings, in the user's language and units as they are at the first text.
+class Texts {
+ public:
+  /// With options of KZMUtilitiesFormatBandwidth for the network.
+  explicit Texts(const Dictionary& bandwidth = {});
 
-/// Bytes per second of a disk; less than one kilobyte is a dash.
-[[nodiscard]] Cell diskCell(std::optional<double> bytesPerSecond);
+  /// The reading; what is not known is a faint dash.
+  [[nodiscard]] Cell cell(const Reading& reading) const;
 
-/// The size of a volume, in bytes.
-[[nodiscard]] Cell spaceCell(double bytes);
+  /// The text of the cell.
+  [[nodiscard]] std::string text(const Reading& reading) const;
 
-/// An amount of memory, in bytes.
-[[nodiscard]] Cell memoryCell(std::optional<double> bytes);
+  /// The widest text that the reading can have: of a state, the one that it has.
+  [[nodiscard]] std::string widest(const Reading& reading) const;
 
-/// A part of the whole, 0 to 1, in percent.
-[[nodiscard]] Cell partCell(std::optional<double> part);
+ private:
+  [[nodiscard]] const Dictionary& optionsOf(Quantity quantity) const;
 
-/// How many programs wanted to run.
-[[nodiscard]] Cell loadCell(double programs);
+  Dictionary bandwidth_;
+  // By quantity, once it was asked for.
+  mutable std::array<std::string, static_cast<std::size_t>(Quantity::state)> widest_;
+};
 
 /// "5 min": the load of that time.
 [[nodiscard]] std::string minutesText(double minutes);
-
-/// A reading of a sensor.
-[[nodiscard]] Cell sensorCell(machine::Kind kind, double value);
 
 }  // namespace kzm::cli
 

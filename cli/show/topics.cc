@@ -1,195 +1,215 @@
 #include "cli/show/topics.h"
 
 #include <algorithm>
+#include <iterator>
+#include <string>
 #include <utility>
 
 #include "cli/show/texts.h"
 #include "cli/words.h"
+#include "machine/disks.h"
+#include "machine/network.h"
 
 namespace kzm::cli {
 namespace {
 
 using machine::Kind;
+using machine::Root;
+using Items = std::vector<Item>;
 
-// ---- Readings: those of the counters come by themselves ------------------------------------------------------------
+// ---- Measurements --------------------------------------------------------------------------------------------------
 
-void readNothing(const machine::Root& /*root*/, Snapshot& /*snapshot*/) {}
-void readVolumes(const machine::Root& root, Snapshot& snapshot) { snapshot.volumes = machine::readVolumes(root); }
-void readMemory(const machine::Root& root, Snapshot& snapshot) { snapshot.memory = machine::readMemory(root); }
-void readLoad(const machine::Root& root, Snapshot& snapshot) {
-  snapshot.loadAverages = machine::readLoadAverages(root);
+void countNetwork(const Root& root, Counters& counters) {
+  counters.network = machine::readNetwork(root, counters.seconds);
 }
-void readSensors(const machine::Root& root, Snapshot& snapshot) {
+void countDisks(const Root& root, Counters& counters) { counters.disks = machine::readDisks(root, counters.seconds); }
+void countProcessor(const Root& root, Counters& counters) { counters.processor = machine::readProcessor(root); }
+
+void readNothing(const Root& /*root*/, Snapshot& /*snapshot*/) {}
+void readVolumes(const Root& root, Snapshot& snapshot) { snapshot.volumes = machine::readVolumes(root); }
+void readMemory(const Root& root, Snapshot& snapshot) { snapshot.memory = machine::readMemory(root); }
+void readLoad(const Root& root, Snapshot& snapshot) { snapshot.loadAverages = machine::readLoadAverages(root); }
+void readSensors(const Root& root, Snapshot& snapshot) {
   if (snapshot.sensors.empty()) snapshot.sensors = machine::readSensors(root);
 }
-void readBatteries(const machine::Root& root, Snapshot& snapshot) { snapshot.batteries = machine::readBatteries(root); }
+void readBatteries(const Root& root, Snapshot& snapshot) { snapshot.batteries = machine::readBatteries(root); }
 
-// ---- Rows ----------------------------------------------------------------------------------------------------------
+// ---- Items ---------------------------------------------------------------------------------------------------------
 
 bool isChosen(const Activity& activity, const RowChoice& choice) {
   if (choice.interfaces.empty()) return choice.all || activity.wasUsed;
   return std::find(choice.interfaces.begin(), choice.interfaces.end(), activity.rate.name) != choice.interfaces.end();
 }
 
-Section networkSection(const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{word("Topics.Network"), {word("Columns.received"), word("Columns.sent")}, {}};
+Items networkItems(const Snapshot& snapshot, const RowChoice& choice) {
+  Items items;
   for (const Activity& activity : snapshot.network) {
     if (!isChosen(activity, choice)) continue;
     const auto& [name, in, out] = activity.rate;
-    section.rows.push_back({name, {networkCell(choice.bandwidth, in), networkCell(choice.bandwidth, out)}});
+    items.push_back({name, name, {{"received", Quantity::bandwidth, in}, {"sent", Quantity::bandwidth, out}}});
   }
-  return section;
+  return items;
 }
 
-Section disksSection(const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{word("Topics.Disk activity"), {word("Columns.read"), word("Columns.written")}, {}};
+Items diskItems(const Snapshot& snapshot, const RowChoice& choice) {
+  Items items;
   for (const Activity& activity : snapshot.disks) {
     if (!choice.all && !activity.wasUsed) continue;
-    section.rows.push_back({activity.rate.name, {diskCell(activity.rate.in), diskCell(activity.rate.out)}});
+    const auto& [name, in, out] = activity.rate;
+    items.push_back({name, name, {{"read", Quantity::diskActivity, in}, {"written", Quantity::diskActivity, out}}});
   }
-  return section;
+  return items;
 }
 
-// Bars are in the fourth column, whatever the row has before it.
-void addBar(double part, Row& row) {
-  row.cells.resize(3);
-  row.cells.push_back(bar(part));
+std::vector<Reading> filling(Quantity quantity, double used, double free) {
+  const double all = used + free;
+  const double part = all > 0 ? used / all : 0.0;
+  return {{"used", quantity, used}, {"free", quantity, free}, {"part", Quantity::part, part}};
 }
 
-double partOf(double some, double all) { return all > 0 ? some / all : 0.0; }
-
-Section volumesSection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
-  Section section{word("Topics.Volumes"), {word("Columns.used"), word("Columns.free")}, {}};
+Items volumeItems(const Snapshot& snapshot, const RowChoice& /*choice*/) {
+  Items items;
   for (const machine::Volume& volume : snapshot.volumes) {
     const auto used = static_cast<double>(volume.space.used);
     const auto free = static_cast<double>(volume.space.free);
-    const double part = partOf(used, used + free);
-    section.rows.push_back({volume.name, {spaceCell(used), spaceCell(free), partCell(part), bar(part)}});
+    items.push_back({volume.name, volume.name, filling(Quantity::space, used, free)});
   }
-  return section;
+  return items;
 }
 
-void addMemory(std::string name, std::optional<std::uint64_t> total, std::optional<std::uint64_t> free,
-               Section& section) {
+// What a row is called in every language: its word's key without the family.
+std::string idOf(std::string_view key) { return std::string(key.substr(key.find('.') + 1)); }
+
+void addMemory(std::string_view key, std::optional<std::uint64_t> total, std::optional<std::uint64_t> free,
+               Items& items) {
   if (total.value_or(0) == 0) return;
-  const auto all = static_cast<double>(*total);
-  if (!free.has_value()) {
-    section.rows.push_back({std::move(name), {memoryCell(std::nullopt), memoryCell(std::nullopt)}});
-    return;
+  if (free.has_value()) {
+    const auto left = static_cast<double>(*free);
+    const double used = static_cast<double>(*total) - left;
+    items.push_back({idOf(key), word(key), filling(Quantity::memory, used, left)});
+  } else {
+    items.push_back({idOf(key), word(key), {{"used", Quantity::memory}, {"free", Quantity::memory}}});
   }
-  const auto left = static_cast<double>(*free);
-  const double part = partOf(all - left, all);
-  section.rows.push_back({std::move(name), {memoryCell(all - left), memoryCell(left), partCell(part), bar(part)}});
 }
 
-Section memorySection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
-  Section section{word("Topics.Memory"), {word("Columns.used"), word("Columns.free")}, {}};
-  addMemory(word("Rows.main"), snapshot.memory.total, snapshot.memory.available, section);
-  addMemory(word("Rows.swap"), snapshot.memory.swapTotal, snapshot.memory.swapFree, section);
-  return section;
+Items memoryItems(const Snapshot& snapshot, const RowChoice& /*choice*/) {
+  Items items;
+  addMemory("Rows.main", snapshot.memory.total, snapshot.memory.available, items);
+  addMemory("Rows.swap", snapshot.memory.swapTotal, snapshot.memory.swapFree, items);
+  return items;
 }
 
 // The first load is that of all processors together.
-Section loadSection(const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{word("Topics.Load"), {}, {}};
+Items loadItems(const Snapshot& snapshot, const RowChoice& choice) {
+  Items items;
   for (const machine::ProcessorLoad& load : snapshot.processor) {
     const bool isAll = &load == &snapshot.processor.front();
     if (!isAll && !choice.all) break;
-    section.rows.push_back(
-        {isAll ? word("Rows.processor") : load.name, {partCell(load.busy), {}, {}, bar(load.busy.value_or(0))}});
+    items.push_back({load.name, isAll ? word("Rows.processor") : load.name, {{"busy", Quantity::part, load.busy}}});
   }
-  constexpr double kMinutes[] = {1, 5, 15};
+  constexpr int kMinutes[] = {1, 5, 15};
   for (std::size_t i = 0; snapshot.loadAverages.has_value() && i < std::size(kMinutes); ++i) {
-    section.rows.push_back({minutesText(kMinutes[i]), {loadCell((*snapshot.loadAverages)[i])}});
+    const Reading average{"programs", Quantity::load, (*snapshot.loadAverages)[i]};
+    items.push_back({std::to_string(kMinutes[i]) + "min", minutesText(kMinutes[i]), {average}});
   }
-  return section;
+  return items;
+}
+
+// clang-format off
+constexpr std::pair<Kind, Quantity> kQuantities[] = {
+    {Kind::temperature, Quantity::temperature},
+    {Kind::percentage,  Quantity::level},
+    {Kind::fan,         Quantity::fan},
+    {Kind::current,     Quantity::current},
+    {Kind::power,       Quantity::power},
+    {Kind::voltage,     Quantity::voltage},
+    {Kind::light,       Quantity::light},
+    {Kind::frequency,   Quantity::frequency},
+    {Kind::capacity,    Quantity::capacity},
+};
+// clang-format on
+
+Reading readingOf(std::string_view name, const machine::SensorReading& reading) {
+  const auto* row = std::ranges::find(kQuantities, reading.kind, &std::pair<Kind, Quantity>::first);
+  return {name, row->second, reading.value};
+}
+
+std::string joined(const std::string& source, std::string_view between, const std::string& label) {
+  return source.empty() ? label : source + std::string(between) + label;
+}
+
+std::string idOf(const machine::SensorReading& reading) { return joined(reading.source, " ", reading.label); }
+std::string nameOf(const machine::SensorReading& reading) { return joined(reading.source, "  ", reading.label); }
+
+std::vector<machine::SensorReading> readingsOf(const Snapshot& snapshot, Kind kind) {
+  std::vector<machine::SensorReading> readings;
+  std::ranges::copy_if(snapshot.sensors, std::back_inserter(readings),
+                       [kind](const machine::SensorReading& reading) { return reading.kind == kind; });
+  return readings;
+}
+
+Item extreme(const machine::SensorReading& reading, std::string_view key) {
+  return {idOf(key), nameOf(reading) + " (" + word(key) + ")", {readingOf("value", reading)}};
 }
 
 // More readings of one kind than these are shown by their least and their greatest.
 constexpr std::size_t kSingly = 16;
 
-std::vector<machine::SensorReading> readingsOf(const Snapshot& snapshot, Kind kind) {
-  std::vector<machine::SensorReading> readings;
-  std::copy_if(snapshot.sensors.begin(), snapshot.sensors.end(), std::back_inserter(readings),
-               [kind](const machine::SensorReading& reading) { return reading.kind == kind; });
-  return readings;
-}
-
-std::string nameOf(const machine::SensorReading& reading) {
-  return reading.source.empty() ? reading.label : reading.source + "  " + reading.label;
-}
-
-void addExtremes(const std::vector<machine::SensorReading>& readings, Section& section) {
-  const auto [least, greatest] = std::minmax_element(readings.begin(), readings.end(),
-                                                     [](const auto& a, const auto& b) { return a.value < b.value; });
-  section.rows.push_back({nameOf(*least) + " (" + word("Rows.least") + ")", {sensorCell(least->kind, least->value)}});
-  section.rows.push_back(
-      {nameOf(*greatest) + " (" + word("Rows.greatest") + ")", {sensorCell(greatest->kind, greatest->value)}});
-}
-
-Section sensorSection(const char* title, Kind kind, const Snapshot& snapshot, const RowChoice& choice) {
-  Section section{word(title), {}, {}};
-  const std::vector<machine::SensorReading> readings = readingsOf(snapshot, kind);
+template <Kind K>
+Items sensorItems(const Snapshot& snapshot, const RowChoice& choice) {
+  const std::vector<machine::SensorReading> readings = readingsOf(snapshot, K);
   if (readings.size() > kSingly && !choice.all) {
-    addExtremes(readings, section);
-    return section;
+    const auto [least, greatest] = std::ranges::minmax_element(readings, {}, &machine::SensorReading::value);
+    return {extreme(*least, "Rows.least"), extreme(*greatest, "Rows.greatest")};
   }
+  Items items;
   for (const machine::SensorReading& reading : readings) {
-    section.rows.push_back({nameOf(reading), {sensorCell(kind, reading.value)}});
+    items.push_back({idOf(reading), nameOf(reading), {readingOf("value", reading)}});
   }
-  return section;
+  return items;
 }
 
 // What the machine calls a battery's state, or one of its readings; names that are not in the table stay.
 std::string batteryWord(const std::string& name) { return word("Battery." + name); }
 
-Section batterySection(const Snapshot& snapshot, const RowChoice& /*choice*/) {
-  Section section{word("Topics.Battery"), {}, {}};
+Items batteryItems(const Snapshot& snapshot, const RowChoice& /*choice*/) {
+  Items items;
   for (const machine::Battery& battery : snapshot.batteries) {
-    if (!battery.status.empty()) section.rows.push_back({battery.name, {{Piece{batteryWord(battery.status)}}}});
+    const Reading state{"state", Quantity::state, {}, batteryWord(battery.status)};
+    if (!battery.status.empty()) items.push_back({battery.name, battery.name, {state}});
     for (const machine::SensorReading& reading : battery.readings) {
       machine::SensorReading named = reading;
       named.label = batteryWord(reading.label);
-      section.rows.push_back({nameOf(named), {sensorCell(reading.kind, reading.value)}});
-      if (reading.kind == Kind::percentage) addBar(reading.value, section.rows.back());
+      items.push_back({idOf(reading), nameOf(named), {readingOf("value", reading)}});
     }
   }
-  return section;
+  return items;
 }
 
 // ---- The table -----------------------------------------------------------------------------------------------------
 
-template <Kind K, const char* Title>
-Section sensors(const Snapshot& snapshot, const RowChoice& choice) {
-  return sensorSection(Title, K, snapshot, choice);
-}
-
-constexpr char kTemperatures[] = "Topics.Temperatures";
-constexpr char kFans[] = "Topics.Fans";
-constexpr char kVoltages[] = "Topics.Voltages";
-constexpr char kCurrents[] = "Topics.Currents";
-constexpr char kPower[] = "Topics.Power";
-constexpr char kFrequencies[] = "Topics.Frequencies";
-constexpr char kLight[] = "Topics.Light";
-
-constexpr bool kRates = true;
-constexpr bool kAtOnce = false;
-
+// clang-format off
 constexpr Topic kTopics[] = {
-    {"network", "what every interface receives and sends", kRates, readNothing, networkSection},
-    {"disks", "what every disk reads and writes", kRates, readNothing, disksSection},
-    {"volumes", "used and free space", kAtOnce, readVolumes, volumesSection},
-    {"memory", "used and free memory", kAtOnce, readMemory, memorySection},
-    {"load", "how busy the processor is", kRates, readLoad, loadSection},
-    {"temperatures", "in the user's unit", kAtOnce, readSensors, sensors<Kind::temperature, kTemperatures>},
-    {"fans", "their speed", kAtOnce, readSensors, sensors<Kind::fan, kFans>},
-    {"voltages", "of every sensor", kAtOnce, readSensors, sensors<Kind::voltage, kVoltages>},
-    {"currents", "of every sensor", kAtOnce, readSensors, sensors<Kind::current, kCurrents>},
-    {"power", "what is drawn", kAtOnce, readSensors, sensors<Kind::power, kPower>},
-    {"frequencies", "of the processors", kAtOnce, readSensors, sensors<Kind::frequency, kFrequencies>},
-    {"light", "around the machine", kAtOnce, readSensors, sensors<Kind::light, kLight>},
-    {"battery", "level and charge", kAtOnce, readBatteries, batterySection},
+    {"network", "what every interface receives and sends", "Topics.Network", {"Columns.received", "Columns.sent"},
+     countNetwork, readNothing, networkItems},
+    {"disks", "what every disk reads and writes", "Topics.Disk activity", {"Columns.read", "Columns.written"},
+     countDisks, readNothing, diskItems},
+    {"volumes", "used and free space", "Topics.Volumes", {"Columns.used", "Columns.free"},
+     nullptr, readVolumes, volumeItems},
+    {"memory", "used and free memory", "Topics.Memory", {"Columns.used", "Columns.free"},
+     nullptr, readMemory, memoryItems},
+    {"load", "how busy the processor is", "Topics.Load", {}, countProcessor, readLoad, loadItems},
+    {"temperatures", "in the user's unit", "Topics.Temperatures", {},
+     nullptr, readSensors, sensorItems<Kind::temperature>},
+    {"fans", "their speed", "Topics.Fans", {}, nullptr, readSensors, sensorItems<Kind::fan>},
+    {"voltages", "of every sensor", "Topics.Voltages", {}, nullptr, readSensors, sensorItems<Kind::voltage>},
+    {"currents", "of every sensor", "Topics.Currents", {}, nullptr, readSensors, sensorItems<Kind::current>},
+    {"power", "what is drawn", "Topics.Power", {}, nullptr, readSensors, sensorItems<Kind::power>},
+    {"frequencies", "of the processors", "Topics.Frequencies", {}, nullptr, readSensors, sensorItems<Kind::frequency>},
+    {"light", "around the machine", "Topics.Light", {}, nullptr, readSensors, sensorItems<Kind::light>},
+    {"battery", "level and charge", "Topics.Battery", {}, nullptr, readBatteries, batteryItems},
 };
+// clang-format on
 
 }  // namespace
 

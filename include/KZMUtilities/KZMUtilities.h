@@ -14,6 +14,7 @@
 #include <KZMUtilities/formatters.h>
 #include <KZMUtilities/guards.h>
 #include <KZMUtilities/key.h>
+#include <KZMUtilities/options.h>
 #include <KZMUtilities/percentage.h>
 #include <KZMUtilities/process.h>
 #include <KZMUtilities/resources.h>

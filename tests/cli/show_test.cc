@@ -1,8 +1,7 @@
 // The real program on the real machine: only what holds on every machine is asked for.
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 #include <string>
-#include <sys/ioctl.h>
-#include <utility>
 #include <vector>
 
 #include "tests/cli/program.h"
@@ -52,6 +51,50 @@ TEST(Show, EverythingWithoutATopic) {
   EXPECT_EQ(all.output.find("  –\n"), std::string::npos) << "what the machine lacks is left out";
 }
 
+TEST(Show, SeveralTopicsInTheOrderOfTheCommandLine) {
+  const Outcome two = run({"show", "load", "memory", "load", "--interval", "0.1"});
+  EXPECT_EQ(two.status, 0) << two.errors;
+  EXPECT_TRUE(two.output.starts_with("Load\n")) << two.output;
+  EXPECT_NE(two.output.find("\n\nMemory "), std::string::npos);
+  EXPECT_EQ(countOf(two.output, "Load"), 1U) << "each once";
+}
+
+TEST(Show, ForPrograms) {
+  for (const char* output : {"json", "waybar", "polybar", "plain"}) {
+    const Outcome once = run({"show", "memory", "load", "--interval", "0.1", "--output", output});
+    EXPECT_EQ(once.status, 0) << output << once.errors;
+    EXPECT_EQ(countOf(once.output, "\n"), 1U) << output << once.output;
+  }
+  const auto json = nlohmann::json::parse(run({"--locale", "he_IL", "show", "memory", "--output=json"}).output);
+  EXPECT_EQ(json.at("direction"), "rtl");
+  EXPECT_EQ(json.at("topics").at(0).at("items").at(0).at("id"), "main");
+  const std::string bar = run({"show", "memory", "--output", "i3bar"}).output;
+  EXPECT_TRUE(bar.starts_with("{\"version\":1}\n[\n[]\n,[{")) << bar;
+  EXPECT_EQ(nlohmann::json::parse(bar.substr(bar.find('\n'))).size(), 2U) << "an array to its end";
+}
+
+TEST(Monitor, WritesALineAtEachRefreshAndTheEnd) {
+  const Outcome lines = run({"monitor", "memory", "--output", "json", "--interval", "0.1", "--count", "3"});
+  EXPECT_EQ(lines.status, 0);
+  EXPECT_EQ(countOf(lines.output, "{\"direction\""), 3U) << lines.output;
+  EXPECT_EQ(countOf(lines.output, "\n"), 3U);
+  const Outcome bar = run({"monitor", "memory", "--output", "i3bar", "--interval", "0.1", "--count", "2"});
+  EXPECT_EQ(countOf(bar.output, "\n,["), 2U) << bar.output;
+  EXPECT_TRUE(bar.output.ends_with("]\n]\n")) << bar.output;
+}
+
+TEST(Monitor, WhoReadsALineHasAllOfItAtOnce) {
+  Pipe out;
+  const pid_t process = started({"monitor", "memory", "--output", "plain", "--interval", "3600"}, STDIN_FILENO,
+                                out.writer(), STDERR_FILENO);
+  out.closeWriter();
+  std::string text;
+  ASSERT_TRUE(readSome(out.reader(), text));
+  EXPECT_TRUE(text.ends_with("\n")) << text;
+  out.closeReader();
+  EXPECT_EQ(statusOf(process), 1) << "nobody reads any more";
+}
+
 TEST(Monitor, EndsAfterTheCount) {
   const Outcome outcome = run({"monitor", "memory", "--interval", "0.1", "--count", "3"});
   EXPECT_EQ(outcome.status, 0);
@@ -88,88 +131,6 @@ TEST(Monitor, EndsAtADrawingThatNobodyReads) {
   out.closeReader();
   EXPECT_EQ(statusOf(started({"monitor", "memory", "--interval", "0.1"}, STDIN_FILENO, out.writer(), STDERR_FILENO)),
             1);
-}
-
-// A terminal of our own.
-class Terminal {
- public:
-  Terminal(unsigned short rows, unsigned short columns) : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
-    if (::grantpt(master_) != 0 || ::unlockpt(master_) != 0) return;
-    slave_ = ::open(::ptsname(master_), O_RDWR | O_NOCTTY | O_CLOEXEC);
-    resize(rows, columns);
-  }
-  /// False where the system has no terminals to give.
-  [[nodiscard]] bool isThere() const { return slave_ >= 0; }
-  Terminal(const Terminal&) = delete;
-  Terminal& operator=(const Terminal&) = delete;
-  ~Terminal() {
-    ::close(master_);
-    ::close(slave_);
-  }
-  void resize(unsigned short rows, unsigned short columns) const {
-    const winsize size{rows, columns, 0, 0};
-    ::ioctl(master_, TIOCSWINSZ, &size);
-  }
-  [[nodiscard]] int end() const { return slave_; }
-  /// Reads until the text is there.
-  [[nodiscard]] bool saw(const std::string& wanted) {
-    while (seen_.find(wanted) == std::string::npos) {
-      if (!readSome(master_, seen_)) return false;
-    }
-    return true;
-  }
-  [[nodiscard]] std::string take() { return std::exchange(seen_, {}); }
-
- private:
-  int master_;
-  int slave_ = -1;
-  std::string seen_;
-};
-
-TEST(Monitor, RedrawsInPlaceOnATerminalAndGivesTheCursorBack) {
-  Terminal terminal(24, 60);
-  if (!terminal.isThere()) GTEST_SKIP() << "left out: there are no terminals, as /dev/pts is not mounted";
-  const pid_t process =
-      started({"monitor", "memory", "--interval", "3600"}, STDIN_FILENO, terminal.end(), STDERR_FILENO);
-  ASSERT_TRUE(terminal.saw("\x1b[J"));
-  const std::string first = terminal.take();
-  EXPECT_TRUE(first.starts_with("\x1b[?25l\x1b[H\x1b[2J\x1b[1mMemory\x1b[0m")) << first;
-  EXPECT_NE(first.find("…"), std::string::npos) << "cut at 60 columns";
-  terminal.resize(24, 200);
-  ::kill(process, SIGWINCH);
-  ASSERT_TRUE(terminal.saw("\x1b[J"));
-  const std::string second = terminal.take();
-  EXPECT_TRUE(second.starts_with("\x1b[H\x1b[1mMemory")) << second;
-  EXPECT_EQ(second.find("…"), std::string::npos) << "room enough";
-  ::kill(process, SIGTERM);
-  EXPECT_EQ(statusOf(process), 0);
-  EXPECT_TRUE(terminal.saw("\x1b[?25h"));
-}
-
-TEST(Monitor, GivesTheCursorBackAfterEverySignalThatEndsIt) {
-  for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
-    Terminal terminal(24, 60);
-    if (!terminal.isThere()) GTEST_SKIP() << "left out: there are no terminals, as /dev/pts is not mounted";
-    const pid_t process =
-        started({"monitor", "memory", "--interval", "3600"}, STDIN_FILENO, terminal.end(), STDERR_FILENO);
-    ASSERT_TRUE(terminal.saw("\x1b[J"));
-    ::kill(process, signal);
-    EXPECT_EQ(statusOf(process), 0) << signal;
-    EXPECT_TRUE(terminal.saw("\x1b[?25h")) << signal;
-  }
-}
-
-TEST(Monitor, IsCutToTheHeightOfTheTerminal) {
-  Terminal terminal(4, 200);
-  if (!terminal.isThere()) GTEST_SKIP() << "left out: there are no terminals, as /dev/pts is not mounted";
-  const pid_t process = started({"monitor", "--no-color", "--interval", "0.1", "--count", "1"}, STDIN_FILENO,
-                                terminal.end(), STDERR_FILENO);
-  EXPECT_EQ(statusOf(process), 0);
-  ASSERT_TRUE(terminal.saw("\x1b[?25h"));
-  const std::string text = terminal.take();
-  EXPECT_EQ(countOf(text, "\n"), 3U) << text;
-  EXPECT_NE(text.find("… +"), std::string::npos) << text;
-  EXPECT_EQ(text.find("\x1b[1m"), std::string::npos) << "no styles";
 }
 
 }  // namespace

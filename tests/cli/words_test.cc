@@ -30,9 +30,9 @@ void addMatches(const std::string& content, const char* pattern, std::set<std::s
 /// The words that the sources name, as the argument of word() or as a constant that is given to it later.
 std::set<std::string> wordsInSources() {
   std::set<std::string> found;
-  for (const char* folder : {"/cli/show", "/examples/panel"}) {
+  for (const char* folder : {"/cli/show", "/cli/monitor", "/examples/panel"}) {
     for (const auto& file : std::filesystem::directory_iterator(KZM_SOURCES + std::string(folder))) {
-      addMatches(contentOf(file.path()), R"re("((?:Topics|Columns|Rows|Load)\.[^"]+)")re", found);
+      addMatches(contentOf(file.path()), R"re("((?:Topics|Columns|Rows|Load|Keys)\.[^"]+)")re", found);
     }
   }
   return found;
@@ -41,7 +41,7 @@ std::set<std::string> wordsInSources() {
 std::set<std::string> wordsInTable() {
   std::set<std::string> found;
   const std::string table = contentOf(KZM_SOURCES "/resources/en.lproj/Words.strings");
-  addMatches(table, R"re("Words\.((?:Topics|Columns|Rows|Load)\.[^"]+)" =)re", found);
+  addMatches(table, R"re("Words\.((?:Topics|Columns|Rows|Load|Keys)\.[^"]+)" =)re", found);
   return found;
 }
 

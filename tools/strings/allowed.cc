@@ -39,6 +39,7 @@ constexpr Shared kShared[] = {
     {"swap", "da fil id ms ro"},
     {"Full", "is nb"},
     {"Charge", "fr"},
+    {"Pause", "da de fr nb nn"},
 };
 
 // Scripts that a language writes within one word.
@@ -75,7 +76,8 @@ struct WordLimit {
   std::string_view family;
   std::size_t cells;
 };
-constexpr WordLimit kWordLimits[] = {{"Topics", 24}, {"Columns", 14}, {"Rows", 18}, {"Load", 8}, {"Battery", 26}};
+constexpr WordLimit kWordLimits[] = {{"Topics", 24}, {"Columns", 14}, {"Rows", 18},
+                                     {"Load", 8},    {"Battery", 26}, {"Keys", 18}};
 
 bool hasWord(std::string_view list, std::string_view word) {
   for (std::size_t at = list.find(word); at != std::string_view::npos; at = list.find(word, at + 1)) {

@@ -16,7 +16,7 @@ constexpr Use kUses[] = {
     {"Network", "bytes/bandwidth.cc"}, {"Activity", "bytes/disk_activity.cc"}, {"Space", "bytes/disk_space.cc"},
     {"Memory", "bytes/memory.cc"},     {"Sensors", "sensors/sensor_table.cc"}, {"Weather", "weather/weather_text.cc"},
     {"Topics", "cli/show/topics.cc"},  {"Columns", "cli/show/topics.cc"},      {"Rows", "cli/show/topics.cc"},
-    {"Load", "cli/show/topics.cc"},    {"Battery", "cli/show/topics.cc"},
+    {"Load", "cli/show/topics.cc"},    {"Battery", "cli/show/topics.cc"},      {"Keys", "cli/monitor/page.cc"},
 };
 
 void addLines(std::vector<std::string>& lines, std::string_view text) {

@@ -146,6 +146,7 @@ class Reader {
 void writeMessage(std::ostream& out, const Message& message) {
   for (const std::string& comment : message.comments) out << "#. " << comment << '\n';
   for (const std::string& reference : message.references) out << "#: " << reference << '\n';
+  if (message.isFuzzy) out << "#, fuzzy\n";
   if (!message.context.empty()) out << "msgctxt " << literal(message.context) << '\n';
   out << "msgid " << literal(message.original) << "\nmsgstr " << literals(message.translation) << "\n\n";
 }

@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <limits>
+
+#include "cli/show/watch.h"
 
 namespace kzm::cli {
 namespace {
@@ -11,10 +12,14 @@ namespace {
 using machine::Kind;
 using Lines = std::vector<std::string>;
 
-Lines shown(std::string_view name, const Snapshot& snapshot, const RowChoice& choice = {}) {
-  const auto topic =
-      std::find_if(topics().begin(), topics().end(), [name](const Topic& row) { return row.name == name; });
-  Lines lines = laidOut({topic->section(snapshot, choice)}, {});
+Group groupOf(std::string_view name, const Snapshot& snapshot, const RowChoice& choice = {}) {
+  const auto topic = std::ranges::find(topics(), name, &Topic::name);
+  return {&*topic, topic->items(snapshot, choice)};
+}
+
+Lines shown(std::string_view name, const Snapshot& snapshot, const RowChoice& choice = {},
+            const Dictionary& bandwidth = {}) {
+  Lines lines = laidOut({sectionOf(groupOf(name, snapshot, choice), Texts(bandwidth))}, {});
   if (!lines.empty()) lines.erase(lines.begin());
   return lines;
 }
@@ -37,9 +42,9 @@ TEST(Topics, Network) {
                                              "  wlan0                            –             –",
                                          }));
   EXPECT_EQ(shown("network", network(), {.all = true}).size(), 4U) << "also what was never used";
-  EXPECT_EQ(shown("network", network(), {.bandwidth = {{"bandwidthformat", 2}}, .interfaces = {"eth0"}}),
+  EXPECT_EQ(shown("network", network(), {.interfaces = {"eth0"}}, {{"bandwidthformat", 2}}),
             (Lines{"  eth0                     11.4 Mb/s     16.0 Kb/s"}));
-  EXPECT_EQ(shown("network", network(), {.bandwidth = {{"unitsize", 1}}, .interfaces = {"ifb0"}}),
+  EXPECT_EQ(shown("network", network(), {.interfaces = {"ifb0"}}, {{"unitsize", 1}}),
             (Lines{"  ifb0                         0.0 K         0.0 K"}))
       << "what is asked for is shown, used or not";
 }
@@ -57,7 +62,7 @@ TEST(Topics, DisksHideBytes) {
 TEST(Topics, TheNumberIsStrongAndTheUnitIsPlain) {
   Snapshot snapshot;
   snapshot.disks = {{{"sda", 3145728.0, 0.0}, true}};
-  const Section section = topics()[1].section(snapshot, {});
+  const Section section = sectionOf(groupOf("disks", snapshot), Texts());
   EXPECT_EQ(section.rows[0].cells[0], (Cell{{"3.00", Emphasis::strong}, {" MB/s", Emphasis::plain}}));
   EXPECT_EQ(section.rows[0].cells[1], (Cell{{"-", Emphasis::strong}}));
 }
@@ -149,16 +154,28 @@ TEST(Topics, Battery) {
 }
 
 TEST(Topics, AMachineThatReportsNothingHasNoRows) {
-  for (const Topic& topic : topics()) EXPECT_TRUE(topic.section({}, {.all = true}).rows.empty()) << topic.name;
+  for (const Topic& topic : topics()) EXPECT_TRUE(topic.items({}, {.all = true}).empty()) << topic.name;
 }
 
 TEST(Topics, AnEmptyMachineIsReadWithoutAFuss) {
-  const machine::Root nowhere("/nowhere/at/all");
-  Snapshot snapshot = ratesOf(readCounters(nowhere), readCounters(nowhere));
-  for (const Topic& topic : topics()) {
-    topic.read(nowhere, snapshot);
-    EXPECT_TRUE(topic.section(snapshot, {}).rows.empty()) << topic.name;
-  }
+  Topics all;
+  for (const Topic& topic : topics()) all.push_back(&topic);
+  Watch watch(machine::Root("/nowhere/at/all"), all, {});
+  for (const Group& group : watch.read()) EXPECT_TRUE(group.items.empty()) << group.topic->name;
+}
+
+TEST(Topics, IdentifiersAreTheSameInEveryLanguage) {
+  Snapshot snapshot;
+  snapshot.memory = {.total = 1024, .available = 512, .swapTotal = 1024, .swapFree = 0};
+  snapshot.processor = {{"cpu", 0.5}};
+  snapshot.loadAverages = {0.5, 12.345, 0.0};
+  const auto ids = [&](std::string_view name) {
+    Lines all;
+    for (const Item& item : groupOf(name, snapshot).items) all.push_back(item.id);
+    return all;
+  };
+  EXPECT_EQ(ids("memory"), (Lines{"main", "swap"}));
+  EXPECT_EQ(ids("load"), (Lines{"cpu", "1min", "5min", "15min"}));
 }
 
 }  // namespace

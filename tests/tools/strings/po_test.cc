@@ -46,6 +46,16 @@ TEST(Po, WhatIsWrittenIsRead) {
   EXPECT_FALSE(read[0].isFuzzy);
 }
 
+TEST(Po, AMessageThatNeedsAnotherLookIsWrittenSo) {
+  Message uncertain = message();
+  uncertain.isFuzzy = true;
+  std::ostringstream out;
+  writeMessage(out, uncertain);
+  const auto read = readMessages("de.po", out.str());
+  ASSERT_EQ(read.size(), 1U);
+  EXPECT_TRUE(read[0].isFuzzy);
+}
+
 TEST(Po, FilesOfOtherEditorsAreReadToo) {
   const auto read =
       readMessages("de.po",
