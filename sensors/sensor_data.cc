@@ -132,6 +132,6 @@ std::optional<kzm::Dictionary> KZMUtilitiesSensorData(std::int64_t type, const k
   using namespace kzm::core;
   const std::optional<Reading> reading = readingOf(type, options, value);
   if (!reading.has_value()) return std::nullopt;
-  return reading->row == kPercentRow ? data(core::kPercent, reading->amount, FormatKey::last)
+  return reading->row == kPercentRow ? data(kPercent, reading->amount, FormatKey::last)
                                      : data<kTable>(*reading, FormatKey::last);
 }
