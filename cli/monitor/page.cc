@@ -90,7 +90,7 @@ std::string throughputText(int format) {
   return KZMUtilitiesFormatBandwidth({{"bandwidthformat", format}, {"space", true}}, kExample);
 }
 
-// What a key does is shown rather than told where that is possible.
+// What a key does is shown rather than said where that is possible.
 Panel helpLines(const Scene& scene, const Choices& choices) {
   const std::pair<std::string, std::string> rows[] = {
       {"q", word("Keys.Quit")},

@@ -130,7 +130,7 @@ void addBar(std::size_t column, std::size_t width, const Reading& reading, Panel
   line.push_back({column + displayWidth(bar.full), bar.empty, kFaint});
 }
 
-// What stands beside the values of an item, or below them.
+// What is beside the values of an item, or below them.
 struct Trail {
   const Scene& scene;
   const Topic& topic;

@@ -125,9 +125,10 @@ int showOnce(Watch& watch, const ShowOptions& options) {
   const Texts texts(options.bandwidth);
   if (watch.needsTime()) std::this_thread::sleep_for(std::chrono::duration<double>(options.seconds));
   const std::vector<Group> groups = watch.read();
-  const std::string text = options.output->line == nullptr ? tableOf(groups, texts, lookOfOutput(options.plain))
-                                                           : lineOf(groups, texts, options);
-  return print(std::string(options.output->first) + text + std::string(options.output->last));
+  std::string text(options.output->first);
+  text += options.output->line == nullptr ? tableOf(groups, texts, lookOfOutput(options.plain))
+                                          : lineOf(groups, texts, options);
+  return print(text.append(options.output->last));
 }
 
 int showContinuously(Watch& watch, const ShowOptions& options) {
@@ -162,9 +163,7 @@ int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*d
         int (*show)(Watch& watch, const ShowOptions& options)) {
   ShowOptions options;
   const Operands operands = takeFlags<ShowOptions>(verb, words, flags, options);
-  if (operands.help) {
-    return print(helpText(describeVerb()));
-  }
+  if (operands.help) return print(helpText(describeVerb()));
   try {
     checkWidth(options);
     Watch watch(machine::Root("/"), topicsIn(operands.words), options.rows);

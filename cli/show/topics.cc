@@ -115,23 +115,33 @@ Items loadItems(const Snapshot& snapshot, const RowChoice& choice) {
   return items;
 }
 
-// clang-format off
-constexpr std::pair<Kind, Quantity> kQuantities[] = {
-    {Kind::temperature, Quantity::temperature},
-    {Kind::percentage,  Quantity::level},
-    {Kind::fan,         Quantity::fan},
-    {Kind::current,     Quantity::current},
-    {Kind::power,       Quantity::power},
-    {Kind::voltage,     Quantity::voltage},
-    {Kind::light,       Quantity::light},
-    {Kind::frequency,   Quantity::frequency},
-    {Kind::capacity,    Quantity::capacity},
-};
-// clang-format on
+// A kind without its case does not build.
+Quantity quantityOf(Kind kind) {
+  switch (kind) {
+    case Kind::temperature:
+      return Quantity::temperature;
+    case Kind::percentage:
+      return Quantity::level;
+    case Kind::fan:
+      return Quantity::fan;
+    case Kind::current:
+      return Quantity::current;
+    case Kind::power:
+      return Quantity::power;
+    case Kind::voltage:
+      return Quantity::voltage;
+    case Kind::light:
+      return Quantity::light;
+    case Kind::frequency:
+      return Quantity::frequency;
+    case Kind::capacity:
+      return Quantity::capacity;
+  }
+  return Quantity::state;  // no kind at all
+}
 
 Reading readingOf(std::string_view name, const machine::SensorReading& reading) {
-  const auto* row = std::ranges::find(kQuantities, reading.kind, &std::pair<Kind, Quantity>::first);
-  return {name, row->second, reading.value};
+  return {name, quantityOf(reading.kind), reading.value};
 }
 
 std::string joined(const std::string& source, std::string_view between, const std::string& label) {
@@ -199,6 +209,7 @@ Items batteryItems(const Snapshot& snapshot, const RowChoice& /*choice*/) {
 
 // ---- The table -----------------------------------------------------------------------------------------------------
 
+// The name, what it shows, the title and the columns; then what counts, what reads and what makes the items.
 // clang-format off
 constexpr Topic kTopics[] = {
     {"network", "what every interface receives and sends", "Topics.Network", {"Columns.received", "Columns.sent"},

@@ -38,7 +38,7 @@
 ///
 /// Example:
 ///   KZMSettingsUseObjects({{"Weather.Global.Units.Pressure", 2}, {"Weather.Global.Units.Rain", 1}});
-///   KZMSettingsObjects().size()  // 2
+///   KZMSettingsObjects().contains("Weather.Global.Units.Rain")  // true
 [[nodiscard]] KZM_EXPORT kzm::Dictionary KZMSettingsObjects();
 
 /// From now on the settings are exactly these, held in memory: the stored ones are neither read nor written any more.
