@@ -49,7 +49,7 @@ constexpr auto kRows = core::unitRows("Units.Network.", kTexts);
 constexpr UnitIndex kIndex = unitIndex(kTexts);
 static_assert(core::wellFormed(kTexts));
 
-constexpr core::UnitTable kTable{"Localizations-Units-Network", kRows};
+constexpr core::UnitTable kBandwidthTable{"Localizations-Units-Network", kRows};
 
 // The forms of each unit size: "unitsize" 1, 2 and 3.
 constexpr Form kFormsOfSize[][2] = {
@@ -89,15 +89,15 @@ core::Reading attributedBandwidth(const Dictionary& options, double bytesPerSeco
 
 kzm::Dictionary KZMUtilitiesBandwidthData(const kzm::Dictionary& options, double bytesPerSecond) {
   using namespace kzm::bytes;
-  return kzm::core::data<kTable>(bandwidth(options, bytesPerSecond));
+  return kzm::core::data<kBandwidthTable>(bandwidth(options, bytesPerSecond));
 }
 
 [[gnu::flatten]] std::string KZMUtilitiesFormatBandwidth(const kzm::Dictionary& options, double bytesPerSecond) {
   using namespace kzm::bytes;
-  return kzm::core::text<kTable>(bandwidth(options, bytesPerSecond));
+  return kzm::core::text<kBandwidthTable>(bandwidth(options, bytesPerSecond));
 }
 
 kzm::AttributedString KZMUtilitiesFormatBandwidthWithAttributes(const kzm::Dictionary& options, double bytesPerSecond) {
   using namespace kzm::bytes;
-  return kzm::core::attributedText<kTable>(attributedBandwidth(options, bytesPerSecond), options);
+  return kzm::core::attributedText<kBandwidthTable>(attributedBandwidth(options, bytesPerSecond), options);
 }

@@ -29,7 +29,7 @@ static_assert(core::wellFormed(kTexts));
 
 // Deliberate: the keys of disk activity begin with "Units.Activity.", its cache key ends in "DiskActivity"
 // (Lookups.ActivityKeysDifferFromItsCacheKey).
-constexpr core::UnitTable kTable{"Localizations-Units-DiskActivity", kRows};
+constexpr core::UnitTable kDiskActivityTable{"Localizations-Units-DiskActivity", kRows};
 
 // "hide-bytes" hides rates below one kilobyte per second. NaN is not below.
 constexpr double kHiddenBelow = 1024.0;
@@ -51,12 +51,12 @@ core::Reading diskActivity(const Dictionary& options, double bytesPerSecond) {
 
 kzm::Dictionary KZMUtilitiesDiskActivityData(const kzm::Dictionary& options, double bytesPerSecond) {
   using namespace kzm::bytes;
-  return kzm::core::data<kTable>(diskActivity(options, bytesPerSecond));
+  return kzm::core::data<kDiskActivityTable>(diskActivity(options, bytesPerSecond));
 }
 
 std::string KZMUtilitiesFormatDiskActivity(const kzm::Dictionary& options, double bytesPerSecond) {
   using namespace kzm::bytes;
-  return kzm::core::text<kTable>(diskActivity(options, bytesPerSecond));
+  return kzm::core::text<kDiskActivityTable>(diskActivity(options, bytesPerSecond));
 }
 
 kzm::AttributedString KZMUtilitiesFormatDiskActivityWithAttributes(const kzm::Dictionary& options,
@@ -65,5 +65,5 @@ kzm::AttributedString KZMUtilitiesFormatDiskActivityWithAttributes(const kzm::Di
   if (isHidden(options, bytesPerSecond)) {
     return kzm::AttributedString("-", kzm::core::readAttributes(options, kzm::core::kAttributesMain));
   }
-  return kzm::core::attributedText<kTable>(diskActivity(options, bytesPerSecond), options);
+  return kzm::core::attributedText<kDiskActivityTable>(diskActivity(options, bytesPerSecond), options);
 }

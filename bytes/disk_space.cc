@@ -24,7 +24,7 @@ constexpr Rung kRungs[] = {
 constexpr Ladder kLadder{kRungs};
 
 constexpr auto kRows = core::unitRows("Units.Space.", kSizeTexts);
-constexpr core::UnitTable kTable{"Localizations-Units-Space", kRows};
+constexpr core::UnitTable kDiskSpaceTable{"Localizations-Units-Space", kRows};
 constexpr Scale kToKilobytes = over(1000.0);
 
 }  // namespace
@@ -38,15 +38,15 @@ core::Reading diskSpace(const Dictionary& options, double bytes) {
 
 kzm::Dictionary KZMUtilitiesSpaceData(const kzm::Dictionary& options, double bytes) {
   using namespace kzm::bytes;
-  return kzm::core::data<kTable>(diskSpace(options, bytes));
+  return kzm::core::data<kDiskSpaceTable>(diskSpace(options, bytes));
 }
 
 std::string KZMUtilitiesFormatSpace(const kzm::Dictionary& options, double bytes) {
   using namespace kzm::bytes;
-  return kzm::core::text<kTable>(diskSpace(options, bytes));
+  return kzm::core::text<kDiskSpaceTable>(diskSpace(options, bytes));
 }
 
 kzm::AttributedString KZMUtilitiesFormatSpaceWithAttributes(const kzm::Dictionary& options, double bytes) {
   using namespace kzm::bytes;
-  return kzm::core::attributedText<kTable>(diskSpace(options, bytes), options);
+  return kzm::core::attributedText<kDiskSpaceTable>(diskSpace(options, bytes), options);
 }

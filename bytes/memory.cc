@@ -22,7 +22,7 @@ constexpr Rung kRungs[] = {
 constexpr Ladder kLadder{kRungs};
 
 constexpr auto kRows = core::unitRows("Units.Memory.", kSizeTexts);
-constexpr core::UnitTable kTable{"Localizations-Units-Memory", kRows};
+constexpr core::UnitTable kMemoryTable{"Localizations-Units-Memory", kRows};
 constexpr Scale kToKilobytes = times(0x1p-10);
 
 }  // namespace
@@ -36,15 +36,15 @@ core::Reading memory(const Dictionary& options, double bytes) {
 
 kzm::Dictionary KZMUtilitiesMemoryData(const kzm::Dictionary& options, double bytes) {
   using namespace kzm::bytes;
-  return kzm::core::data<kTable>(memory(options, bytes));
+  return kzm::core::data<kMemoryTable>(memory(options, bytes));
 }
 
 std::string KZMUtilitiesFormatMemory(const kzm::Dictionary& options, double bytes) {
   using namespace kzm::bytes;
-  return kzm::core::text<kTable>(memory(options, bytes));
+  return kzm::core::text<kMemoryTable>(memory(options, bytes));
 }
 
 kzm::AttributedString KZMUtilitiesFormatMemoryWithAttributes(const kzm::Dictionary& options, double bytes) {
   using namespace kzm::bytes;
-  return kzm::core::attributedText<kTable>(memory(options, bytes), options);
+  return kzm::core::attributedText<kMemoryTable>(memory(options, bytes), options);
 }

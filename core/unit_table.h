@@ -38,7 +38,8 @@ class UnitRow {
   std::array<char, 30> key_{};
 };
 
-/// The texts of a family that is kept in the shared cache, in the order in which they are looked up.
+/// The texts of a family that is kept in the shared cache, in the order in which they are looked up. Each has a name of
+/// its own: what templates make of two of the same name, each in the unnamed namespace of its source, is one to g++ 14.
 struct UnitTable {
   std::string_view cacheKey;
   std::span<const UnitRow> rows;

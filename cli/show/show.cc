@@ -84,8 +84,8 @@ constexpr ShowFlag kShowFlags[] = {kBits, kUnitSize, kInterface, kAll, kInterval
 constexpr ShowFlag kMonitorFlags[] = {kBits,  kUnitSize, kInterface, kAll,          kInterval,
                                       kCount, kNoColor,  kOutput,    kConstantWidth};
 
-Description describe(Text usage, std::span<const ShowFlag> flags) {
-  Description verb{.usage = {usage}, .text = "Without a topic: all of them.\n", .flags = textsOf(flags)};
+Description describe(Text usage, Text text, std::span<const ShowFlag> flags) {
+  Description verb{.usage = {usage}, .text = text, .flags = textsOf(flags)};
   for (const Topic& topic : topics()) verb.choices.push_back({.name = topic.name, .help = topic.does});
   return verb;
 }
@@ -175,8 +175,13 @@ int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*d
 
 }  // namespace
 
-Description describeShow() { return describe("show [TOPIC...] [FLAG...]", kShowFlags); }
-Description describeMonitor() { return describe("monitor [TOPIC...] [FLAG...]", kMonitorFlags); }
+Description describeShow() {
+  return describe("show [TOPIC...] [FLAG...]", "Without a topic: all of them.\n", kShowFlags);
+}
+Description describeMonitor() {
+  return describe("monitor [TOPIC...] [FLAG...]",
+                  "Without a topic: all of them. On a terminal the key ? lists the others.\n", kMonitorFlags);
+}
 
 int showVerb(Words words) { return run("show", words, kShowFlags, describeShow, showOnce); }
 int monitorVerb(Words words) { return run("monitor", words, kMonitorFlags, describeMonitor, showContinuously); }

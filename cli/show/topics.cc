@@ -162,6 +162,17 @@ Item extreme(const machine::SensorReading& reading, std::string_view key) {
   return {idOf(key), nameOf(reading) + " (" + word(key) + ")", {readingOf("value", reading)}};
 }
 
+// Two devices of one kind may have the same names.
+Items numbered(Items items) {
+  for (auto item = items.begin(); item != items.end(); ++item) {
+    const std::string id = item->id;
+    for (int number = 2; std::ranges::find(items.begin(), item, item->id, &Item::id) != item; ++number) {
+      item->id = id + " " + std::to_string(number);
+    }
+  }
+  return items;
+}
+
 // More readings of one kind than these are shown by their least and their greatest.
 constexpr std::size_t kSingly = 16;
 
@@ -176,7 +187,7 @@ Items sensorItems(const Snapshot& snapshot, const RowChoice& choice) {
   for (const machine::SensorReading& reading : readings) {
     items.push_back({idOf(reading), nameOf(reading), {readingOf("value", reading)}});
   }
-  return items;
+  return numbered(std::move(items));
 }
 
 // What the machine calls a battery's state, or one of its readings; names that are not in the table stay.
@@ -193,7 +204,7 @@ Items batteryItems(const Snapshot& snapshot, const RowChoice& /*choice*/) {
       items.push_back({idOf(reading), nameOf(named), {readingOf("value", reading)}});
     }
   }
-  return items;
+  return numbered(std::move(items));
 }
 
 // ---- The table -----------------------------------------------------------------------------------------------------

@@ -29,7 +29,7 @@ Signals::Signals() {
 
 int Signals::take() const {
   signalfd_siginfo info{};
-  const bool came = ::read(descriptor_.number(), &info, sizeof info) == static_cast<ssize_t>(sizeof info);
+  const bool came = ::read(descriptor(), &info, sizeof info) == static_cast<ssize_t>(sizeof info);
   return came ? static_cast<int>(info.ssi_signo) : 0;
 }
 

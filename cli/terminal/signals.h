@@ -10,9 +10,6 @@ namespace kzm::cli {
 class Signals {
  public:
   Signals();
-  Signals(const Signals&) = delete;
-  Signals& operator=(const Signals&) = delete;
-  ~Signals() = default;
 
   /// Readable when a signal has come.
   [[nodiscard]] int descriptor() const { return descriptor_.number(); }

@@ -1,5 +1,6 @@
 #include "cli/terminal/terminal.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -63,6 +64,14 @@ Size sizeOfOutput() {
   winsize size{};
   if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0) return {};
   return {size.ws_row, size.ws_col};
+}
+
+Size Terminal::size() {
+  constexpr Size kUsual{.rows = 24, .columns = 80};
+  constexpr Size kMost{.rows = 512, .columns = 1024};
+  const Size size = sizeOfOutput();
+  if (size.rows == 0 || size.columns == 0) return kUsual;
+  return {std::min(size.rows, kMost.rows), std::min(size.columns, kMost.columns)};
 }
 
 Terminal::Terminal(Dress dress) : dress_(dress) {

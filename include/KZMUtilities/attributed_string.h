@@ -42,7 +42,7 @@ class KZM_EXPORT AttributedString {
   /// The text of all runs.
   [[nodiscard]] const std::string& text() const noexcept { return text_; }
   /// The runs from first to last: `for (const auto& run : text.runs())`. Good as long as the text is unchanged.
-  [[nodiscard]] Runs runs() const noexcept;
+  [[nodiscard]] inline Runs runs() const noexcept;
 
   /// Adds the runs of the other text at the end.
   void append(const AttributedString& other);

@@ -200,7 +200,9 @@ TEST(MatchForExpression, RefusesPatternsThatTakeTooLongToCompile) {
 }
 
 TEST(MatchForExpression, ATextBeyondAnyLimitIsNotEvenRead) {
-  constexpr std::size_t kSize = std::size_t{5} << 30U;
+  // Where there can be one, a size that does not fit in 32 bits.
+  constexpr std::size_t kMebibytes = sizeof(std::size_t) > 4 ? 5 * 1024 : 1536;
+  constexpr std::size_t kSize = kMebibytes << 20U;
   void* memory = mmap(nullptr, kSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
   ASSERT_NE(memory, MAP_FAILED);
   const std::string_view huge(static_cast<const char*>(memory), kSize);

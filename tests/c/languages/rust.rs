@@ -1,5 +1,6 @@
 // From Rust, which declares the C functions that it calls.
-use std::ffi::{c_char, c_void, CStr, CString};
+use std::ffi::{CStr, CString};
+use std::os::raw::{c_char, c_void};
 use std::thread;
 
 #[link(name = "KZMUtilities-c")]

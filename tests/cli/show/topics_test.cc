@@ -176,6 +176,8 @@ TEST(Topics, IdentifiersAreTheSameInEveryLanguage) {
   };
   EXPECT_EQ(ids("memory"), (Lines{"main", "swap"}));
   EXPECT_EQ(ids("load"), (Lines{"cpu", "1min", "5min", "15min"}));
+  for (int i = 0; i < 3; ++i) snapshot.sensors.push_back({Kind::temperature, 40.0, "nvme", "Composite"});
+  EXPECT_EQ(ids("temperatures"), (Lines{"nvme Composite", "nvme Composite 2", "nvme Composite 3"})) << "once each";
 }
 
 }  // namespace
