@@ -18,7 +18,8 @@ struct BandwidthFormat {
   std::int64_t reversed;  // the code that "reverse-type" makes of this one
 };
 
-// By code. Deliberate: the swap is one-way, 3 stays 3 and never turns back into 1; any other code turns into 3
+// By code.
+// Deliberate: the swap is one-way, 3 stays 3 and never turns back into 1; any other code turns into 3
 // (Bandwidth.TheReversedFormatIsOneWay).
 // clang-format off
 //   bits   lowest       reversed
