@@ -15,7 +15,7 @@ install(TARGETS ${KZM_LIBRARIES} EXPORT KZMUtilitiesTargets
 if(BUILD_SHARED_LIBS)
   install(TARGETS KZMCanvas LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/KZMUtilities COMPONENT libraries)
 endif()
-install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development FILES_MATCHING PATTERN *.h)
 install(EXPORT KZMUtilitiesTargets NAMESPACE KZMUtilities:: DESTINATION ${KZM_PACKAGE_DIR} COMPONENT development)
 
 configure_package_config_file(cmake/KZMUtilitiesConfig.cmake.in KZMUtilitiesConfig.cmake
