@@ -54,7 +54,7 @@ void eachInCWithNewOptions(Span values) {
 }
 
 // clang-format off
-//   name                             reach  values    pass
+//   name                              reach  values    pass
 constexpr Call kPlain[] = {
     {"bandwidth, typical options",     0.8,   rates,    each<KZMUtilitiesFormatBandwidth, typicalRate>},
     {"bandwidth, no options",          0.8,   rates,    each<KZMUtilitiesFormatBandwidth, none>},
@@ -78,7 +78,7 @@ constexpr Call kPlain[] = {
     {"number",                         1.0,   readings, each<KZMUtilitiesFormatNumber, oneDigit>},
 };
 
-//   name                     reach  values    pass
+//   name                      reach  values    pass
 constexpr Call kWeather[] = {
     {"weather temperature",    1.6,   readings, each<KZMUtilitiesFormatWeatherTemperature, withUnit>},
     {"weather wind speed",     1.6,   readings, each<KZMUtilitiesFormatWeatherWindSpeed, withUnit>},
@@ -96,7 +96,7 @@ constexpr Call kWeather[] = {
     {"weather illumination",   1.6,   readings, each<KZMUtilitiesFormatWeatherIllumination>},
 };
 
-//   name                        reach  values    pass
+//   name                         reach  values    pass
 constexpr Call kAttributed[] = {
     {"bandwidth, attributed",     2.0,   rates,    each<KZMUtilitiesFormatBandwidthWithAttributes, styledRate>},
     {"disk activity, attributed", 2.0,   rates,    each<KZMUtilitiesFormatDiskActivityWithAttributes, styledRate>},
@@ -105,7 +105,7 @@ constexpr Call kAttributed[] = {
     {"percentage, attributed",    2.0,   readings, each<KZMUtilitiesFormatPercentageWithAttributes, styledDigit>},
 };
 
-//   name                  reach  values    pass
+//   name                   reach  values    pass
 constexpr Call kData[] = {
     {"bandwidth, data",     1.5,   rates,    each<KZMUtilitiesBandwidthData, typicalRate>},
     {"disk activity, data", 1.5,   rates,    each<KZMUtilitiesDiskActivityData, typicalRate>},
@@ -114,16 +114,16 @@ constexpr Call kData[] = {
     {"sensor, data",        1.5,   readings, each<powerData, withUnit>},
 };
 
-//   name                                 reach  values pass
+//   name                                  reach  values  pass
 constexpr Call kC[] = {
-    {"C: bandwidth, typical options",      0.0,   rates, eachInC<kzm_format_bandwidth, typicalRate>},
-    {"C: bandwidth, no options",           0.0,   rates, eachInC<kzm_format_bandwidth, none>},
-    {"C: bandwidth, attributed",           0.0,   rates, eachInC<kzm_format_bandwidth_with_attributes, styledRate>},
-    {"C: bandwidth, data",                 0.0,   rates, eachInC<kzm_bandwidth_data, typicalRate>},
-    {"C: disk activity, typical options",  0.0,   rates, eachInC<kzm_format_disk_activity, typicalRate>},
-    {"C: disk space, typical options",     0.0,   sizes, eachInC<kzm_format_space, typicalSize>},
-    {"C: memory, typical options",         0.0,   sizes, eachInC<kzm_format_memory, typicalSize>},
-    {"C: memory, another text of options", 0.0,   sizes, eachInCWithNewOptions},
+    {"C: bandwidth, typical options",      0.0,   rates,  eachInC<kzm_format_bandwidth, typicalRate>},
+    {"C: bandwidth, no options",           0.0,   rates,  eachInC<kzm_format_bandwidth, none>},
+    {"C: bandwidth, attributed",           0.0,   rates,  eachInC<kzm_format_bandwidth_with_attributes, styledRate>},
+    {"C: bandwidth, data",                 0.0,   rates,  eachInC<kzm_bandwidth_data, typicalRate>},
+    {"C: disk activity, typical options",  0.0,   rates,  eachInC<kzm_format_disk_activity, typicalRate>},
+    {"C: disk space, typical options",     0.0,   sizes,  eachInC<kzm_format_space, typicalSize>},
+    {"C: memory, typical options",         0.0,   sizes,  eachInC<kzm_format_memory, typicalSize>},
+    {"C: memory, another text of options", 0.0,   sizes,  eachInCWithNewOptions},
 };
 // clang-format on
 

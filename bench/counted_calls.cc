@@ -1,4 +1,4 @@
-// Every call for a counter of instructions, which counts in kzm_counted alone and tells after each one.
+// Every call for a counter of instructions, which counts in kzm_counted alone and reports after each one.
 #include <cstdio>
 
 #include "bench/calls.h"

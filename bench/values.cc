@@ -13,7 +13,7 @@ namespace {
 
 using Array = std::array<double, kValues>;
 
-// The powers of two between the exponents are equally likely, and so is what lies between them.
+// The powers of two between the exponents are equally likely, and so is what is between them.
 Array logUniform(double least, double most) {
   std::mt19937_64 random(20260101);
   Array values{};

@@ -1,7 +1,6 @@
-#include <iterator>
-
 #include <KZMUtilities/bytes.h>
 
+#include "bytes/bandwidth_format.h"
 #include "bytes/rate_ladders.h"
 #include "bytes/readings.h"
 #include "bytes/scaling.h"
@@ -12,7 +11,7 @@ namespace {
 // Deliberate: the units without "/s" have the per-second hints all the same
 // (Lookups.BandwidthUnitsWithoutPerSecondHaveItsHintsAllTheSame).
 // clang-format off
-//   form                  level          spacing                template    translator's hint
+//    form                   level         spacing          template    translator's hint
 constexpr UnitText kTexts[] = {
     {{Form::brief,           Level::giga}, Spacing::spaced, "%@ G",     "gigabyte"},
     {{Form::brief,           Level::mega}, Spacing::spaced, "%@ M",     "megabyte"},
@@ -59,35 +58,6 @@ constexpr Form kFormsOfSize[][2] = {
     {Form::bytesPerSecond, Form::bitsPerSecond},
 };
 
-// What the format codes 0 to 3 show, and the code that "reverse-type" makes of them. Any other code shows as 0.
-// Deliberate: the swap is one-way, 3 stays 3 and never turns back into 1; any other code turns into 3
-// (Bandwidth.TheReversedFormatIsOneWay).
-struct Format {
-  bool bits;
-  Level lowest;
-  std::int64_t reversed;
-};
-// clang-format off
-//   bits   lowest level reversed
-constexpr Format kFormats[] = {
-    {false, Level::kilo, 2},
-    {false, Level::mega, 3},
-    {true,  Level::kilo, 0},
-    {true,  Level::mega, 3},
-};
-// clang-format on
-constexpr Format kOtherFormat{false, Level::kilo, 3};
-
-const Format& formatWithCode(std::int64_t code) {
-  return code >= 0 && code < std::ssize(kFormats) ? kFormats[code] : kOtherFormat;
-}
-
-const Format& formatOf(const Dictionary& options) {
-  static constexpr Key kFormat = "bandwidthformat";
-  const Format& format = formatWithCode(core::readInteger(options.find(kFormat)));
-  return options.contains(core::kReverseType) ? formatWithCode(format.reversed) : format;
-}
-
 Form formOf(const Dictionary& options, bool bits) {
   static constexpr Key kUnitSize = "unitsize";
   constexpr std::int64_t kBrief = 1;
@@ -101,8 +71,8 @@ Form formOf(const Dictionary& options, bool bits) {
 
 core::Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
   constexpr double kBitsPerByte = 8.0;
-  const Format& format = formatOf(options);
-  const Style style{formOf(options, format.bits), core::readSpacing(options)};
+  const BandwidthFormat& format = bandwidthFormat(options);
+  const UnitStyle style{formOf(options, format.bits), core::readSpacing(options)};
   return scaled(rateLadder(options, format.lowest), kIndex, style, core::Digits::exactly, options,
                 format.bits ? bytesPerSecond * kBitsPerByte : bytesPerSecond);
 }

@@ -10,7 +10,7 @@ namespace {
 // Deliberate: the translator hints are wrong on purpose: the list petabyte to kilobyte is applied to the first five
 // rows in order (Lookups.ActivityHintsAreLaidOnTheFirstFiveRowsAsTheyCome).
 // clang-format off
-//   form                  level           spacing                template    translator's hint
+//    form                  level          spacing          template    translator's hint
 constexpr UnitText kTexts[] = {
     {{Form::brief,          Level::giga},  Spacing::tight,  "%@G",      "petabyte"},
     {{Form::brief,          Level::mega},  Spacing::tight,  "%@M",      "terabyte"},
@@ -43,7 +43,7 @@ bool isHidden(const Dictionary& options, double bytesPerSecond) {
 
 core::Reading diskActivity(const Dictionary& options, double bytesPerSecond) {
   const Ladder& ladder = rateLadder(options, Level::kilo);
-  const Style style = wholeUnitStyle(options, Form::bytesPerSecond);
+  const UnitStyle style = wholeUnitStyle(options, Form::bytesPerSecond);
   return scaled(ladder, kIndex, style, core::Digits::exactly, options, bytesPerSecond);
 }
 

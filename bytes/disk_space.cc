@@ -12,13 +12,13 @@ namespace {
 // NaN ends in peta (DiskSpace.TheFirstThreeThresholdsAreReachedTheFourthIsNot,
 // DiskSpace.ThePetaDivisorIsInSinglePrecision).
 // clang-format off
-//   level        taken when       kilobytes        shown as
+//   level        taken when         kilobytes        shown as
 constexpr Rung kRungs[] = {
-    {Level::kilo, Test::atMost,     1000.0,          times(1.0)},
-    {Level::mega, Test::atMost,     1000000.0,       over(1000.0)},
-    {Level::giga, Test::atMost,     1000000000.0,    over(1000000.0)},
-    {Level::tera, Test::below,      1000000000000.0, over(1000000000.0)},
-    {Level::peta, Test::otherwise, 0.0,             over(999999995904.0)},
+    {Level::kilo, Taken::atMost,     1000.0,          times(1.0)},
+    {Level::mega, Taken::atMost,     1000000.0,       over(1000.0)},
+    {Level::giga, Taken::atMost,     1000000000.0,    over(1000000.0)},
+    {Level::tera, Taken::below,      1000000000000.0, over(1000000000.0)},
+    {Level::peta, Taken::otherwise,  0.0,             over(999999995904.0)},
 };
 // clang-format on
 constexpr Ladder kLadder{kRungs};
@@ -30,7 +30,7 @@ constexpr Scale kToKilobytes = over(1000.0);
 }  // namespace
 
 core::Reading diskSpace(const Dictionary& options, double bytes) {
-  const Style style = wholeUnitStyle(options, Form::bytes);
+  const UnitStyle style = wholeUnitStyle(options, Form::bytes);
   return scaled(kLadder, kSizeIndex, style, core::Digits::atMost, options, kToKilobytes(bytes));
 }
 

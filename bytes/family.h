@@ -73,12 +73,12 @@ constexpr Scale times(double factor) { return {Scale::Step::times, factor}; }
 constexpr Scale over(double divisor) { return {Scale::Step::over, divisor}; }
 
 /// When a rung of the ladder is taken. NaN is not at least anything, but neither below nor at most.
-enum class Test : std::uint8_t { atMost, below, notAtLeast, otherwise };
+enum class Taken : std::uint8_t { atMost, below, notAtLeast, otherwise };
 
 /// One rung: the level that a value in the family's base unit lands on, and what it is shown as there.
 struct Rung {
   Level level;
-  Test test;
+  Taken taken;
   double threshold;
   Scale shown;
 };
@@ -88,15 +88,16 @@ struct Rung {
 class Ladder {
  public:
   consteval explicit Ladder(std::span<const Rung> rungs) : rungs_(rungs.data()), thresholds_(rungs.size() - 1) {
-    if (rungs.back().test != Test::otherwise || rungs.size() > kLevels) throw "the last rung, and it alone, takes all";
-    nanIsLowest_ = rungs.front().test == Test::notAtLeast;
+    if (rungs.back().taken != Taken::otherwise || rungs.size() > kLevels)
+      throw "the last rung, and it alone, takes all";
+    nanIsLowest_ = rungs.front().taken == Taken::notAtLeast;
     for (std::size_t i = 0; i < thresholds_; ++i) {
-      if (rungs[i].test == Test::otherwise) throw "only the last rung takes all";
-      if ((rungs[i].test == Test::notAtLeast) != nanIsLowest_) throw "NaN has two places";
+      if (rungs[i].taken == Taken::otherwise) throw "only the last rung takes all";
+      if ((rungs[i].taken == Taken::notAtLeast) != nanIsLowest_) throw "NaN has two places";
       if (i > 0 && (rungs[i].level <= rungs[i - 1].level || rungs[i].threshold <= rungs[i - 1].threshold)) {
         throw "the rungs do not go up";
       }
-      limits_[i] = rungs[i].test == Test::atMost ? nextAbove(rungs[i].threshold) : rungs[i].threshold;
+      limits_[i] = rungs[i].taken == Taken::atMost ? nextAbove(rungs[i].threshold) : rungs[i].threshold;
     }
   }
 

@@ -10,13 +10,13 @@ namespace {
 // Deliberate: 1024 KB stays KB (at most), but 1024 MB is already 1 GB (below). NaN ends in peta
 // (Memory.TheFirstThresholdIsReachedTheOthersAreNot).
 // clang-format off
-//   level        taken when       kilobytes        shown as
+//   level        taken when         kilobytes        shown as
 constexpr Rung kRungs[] = {
-    {Level::kilo, Test::atMost,     1024.0,          times(1.0)},
-    {Level::mega, Test::below,      1048576.0,       times(0x1p-10)},
-    {Level::giga, Test::below,      1073741824.0,    times(0x1p-20)},
-    {Level::tera, Test::below,      1099511627776.0, times(0x1p-30)},
-    {Level::peta, Test::otherwise, 0.0,             times(0x1p-40)},
+    {Level::kilo, Taken::atMost,     1024.0,          times(1.0)    },
+    {Level::mega, Taken::below,      1048576.0,       times(0x1p-10)},
+    {Level::giga, Taken::below,      1073741824.0,    times(0x1p-20)},
+    {Level::tera, Taken::below,      1099511627776.0, times(0x1p-30)},
+    {Level::peta, Taken::otherwise,  0.0,             times(0x1p-40)},
 };
 // clang-format on
 constexpr Ladder kLadder{kRungs};
@@ -28,7 +28,7 @@ constexpr Scale kToKilobytes = times(0x1p-10);
 }  // namespace
 
 core::Reading memory(const Dictionary& options, double bytes) {
-  const Style style = wholeUnitStyle(options, Form::bytes);
+  const UnitStyle style = wholeUnitStyle(options, Form::bytes);
   return scaled(kLadder, kSizeIndex, style, core::Digits::exactly, options, kToKilobytes(bytes));
 }
 

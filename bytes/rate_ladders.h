@@ -15,27 +15,27 @@ inline constexpr Scale kToGiga = times(0x1p-30);
 
 // NaN lands on the lowest level: it is not at least anything.
 // clang-format off
-//   level        taken when       per second    shown as
+//   level        taken when         per second    shown as
 inline constexpr Rung kBinaryRungs[] = {
-    {Level::kilo, Test::notAtLeast, 1048576.0,    kToKilo},
-    {Level::mega, Test::notAtLeast, 1073741824.0, kToMega},
-    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+    {Level::kilo, Taken::notAtLeast, 1048576.0,    kToKilo},
+    {Level::mega, Taken::notAtLeast, 1073741824.0, kToMega},
+    {Level::giga, Taken::otherwise,  0.0,          kToGiga},
 };
 inline constexpr Rung kBinaryFromMegaRungs[] = {
-    {Level::mega, Test::notAtLeast, 1073741824.0, kToMega},
-    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+    {Level::mega, Taken::notAtLeast, 1073741824.0, kToMega},
+    {Level::giga, Taken::otherwise,  0.0,          kToGiga},
 };
 
 // Deliberate: an early upgrade moves the thresholds alone, the factors stay binary. 10^9 bytes show as 0.93 giga
 // (Bandwidth.AnEarlyUpgradeMovesTheThresholdsButNotTheFactors).
 inline constexpr Rung kEarlyRungs[] = {
-    {Level::kilo, Test::notAtLeast, 1000000.0,    kToKilo},
-    {Level::mega, Test::notAtLeast, 1000000000.0, kToMega},
-    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+    {Level::kilo, Taken::notAtLeast, 1000000.0,    kToKilo},
+    {Level::mega, Taken::notAtLeast, 1000000000.0, kToMega},
+    {Level::giga, Taken::otherwise,  0.0,          kToGiga},
 };
 inline constexpr Rung kEarlyFromMegaRungs[] = {
-    {Level::mega, Test::notAtLeast, 1000000000.0, kToMega},
-    {Level::giga, Test::otherwise,  0.0,          kToGiga},
+    {Level::mega, Taken::notAtLeast, 1000000000.0, kToMega},
+    {Level::giga, Taken::otherwise,  0.0,          kToGiga},
 };
 // clang-format on
 

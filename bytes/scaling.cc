@@ -4,7 +4,7 @@
 
 namespace kzm::bytes {
 
-Style wholeUnitStyle(const Dictionary& options, Form full) noexcept {
+UnitStyle wholeUnitStyle(const Dictionary& options, Form full) noexcept {
   if (core::readBoolean(options.find(core::kShort))) return {Form::brief, Spacing::tight};
   return {full, core::readSpacing(options)};
 }

@@ -14,16 +14,16 @@
 namespace kzm::bytes {
 
 /// How a unit is written.
-struct Style {
+struct UnitStyle {
   Form form;
   Spacing spacing;
 };
 
 /// Takes the rung for the value, which is in the ladder's unit, then the decimals rules under the key of the level
 /// reached, and the text by level and style.
-[[nodiscard, gnu::always_inline]] inline core::Reading scaled(const Ladder& ladder, const UnitIndex& index, Style style,
-                                                              core::Digits digits, const Dictionary& options,
-                                                              double value) {
+[[nodiscard, gnu::always_inline]] inline core::Reading scaled(const Ladder& ladder, const UnitIndex& index,
+                                                              UnitStyle style, core::Digits digits,
+                                                              const Dictionary& options, double value) {
   static constexpr Key kDecimalsKeys[kLevels] = {"decimals-kb", "decimals-mb", "decimals-gb", "decimals-tb",
                                                  "decimals-pb"};
   const Rung& rung = ladder.rungFor(value);
@@ -34,7 +34,7 @@ struct Style {
 }
 
 /// The style of the families with a boolean "short", which wins over "space": `full` is what they write else.
-[[nodiscard]] Style wholeUnitStyle(const Dictionary& options, Form full) noexcept;
+[[nodiscard]] UnitStyle wholeUnitStyle(const Dictionary& options, Form full) noexcept;
 
 }  // namespace kzm::bytes
 

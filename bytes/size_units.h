@@ -7,7 +7,7 @@
 namespace kzm::bytes {
 
 // clang-format off
-//   form         level           spacing                template  translator's hint
+//    form         level          spacing          template  translator's hint
 inline constexpr UnitText kSizeTexts[] = {
     {{Form::brief, Level::peta},  Spacing::tight,  "%@P",    "petabyte"},
     {{Form::brief, Level::tera},  Spacing::tight,  "%@T",    "terabyte"},

@@ -16,16 +16,16 @@ constinit std::mutex mutex;
 
 }  // namespace
 
-constinit std::atomic<bool> localeIsSettled{false};
+constinit std::atomic<bool> LocaleIsSettled::settled_{false};
 
 void settleLocaleNow() noexcept {
   const std::lock_guard lock(mutex);
-  localeIsSettled.store(true, std::memory_order_release);
+  LocaleIsSettled::settled_.store(true, std::memory_order_release);
 }
 
 void chooseLocale(std::string_view identifier) {
   const std::lock_guard lock(mutex);
-  if (localeIsSettled.load(std::memory_order_relaxed)) {
+  if (LocaleIsSettled::now()) {
     throw catalogue::InputError("the locale is chosen before the first text is made");
   }
   setCurrentLocale(identifier);

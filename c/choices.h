@@ -7,13 +7,22 @@
 
 namespace kzm::c {
 
-extern std::atomic<bool> localeIsSettled;
 void settleLocaleNow() noexcept;
+
+/// Whether the locale can no longer be chosen.
+class LocaleIsSettled {
+ public:
+  [[nodiscard]] static bool now() noexcept { return settled_.load(std::memory_order_acquire); }
+
+ private:
+  friend void settleLocaleNow() noexcept;
+  static constinit std::atomic<bool> settled_;
+};
 
 /// To be called before a text is made: from now on the locale is what it is. A later choice would reach some texts and
 /// not others, for formatters and texts that were made are kept.
 inline void settleLocale() noexcept {
-  if (!localeIsSettled.load(std::memory_order_acquire)) [[unlikely]]
+  if (!LocaleIsSettled::now()) [[unlikely]]
     settleLocaleNow();
 }
 

@@ -26,7 +26,7 @@ constexpr Callable row(std::string_view name, std::string_view parameters, std::
   return {name, parameters, documentation, adapt<F>, kKinds<F>, kResultKind<F>};
 }
 
-const Callable kCallables[] = {
+constexpr Callable kCallables[] = {
     row<KZMUtilitiesDecimalFormatterWithFractions>(
         "KZMUtilitiesDecimalFormatterWithFractions", "minimum maximum",
         "The shared number formatter with at least and at most the given numbers of fraction digits."),

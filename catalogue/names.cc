@@ -1,13 +1,14 @@
 #include "catalogue/names.h"
 
+#include "port/ascii.h"
+
 namespace kzm::catalogue {
 namespace {
 
-// Names are ASCII, and no locale has a say in them.
-bool isUpper(char c) { return c >= 'A' && c <= 'Z'; }
-bool isLower(char c) { return c >= 'a' && c <= 'z'; }
-char upper(char c) { return isLower(c) ? static_cast<char>(c - 'a' + 'A') : c; }
-char lower(char c) { return isUpper(c) ? static_cast<char>(c - 'A' + 'a') : c; }
+using port::isLower;
+using port::isUpper;
+using port::lower;
+using port::upper;
 
 // A capital begins a word after a small letter, and before one: "utcStart", "UVIndex".
 bool beginsWord(std::string_view name, std::size_t i) {

@@ -1,9 +1,10 @@
 #include "cli/input_lines.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <stdexcept>
 #include <unistd.h>
+
+#include "port/retried.h"
 
 namespace kzm::cli {
 namespace {
@@ -11,11 +12,9 @@ namespace {
 constexpr std::size_t kBlock = 65536;
 
 std::size_t readInto(char* room, std::size_t size) {
-  for (;;) {
-    const ssize_t count = ::read(STDIN_FILENO, room, size);
-    if (count >= 0) return static_cast<std::size_t>(count);
-    if (errno != EINTR) throw std::runtime_error("standard input could not be read");
-  }
+  const ssize_t count = port::retried([&] { return ::read(STDIN_FILENO, room, size); });
+  if (count < 0) throw std::runtime_error("standard input could not be read");
+  return static_cast<std::size_t>(count);
 }
 
 }  // namespace

@@ -8,8 +8,8 @@
 
 namespace kzm::cli {
 
-/// Who answers each line writes the answers whenever no further line is at hand: a block that is there at once is
-/// answered at once, and a line that somebody types is answered before the next one is waited for.
+/// A caller that answers each line should write its answers whenever no further line is at hand: a block that is there
+/// at once is answered at once, and a line that somebody types is answered before the next one is waited for.
 class InputLines {
  public:
   /// Whether next() gives a line without reading, which may have to wait.

@@ -4,11 +4,14 @@
 #include <string>
 #include <unicode/uloc.h>
 
+#include "port/ascii.h"
+
 namespace kzm::cli {
 namespace {
 
-bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool isAlphanumeric(char c) { return isLetter(c) || (c >= '0' && c <= '9'); }
+using port::isAlphanumeric;
+using port::isLetter;
+
 bool isSeparator(char c) { return c == '_' || c == '-'; }
 
 // A language of two or three letters, then parts of at most eight letters and digits; "ca__VALENCIA" has an empty one.

@@ -4,10 +4,12 @@
 #include <exception>
 #include <iostream>
 #include <poll.h>
+#include <string>
 #include <unistd.h>
 #include <vector>
 
 #include "cli/errors.h"
+#include "cli/output.h"
 #include "cli/process_options.h"
 #include "cli/verbs.h"
 
@@ -19,21 +21,16 @@ constexpr FlagText kOwnFlags[] = {
     {"--version", "", "the program's version"},
 };
 
-void printUsage(std::ostream& out) {
-  out << "usage: kzmutil [OPTION...] VERB [ARGUMENT...]\n\n";
-  for (const Verb& verb : verbs()) out << flagLine({verb.name, "", verb.does});
-  out << '\n';
-  for (const FlagText& flag : kOwnFlags) out << flagLine(flag);
-  out << flagsHelp({});
+std::string usage() {
+  std::string text = "usage: kzmutil [OPTION...] VERB [ARGUMENT...]\n\n";
+  for (const Verb& verb : verbs()) text += flagLine({verb.name, "", verb.does});
+  text += '\n';
+  for (const FlagText& flag : kOwnFlags) text += flagLine(flag);
+  return text + flagsHelp({});
 }
 
 int answerOwn(std::string_view word) {
-  if (word == "--version" || word == "-V") {
-    std::cout << "kzmutil " KZM_VERSION "\n";
-  } else {
-    printUsage(std::cout);
-  }
-  return std::cout.flush() ? 0 : 1;
+  return print(word == "--version" || word == "-V" ? "kzmutil " KZM_VERSION "\n" : usage());
 }
 
 bool isOwn(std::string_view word) {
@@ -44,7 +41,7 @@ int run(Words words) {
   while (!words.empty() && takeProcessOption(words)) {
   }
   if (words.empty()) {
-    printUsage(std::cerr);
+    std::cerr << usage();
     return 2;
   }
   if (isOwn(words.front())) return answerOwn(words.front());

@@ -10,6 +10,7 @@
 #include "cli/errors.h"
 
 namespace kzm::cli {
+
 double numberIn(std::string_view text) {
   if (const std::optional<double> named = catalogue::namedDouble(text)) return *named;
   double number = 0.0;

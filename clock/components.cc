@@ -29,23 +29,25 @@ std::optional<CalendarFields> read(TimePoint t) {
   return CalendarFields{wall, clock::dateOfDay(wall.day), instant->fraction, zone, port::weekRules()};
 }
 
-std::int64_t yearInEra(const CalendarFields& r) { return r.date.year > 0 ? r.date.year : 1 - r.date.year; }
-
-std::int64_t weekOfMonth(const CalendarFields& r) {
-  return clock::weekNumber(r.wall.day, r.wall.day - r.date.day + 1, r.rules);
+std::int64_t yearInEra(const CalendarFields& fields) {
+  return fields.date.year > 0 ? fields.date.year : 1 - fields.date.year;
 }
 
-int weekday(const CalendarFields& r) { return clock::weekdayOfDay(r.wall.day); }
+std::int64_t weekOfMonth(const CalendarFields& fields) {
+  return clock::weekNumber(fields.wall.day, fields.wall.day - fields.date.day + 1, fields.rules);
+}
 
-std::int64_t yearOfWeek(const CalendarFields& r) { return clock::yearOfWeek(r.wall.day, r.rules); }
+int weekday(const CalendarFields& fields) { return clock::weekdayOfDay(fields.wall.day); }
 
-std::int64_t weekOfYear(const CalendarFields& r) {
-  return clock::weekNumber(r.wall.day, clock::newYearsDay(yearOfWeek(r)), r.rules);
+std::int64_t yearOfWeek(const CalendarFields& fields) { return clock::yearOfWeek(fields.wall.day, fields.rules); }
+
+std::int64_t weekOfYear(const CalendarFields& fields) {
+  return clock::weekNumber(fields.wall.day, clock::newYearsDay(yearOfWeek(fields)), fields.rules);
 }
 
 // The fraction just below a whole second may round up to it.
-std::int64_t nanosecond(const CalendarFields& r) {
-  return std::min(static_cast<std::int64_t>(r.fraction * 1e9), std::int64_t{999'999'999});
+std::int64_t nanosecond(const CalendarFields& fields) {
+  return std::min(static_cast<std::int64_t>(fields.fraction * 1e9), std::int64_t{999'999'999});
 }
 
 using Fields = const CalendarFields&;
@@ -59,75 +61,75 @@ struct FieldRow {
 // In the order of the units' numbers.
 // clang-format off
 constexpr FieldRow kFields[] = {
-    {kCalendarUnitEra,               "era",               [](Fields r) -> Value { return r.date.year > 0 ? 1 : 0; }},
-    {kCalendarUnitYear,              "year",              [](Fields r) -> Value { return yearInEra(r); }},
-    {kCalendarUnitMonth,             "month",             [](Fields r) -> Value { return r.date.month; }},
-    {kCalendarUnitDay,               "day",               [](Fields r) -> Value { return r.date.day; }},
-    {kCalendarUnitHour,              "hour",              [](Fields r) -> Value { return r.wall.second / 3600; }},
-    {kCalendarUnitMinute,            "minute",            [](Fields r) -> Value { return r.wall.second / 60 % 60; }},
-    {kCalendarUnitSecond,            "second",            [](Fields r) -> Value { return r.wall.second % 60; }},
-    {kCalendarUnitWeek,              "week",              [](Fields r) -> Value { return weekOfYear(r); }},
-    {kCalendarUnitWeekday,           "weekday",           [](Fields r) -> Value { return weekday(r); }},
-    {kCalendarUnitWeekdayOrdinal,    "weekdayOrdinal",    [](Fields r) -> Value { return (r.date.day - 1) / 7 + 1; }},
-    {kCalendarUnitQuarter,           "quarter",           [](Fields r) -> Value { return (r.date.month - 1) / 3 + 1; }},
-    {kCalendarUnitWeekOfMonth,       "weekOfMonth",       [](Fields r) -> Value { return weekOfMonth(r); }},
-    {kCalendarUnitWeekOfYear,        "weekOfYear",        [](Fields r) -> Value { return weekOfYear(r); }},
-    {kCalendarUnitYearForWeekOfYear, "yearForWeekOfYear", [](Fields r) -> Value { return yearOfWeek(r); }},
-    {kCalendarUnitNanosecond,        "nanosecond",        [](Fields r) -> Value { return nanosecond(r); }},
+    {kCalendarUnitEra,               "era",               [](Fields f) -> Value { return f.date.year > 0 ? 1 : 0; }},
+    {kCalendarUnitYear,              "year",              [](Fields f) -> Value { return yearInEra(f); }},
+    {kCalendarUnitMonth,             "month",             [](Fields f) -> Value { return f.date.month; }},
+    {kCalendarUnitDay,               "day",               [](Fields f) -> Value { return f.date.day; }},
+    {kCalendarUnitHour,              "hour",              [](Fields f) -> Value { return f.wall.second / 3600; }},
+    {kCalendarUnitMinute,            "minute",            [](Fields f) -> Value { return f.wall.second / 60 % 60; }},
+    {kCalendarUnitSecond,            "second",            [](Fields f) -> Value { return f.wall.second % 60; }},
+    {kCalendarUnitWeek,              "week",              [](Fields f) -> Value { return weekOfYear(f); }},
+    {kCalendarUnitWeekday,           "weekday",           [](Fields f) -> Value { return weekday(f); }},
+    {kCalendarUnitWeekdayOrdinal,    "weekdayOrdinal",    [](Fields f) -> Value { return (f.date.day - 1) / 7 + 1; }},
+    {kCalendarUnitQuarter,           "quarter",           [](Fields f) -> Value { return (f.date.month - 1) / 3 + 1; }},
+    {kCalendarUnitWeekOfMonth,       "weekOfMonth",       [](Fields f) -> Value { return weekOfMonth(f); }},
+    {kCalendarUnitWeekOfYear,        "weekOfYear",        [](Fields f) -> Value { return weekOfYear(f); }},
+    {kCalendarUnitYearForWeekOfYear, "yearForWeekOfYear", [](Fields f) -> Value { return yearOfWeek(f); }},
+    {kCalendarUnitNanosecond,        "nanosecond",        [](Fields f) -> Value { return nanosecond(f); }},
     {kCalendarUnitCalendar,          "calendar",          [](Fields) -> Value { return "gregorian"; }},
-    {kCalendarUnitTimeZone,          "timeZone",          [](Fields r) -> Value { return r.zone.identifier(); }},
+    {kCalendarUnitTimeZone,          "timeZone",          [](Fields f) -> Value { return f.zone.identifier(); }},
 };
 // clang-format on
 
 // The fields of a reading that take part in building a time point; the others are as on 0001-01-01 00:00:00.
 class Selection {
  public:
-  Selection(const CalendarFields& reading, CalendarUnits units) : r_(reading), units_(units) {}
+  Selection(const CalendarFields& reading, CalendarUnits units) : fields_(reading), units_(units) {}
 
   [[nodiscard]] TimePoint timePoint() const {
     const clock::WallTime wall{day(), secondOfDay()};
     const auto occurrence = wall.second == 0 ? clock::Occurrence::dayStart : clock::Occurrence::first;
-    const double fraction = has(kCalendarUnitNanosecond) ? static_cast<double>(nanosecond(r_)) / 1e9 : 0.0;
-    return clock::timePointOf({clock::instantAt(wall, r_.zone, occurrence), fraction});
+    const double fraction = has(kCalendarUnitNanosecond) ? static_cast<double>(nanosecond(fields_)) / 1e9 : 0.0;
+    return clock::timePointOf({clock::instantAt(wall, fields_.zone, occurrence), fraction});
   }
 
  private:
   [[nodiscard]] bool has(CalendarUnits units) const { return (units_ & units) != 0; }
 
   [[nodiscard]] std::int64_t year() const {
-    const std::int64_t inEra = has(kCalendarUnitYear) ? yearInEra(r_) : 1;
-    return has(kCalendarUnitEra) && r_.date.year < 1 ? 1 - inEra : inEra;
+    const std::int64_t inEra = has(kCalendarUnitYear) ? yearInEra(fields_) : 1;
+    return has(kCalendarUnitEra) && fields_.date.year < 1 ? 1 - inEra : inEra;
   }
   [[nodiscard]] std::int64_t dayOfMonth(int day) const {
-    return clock::dayOfDate({year(), has(kCalendarUnitMonth) ? r_.date.month : 1, day});
+    return clock::dayOfDate({year(), has(kCalendarUnitMonth) ? fields_.date.month : 1, day});
   }
   [[nodiscard]] int weekday() const {
-    return has(kCalendarUnitWeekday) ? clock::weekdayOfDay(r_.wall.day) : r_.rules.firstWeekday;
+    return has(kCalendarUnitWeekday) ? clock::weekdayOfDay(fields_.wall.day) : fields_.rules.firstWeekday;
   }
   [[nodiscard]] std::int64_t dayOfWeek(std::int64_t firstDay, std::int64_t week) const {
-    return clock::dayInWeek(clock::firstWeekOf(firstDay, r_.rules) + 7 * (week - 1), weekday());
+    return clock::dayInWeek(clock::firstWeekOf(firstDay, fields_.rules) + 7 * (week - 1), weekday());
   }
 
   [[nodiscard]] std::int64_t day() const {
-    if (has(kCalendarUnitDay)) return dayOfMonth(r_.date.day);
+    if (has(kCalendarUnitDay)) return dayOfMonth(fields_.date.day);
     if (has(kCalendarUnitWeekOfYear | kCalendarUnitWeek)) {
       const bool hasWeekYear = has(kCalendarUnitYearForWeekOfYear);
-      const std::int64_t weekYear = hasWeekYear ? yearOfWeek(r_) : year();
-      return dayOfWeek(clock::newYearsDay(weekYear), weekOfYear(r_));
+      const std::int64_t weekYear = hasWeekYear ? yearOfWeek(fields_) : year();
+      return dayOfWeek(clock::newYearsDay(weekYear), weekOfYear(fields_));
     }
-    if (has(kCalendarUnitWeekOfMonth)) return dayOfWeek(dayOfMonth(1), weekOfMonth(r_));
+    if (has(kCalendarUnitWeekOfMonth)) return dayOfWeek(dayOfMonth(1), weekOfMonth(fields_));
     if (!has(kCalendarUnitWeekdayOrdinal | kCalendarUnitWeekday)) return dayOfMonth(1);
-    const std::int64_t weeksBefore = has(kCalendarUnitWeekdayOrdinal) ? (r_.date.day - 1) / 7 : 0;
+    const std::int64_t weeksBefore = has(kCalendarUnitWeekdayOrdinal) ? (fields_.date.day - 1) / 7 : 0;
     return clock::dayInWeek(dayOfMonth(1), weekday()) + 7 * weeksBefore;
   }
 
   [[nodiscard]] std::int64_t secondOfDay() const {
-    const std::int64_t second = r_.wall.second;
+    const std::int64_t second = fields_.wall.second;
     return (has(kCalendarUnitHour) ? second / 3600 * 3600 : 0) +
            (has(kCalendarUnitMinute) ? second / 60 % 60 * 60 : 0) + (has(kCalendarUnitSecond) ? second % 60 : 0);
   }
 
-  const CalendarFields& r_;
+  const CalendarFields& fields_;
   CalendarUnits units_;
 };
 

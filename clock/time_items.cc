@@ -22,7 +22,7 @@ struct TimeItemRow {
 // Deliberate: the minute group, too, names its two sub-groups after the seconds; hosts look for these names
 // (TimeItems.AreTheWholeCatalogueInOrder).
 // clang-format off
-//   group         marker       token                           label                force
+//   group         marker       token                           label                 force
 constexpr TimeItemRow kRows[] = {
     {"hour",       "",          "",                             "",                   false},
     {"",           "hour-12",   "",                             "",                   false},

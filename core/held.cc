@@ -19,7 +19,7 @@ std::shared_ptr<const Dictionary> cachedTexts(const UnitTable& table) {
 }  // namespace
 
 NumberStyle HeldStyles::fetch(DigitRule rule, std::int64_t digits) {
-  const std::uint64_t epoch = cacheEpoch();
+  const std::uint64_t epoch = CacheChanges::count();
   const NumberStyle style =
       styleOf(rule == DigitRule::exactly ? *KZMUtilitiesDecimalFormatterWithFractions(digits, digits)
                                          : *KZMUtilitiesDecimalFormatterWithMaximum(digits));
@@ -32,7 +32,7 @@ NumberStyle HeldStyles::fetch(DigitRule rule, std::int64_t digits) {
 // Looking texts up may lead through a host's own library and back here, and the cache may change in the meantime: what
 // was made is kept under the count that it was made for.
 void HeldTexts::fetch(const UnitTable& table) {
-  const std::uint64_t epoch = cacheEpoch();
+  const std::uint64_t epoch = CacheChanges::count();
   std::shared_ptr<const Dictionary> texts = cachedTexts(table);
   std::vector<Template> templates(table.rows.size());
   for (std::size_t row = 0; row < templates.size(); ++row) {

@@ -2,7 +2,7 @@
 //
 // A thread keeps the unit texts and number styles that it used, and fetches them anew when a host has changed the
 // cache: an entry that a host puts there is honored by the very next call. What is given out is good until the same
-// thread asks for the same table again, which nobody needs to know but core/rendering: it asks and uses in one step.
+// thread asks for the same table again, and only core/rendering relies on that: it asks and uses in one step.
 #ifndef KZM_CORE_HELD_H
 #define KZM_CORE_HELD_H
 
@@ -30,7 +30,7 @@ class HeldStyles {
  public:
   /// The style of the shared formatter for the given number of fraction digits.
   [[nodiscard]] NumberStyle style(DigitRule rule, std::int64_t digits) {
-    if (epoch_ == cacheEpoch() && digits >= 0 && digits < kDigits) [[likely]] {
+    if (epoch_ == CacheChanges::count() && digits >= 0 && digits < kDigits) [[likely]] {
       const NumberStyle& style = styles_[static_cast<std::size_t>(rule)][static_cast<std::size_t>(digits)];
       if (style.symbols != nullptr) [[likely]]
         return style;
@@ -53,7 +53,7 @@ class HeldTexts {
  public:
   /// The text of the row; not there when the table in the cache lacks it.
   [[nodiscard]] const Template& row(const UnitTable& table, std::size_t row) {
-    if (epoch_ != cacheEpoch()) [[unlikely]]
+    if (epoch_ != CacheChanges::count()) [[unlikely]]
       fetch(table);
     return templates_[row];
   }

@@ -45,9 +45,9 @@ void ShortNumber::putLocalDigits(const NumberSymbols& symbols, std::uint32_t dig
   for (; left > 0; --left) putDigit();
 }
 
+// A computed NaN often has a sign, which means nothing.
 LongNumber::LongNumber(NumberStyle style, double value) noexcept
     : symbols_(*style.symbols), isNegative_(std::signbit(value) && !std::isnan(value)) {
-  // A computed NaN often has a sign, which means nothing.
   if (std::isfinite(value)) {
     fractionDigits_ = style.most;
     if (style.showsEveryDigit) {

@@ -10,7 +10,7 @@
 namespace kzm::core {
 namespace {
 
-std::string_view withoutLeadingBlanks(std::string_view text) {
+std::string_view withoutLeadingSpaces(std::string_view text) {
   const std::size_t start = text.find_first_not_of(" \t\n\v\f\r");
   return start == std::string_view::npos ? std::string_view() : text.substr(start);
 }
@@ -49,7 +49,7 @@ std::int64_t integerFromDouble(double number) noexcept {
 
 std::int64_t integerFromText(std::string_view text) noexcept {
   using Limits = std::numeric_limits<std::int64_t>;
-  text = withoutLeadingBlanks(text);
+  text = withoutLeadingSpaces(text);
   const bool minus = takeSign(text);
   std::uint64_t magnitude = 0;
   const auto limit = static_cast<std::uint64_t>(Limits::max()) + (minus ? 1 : 0);
@@ -60,7 +60,7 @@ std::int64_t integerFromText(std::string_view text) noexcept {
 }
 
 double doubleFromText(std::string_view text) noexcept {
-  text = withoutLeadingBlanks(text);
+  text = withoutLeadingSpaces(text);
   const bool minus = takeSign(text);
   const std::size_t integerDigits = countDigits(text);
   std::size_t length = integerDigits;
@@ -86,7 +86,7 @@ double doubleFromText(std::string_view text) noexcept {
 }
 
 bool booleanFromText(std::string_view text) noexcept {
-  text = withoutLeadingBlanks(text);
+  text = withoutLeadingSpaces(text);
   return !text.empty() && std::string_view("YyTt123456789").find(text.front()) != std::string_view::npos;
 }
 

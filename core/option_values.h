@@ -22,7 +22,7 @@ namespace kzm::core {
 /// Truncated toward zero, saturated at the 64-bit limits; NaN is 0.
 [[nodiscard]] std::int64_t integerFromDouble(double number) noexcept;
 
-/// Each reading takes null (an absent key) and every kind of Value; what has no number reads as zero.
+/// Each of these takes null (an absent key) and every kind of Value; what has no number reads as zero.
 [[nodiscard]] inline std::int64_t readInteger(const Value* value) noexcept {
   if (value == nullptr) return 0;
   if (const std::int64_t* integer = value->integer()) return *integer;

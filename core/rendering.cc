@@ -3,6 +3,7 @@
 #include "core/option_values.h"
 
 namespace kzm::core {
+
 AttributedString attributedText(const Template& unit, const Amount& amount, const Dictionary& options) {
   if (!unit.isThere()) return {};
   return unit.composed(styleOf(amount), amount.value, readAttributes(options, kAttributesMain),

@@ -6,13 +6,7 @@
 
 namespace kzm {
 
-constinit std::atomic<std::uint64_t> core::cacheChanges{1};
-
-namespace {
-
-void countHostChange() noexcept { core::cacheChanges.fetch_add(1, std::memory_order_acq_rel); }
-
-}  // namespace
+constinit std::atomic<std::uint64_t> core::CacheChanges::count_{1};
 
 Cache::Cache() = default;
 Cache::~Cache() = default;
@@ -32,7 +26,7 @@ void Cache::set(std::string_view key, Value value) {
       entries_.set(key, std::move(value));
     }
   }
-  countHostChange();
+  core::CacheChanges::countOne();
 }
 
 std::size_t Cache::size() const {
@@ -57,7 +51,7 @@ Value Cache::findOrMake(std::string_view key, const std::function<bool(const Val
     replaces = present != nullptr && !made.isNull();
     if (!made.isNull()) entries_.set(key, made);
   }
-  if (replaces) countHostChange();  // what threads hold of the former entry is good no more
+  if (replaces) core::CacheChanges::countOne();  // what threads hold of the former entry is stale
   return made;
 }
 
@@ -90,5 +84,5 @@ void KZMUtilities::setCache(std::shared_ptr<kzm::Cache> cache) {
     const std::lock_guard lock(mutex_);
     std::swap(cache_, cache);  // the former one ends its life outside the lock
   }
-  kzm::countHostChange();
+  kzm::core::CacheChanges::countOne();
 }

@@ -13,8 +13,17 @@
 namespace kzm::core {
 
 /// Counts the changes that hosts make to caches. What a thread holds on to from the cache is good for one count.
-extern constinit std::atomic<std::uint64_t> cacheChanges;
-[[nodiscard]] inline std::uint64_t cacheEpoch() noexcept { return cacheChanges.load(std::memory_order_acquire); }
+class CacheChanges {
+ public:
+  [[nodiscard]] static std::uint64_t count() noexcept { return count_.load(std::memory_order_acquire); }
+
+ private:
+  friend class kzm::Cache;
+  friend class ::KZMUtilities;
+  static void countOne() noexcept { count_.fetch_add(1, std::memory_order_acq_rel); }
+
+  static constinit std::atomic<std::uint64_t> count_;
+};
 
 /// The object of class T in the shared cache; made, stored and given when there is none of that class.
 template <class T>

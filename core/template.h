@@ -68,6 +68,9 @@ constexpr Template::Template(std::string_view text) noexcept : text_(text), befo
   }
 }
 
+/// Percent in one sign that no language changes.
+inline constexpr Template kPercent("%@%%");
+
 }  // namespace kzm::core
 
 #endif

@@ -116,10 +116,10 @@ const StringTable* tableOf(const icu::Locale& language, const std::vector<const 
   for (const StringTable* table : tables) {
     if (!table->language.starts_with(wanted.getLanguage())) continue;
     const icu::Locale offered = port::inFull(localeOf(table->language));
-    const auto isSame = [&](const char* (icu::Locale::*part)() const) {
+    const auto agree = [&](const char* (icu::Locale::*part)() const) {
       return std::string_view((wanted.*part)()) == (offered.*part)();
     };
-    if (isSame(&icu::Locale::getLanguage) && isSame(&icu::Locale::getScript) && isSame(&icu::Locale::getCountry))
+    if (agree(&icu::Locale::getLanguage) && agree(&icu::Locale::getScript) && agree(&icu::Locale::getCountry))
       return table;
   }
   return nullptr;

@@ -10,7 +10,7 @@
 namespace kzm::machine {
 namespace {
 
-// "temp" and "_input" are around the number of the sensor; the unit of the file is "scale" units of the reading.
+// The prefix and the suffix are around the number of the sensor; the unit of the file is "scale" units of the reading.
 struct SensorRow {
   std::string_view prefix;
   std::string_view suffix;
@@ -19,15 +19,18 @@ struct SensorRow {
   std::string_view label;  // where the chip gives none
 };
 
+// clang-format off
+//   prefix   suffix      kind               scale  label
 constexpr SensorRow kRows[] = {
-    {"temp", "_input", Kind::temperature, 1e-3, "Temperature"},
-    {"fan", "_input", Kind::fan, 1, "Fan"},
-    {"in", "_input", Kind::voltage, 1e-3, "Voltage"},
-    {"curr", "_input", Kind::current, 1e-3, "Current"},
-    {"power", "_input", Kind::power, 1e-6, "Power"},
-    {"power", "_average", Kind::power, 1e-6, "Power"},
-    {"freq", "_input", Kind::frequency, 1e-6, "Frequency"},
+    {"temp",  "_input",   Kind::temperature, 1e-3,  "Temperature"},
+    {"fan",   "_input",   Kind::fan,         1,     "Fan"},
+    {"in",    "_input",   Kind::voltage,     1e-3,  "Voltage"},
+    {"curr",  "_input",   Kind::current,     1e-3,  "Current"},
+    {"power", "_input",   Kind::power,       1e-6,  "Power"},
+    {"power", "_average", Kind::power,       1e-6,  "Power"},
+    {"freq",  "_input",   Kind::frequency,   1e-6,  "Frequency"},
 };
+// clang-format on
 
 // The number of a sensor in its file's name; empty when the name is another row's.
 std::string_view numberOf(std::string_view file, const SensorRow& row) {

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "port/ascii.h"
+
 namespace kzm::machine {
 namespace {
 
@@ -26,17 +28,15 @@ bool isDisk(std::string_view name) {
                       [name](std::string_view prefix) { return name.starts_with(prefix); });
 }
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
 // "sda1" of "sda", "nvme0n1p1" of "nvme0n1".
 bool isPartitionOf(std::string_view name, std::string_view disk) {
   if (disk.empty() || !name.starts_with(disk)) return false;
   std::string_view number = name.substr(disk.size());
-  if (isDigit(disk.back())) {
+  if (port::isDigit(disk.back())) {
     if (!number.starts_with('p')) return false;
     number.remove_prefix(1);
   }
-  return !number.empty() && std::all_of(number.begin(), number.end(), isDigit);
+  return !number.empty() && std::all_of(number.begin(), number.end(), port::isDigit);
 }
 
 std::optional<std::uint64_t> bytesIn(std::string_view sectors) {

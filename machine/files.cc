@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -19,18 +18,15 @@
 #include <unistd.h>
 #include <vector>
 
+#include "port/descriptor.h"
+#include "port/retried.h"
+
 namespace kzm::machine {
 namespace {
 
 constexpr std::size_t kMostBytes = std::size_t{4} << 20U;
 constexpr std::size_t kMostNames = 4096;
-constexpr std::string_view kBlanks = " \t\r\n";
-
-std::string_view trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
+constexpr std::string_view kSpaces = " \t\r\n";
 
 bool isRegular(int descriptor) {
   struct stat status {};
@@ -42,8 +38,7 @@ std::string readAll(int descriptor) {
   std::string text;
   std::array<char, 4096> part{};
   while (text.size() < kMostBytes) {
-    const ssize_t count = read(descriptor, part.data(), part.size());
-    if (count < 0 && errno == EINTR) continue;
+    const ssize_t count = port::retried([&] { return read(descriptor, part.data(), part.size()); });
     if (count < 0) return {};
     if (count == 0) break;
     text.append(part.data(), static_cast<std::size_t>(count));
@@ -54,14 +49,9 @@ std::string readAll(int descriptor) {
 }  // namespace
 
 std::string readText(const std::string& path) {
-  int descriptor = -1;
-  do {
-    descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-  } while (descriptor < 0 && errno == EINTR);
-  if (descriptor < 0) return {};
-  std::string text = isRegular(descriptor) ? readAll(descriptor) : std::string();
-  close(descriptor);
-  return text;
+  const port::Descriptor file(
+      port::retried([&] { return open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
+  return file.isOpen() && isRegular(file.number()) ? readAll(file.number()) : std::string();
 }
 
 std::string readLabel(const std::string& path) {
@@ -95,10 +85,16 @@ std::vector<std::string_view> linesOf(std::string_view text) {
   return lines;
 }
 
+std::string_view trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kSpaces);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kSpaces) + 1 - first);
+}
+
 std::vector<std::string_view> fieldsOf(std::string_view line) {
   std::vector<std::string_view> fields;
   for (std::string_view rest = trimmed(line); !rest.empty(); rest = trimmed(rest)) {
-    const std::size_t end = std::min(rest.find_first_of(kBlanks), rest.size());
+    const std::size_t end = std::min(rest.find_first_of(kSpaces), rest.size());
     fields.push_back(rest.substr(0, end));
     rest.remove_prefix(end);
   }

@@ -37,6 +37,9 @@ class Root {
 /// The lines of the text without their ends.
 [[nodiscard]] std::vector<std::string_view> linesOf(std::string_view text);
 
+/// The text without spaces and line ends around it.
+[[nodiscard]] std::string_view trimmed(std::string_view text);
+
 /// The parts of the line between spaces.
 [[nodiscard]] std::vector<std::string_view> fieldsOf(std::string_view line);
 

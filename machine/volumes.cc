@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -12,6 +11,8 @@
 #include <sys/statvfs.h>
 #include <utility>
 #include <vector>
+
+#include "port/retried.h"
 
 namespace kzm::machine {
 namespace {
@@ -87,9 +88,7 @@ std::optional<Space> measuredSpace(const std::string& directory) {
   struct stat status {};
   if (stat(directory.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) return std::nullopt;
   struct statvfs room {};
-  while (statvfs(directory.c_str(), &room) != 0) {
-    if (errno != EINTR) return std::nullopt;
-  }
+  if (port::retried([&] { return statvfs(directory.c_str(), &room); }) != 0) return std::nullopt;
   const std::uint64_t block = room.f_frsize;
   if (room.f_bfree > room.f_blocks) return std::nullopt;
   return Space{room.f_blocks * block, (room.f_blocks - room.f_bfree) * block, room.f_bavail * block};

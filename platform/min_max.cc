@@ -1,4 +1,4 @@
-// Maximum and minimum of doubles that pass over NaN and the infinities, and the two classes without content.
+// Maximum and minimum of doubles that pass over NaN and the infinities.
 #include <cmath>
 
 #include <KZMUtilities/guards.h>
@@ -26,6 +26,3 @@ double KZMMINDouble(double a, double b) {
   if (!bothFinite(a, b)) return onlyFinite(a, b);
   return a < b ? a : b;
 }
-
-KZMMath::KZMMath() noexcept = default;
-KZMUtilitiesBatteryIcons::KZMUtilitiesBatteryIcons() noexcept = default;

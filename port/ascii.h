@@ -5,8 +5,12 @@
 namespace kzm::port {
 
 [[nodiscard]] constexpr bool isDigit(char c) noexcept { return c >= '0' && c <= '9'; }
-[[nodiscard]] constexpr bool isLetter(char c) noexcept { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+[[nodiscard]] constexpr bool isLower(char c) noexcept { return c >= 'a' && c <= 'z'; }
+[[nodiscard]] constexpr bool isUpper(char c) noexcept { return c >= 'A' && c <= 'Z'; }
+[[nodiscard]] constexpr bool isLetter(char c) noexcept { return isLower(c) || isUpper(c); }
 [[nodiscard]] constexpr bool isAlphanumeric(char c) noexcept { return isLetter(c) || isDigit(c); }
+[[nodiscard]] constexpr char upper(char c) noexcept { return isLower(c) ? static_cast<char>(c - 'a' + 'A') : c; }
+[[nodiscard]] constexpr char lower(char c) noexcept { return isUpper(c) ? static_cast<char>(c - 'A' + 'a') : c; }
 
 }  // namespace kzm::port
 

@@ -2,13 +2,18 @@
 #ifndef KZM_PORT_CANONICAL_LOCALE_H
 #define KZM_PORT_CANONICAL_LOCALE_H
 
+#include <cstddef>
 #include <new>
 #include <string>
 #include <unicode/locid.h>
+#include <unicode/uloc.h>
 
 #include "port/memory_watch.h"
 
 namespace kzm::port {
+
+/// What ICU keeps of a whole identifier.
+inline constexpr std::size_t kLongestIdentifier = ULOC_FULLNAME_CAPACITY - 1;
 
 /// The canonical locale of that name, bogus when there is none. Once memory ran out while ICU read its tables of names,
 /// only names that it knows by heart give a locale: then this throws std::bad_alloc, so that nobody takes it for a name

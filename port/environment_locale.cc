@@ -1,7 +1,6 @@
 #include "port/environment_locale.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <unicode/localebuilder.h>
@@ -32,7 +31,6 @@ constexpr Modifier kModifiers[] = {
 };
 // clang-format on
 
-constexpr std::size_t kMaximumLength = ULOC_FULLNAME_CAPACITY - 1;
 constexpr std::size_t kMaximumSubtag = 8;
 
 constexpr bool isSeparator(char c) { return c == '_' || c == '-'; }
@@ -146,7 +144,7 @@ void append(std::vector<std::string>& identifiers, std::string_view name) {
 }
 
 std::string identifierOf(std::string_view name) {
-  if (isPlain(name) || name.size() > kMaximumLength) return {};
+  if (isPlain(name) || name.size() > kLongestIdentifier) return {};
   const std::size_t at = name.find('@');
   const std::string head(name.substr(0, std::min(name.find('.'), at)));
   if (!isWellFormed(head)) return {};
@@ -165,10 +163,6 @@ std::string usableOf(std::string_view name) {
 }
 
 }  // namespace
-
-const char* processEnvironment(const char* name) {
-  return std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing in the library ever changes the environment
-}
 
 std::string localeIdentifier(std::string_view name) {
   const MemoryWatch memory;

@@ -4,23 +4,17 @@
 // empty counts as unset. Names are given in either of the two usual ways, as POSIX names ("de_CH.UTF-8",
 // "sr_RS@latin") or as ICU and BCP 47 identifiers ("zh_Hant_TW", "hi_IN@numbers=deva", "de-CH").
 //
-// Everything here is a pure function of its arguments and may be called from any thread; the default environment is
-// as safe as getenv is, that is, as long as no other thread changes the environment.
+// Everything here is a pure function of its arguments and may be called from any thread.
 #ifndef KZM_PORT_ENVIRONMENT_LOCALE_H
 #define KZM_PORT_ENVIRONMENT_LOCALE_H
 
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "port/environment.h"
+
 namespace kzm::port {
-
-/// Gives the value of an environment variable, or null when it is not set.
-using Environment = std::function<const char*(const char* name)>;
-
-/// The environment of this process.
-[[nodiscard]] const char* processEnvironment(const char* name);
 
 /// What the locale rules fall back to: English words and grouped numbers with metric units.
 inline constexpr std::string_view kFallbackLocale = "en_001";

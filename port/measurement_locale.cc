@@ -21,8 +21,6 @@ constexpr Meaning kSystems[] = {
     {"ussystem", "US" },
     {"uksystem", "GB" },
 };
-// clang-format on
-// clang-format off
 constexpr Meaning kTemperatures[] = {
     {"celsius",    "celsius"   },
     {"fahrenhe",   "fahrenheit"},
@@ -44,8 +42,6 @@ std::string_view meaningOf(const Meaning (&meanings)[N], std::string_view value)
   }
   return {};
 }
-
-constexpr char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 // The country of an "rg" value: two letters, and after them "zzzz" or the name of a part of the country.
 std::string overridingRegion(std::string_view value) {

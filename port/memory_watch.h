@@ -1,4 +1,4 @@
-// Tells whether memory ran out inside a library that is called.
+// Whether memory ran out inside a library that is called.
 #ifndef KZM_PORT_MEMORY_WATCH_H
 #define KZM_PORT_MEMORY_WATCH_H
 
@@ -8,7 +8,7 @@
 
 namespace kzm::port {
 
-/// Throws std::bad_alloc if ICU tells that memory ran out, now or in an earlier call that it remembers.
+/// Throws std::bad_alloc if ICU reports that memory ran out, now or in an earlier call that it remembers.
 inline void demandMemory(UErrorCode status) {
   if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
 }

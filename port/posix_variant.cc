@@ -3,21 +3,17 @@
 #include <algorithm>
 #include <string_view>
 #include <unicode/locid.h>
-#include <unicode/uloc.h>
 
+#include "port/ascii.h"
+#include "port/canonical_locale.h"
 #include "port/memory_watch.h"
 
 namespace kzm::port {
 namespace {
 
-constexpr std::size_t kLongestIdentifier = ULOC_FULLNAME_CAPACITY - 1;  // what ICU keeps of a whole identifier
-
 bool isWellFormed(std::string_view identifier) {
-  const auto isPart = [](char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '-';
-  };
-  const bool beginsWithALetter = !identifier.empty() && (identifier[0] | 0x20) >= 'a' && (identifier[0] | 0x20) <= 'z';
-  return beginsWithALetter && identifier.size() <= kLongestIdentifier &&
+  const auto isPart = [](char c) { return isAlphanumeric(c) || c == '_' || c == '-'; };
+  return !identifier.empty() && isLetter(identifier.front()) && identifier.size() <= kLongestIdentifier &&
          std::all_of(identifier.begin(), identifier.end(), isPart);
 }
 

@@ -10,11 +10,10 @@ namespace kzm::port {
 
 /// The text of capture group 1 in the first match of the pattern in the whole text, case-insensitively.
 ///
-/// text, pattern   UTF-8; each invalid sequence counts as one U+FFFD. Texts above kLongestText are not searched; nor
-/// are
-///                 those above kLongestTextForBackReference when the pattern refers back to a group. Patterns above
-///                 kAlwaysCompiled are not compiled when their sets would take more than a quarter of a second, and
-///                 those above kLongestPattern because some of that length take as long whatever they hold.
+/// text, pattern   UTF-8; each invalid sequence counts as one U+FFFD. Texts above kLongestText are not searched, nor
+///                 are those above kLongestTextForBackReference when the pattern refers back to a group. Patterns
+///                 above kAlwaysCompiled are not compiled when their sets would take more than a quarter of a second,
+///                 and those above kLongestPattern because some of that length take as long whatever they hold.
 /// Returns null when there is no match, when group 1 took no part in it or does not exist, when the pattern is
 /// invalid, and when the search is given up (see regex.cc). A failed allocation throws std::bad_alloc. May be called
 /// from any thread.

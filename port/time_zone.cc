@@ -18,6 +18,7 @@
 #include <string>
 #include <system_error>
 
+#include "port/ascii.h"
 #include "port/memory_watch.h"
 #include "port/never_destroyed.h"
 
@@ -56,10 +57,7 @@ bool isOtherFile(std::string_view identifier) {
 bool isWellFormed(std::string_view identifier) {
   constexpr std::size_t kLongestName = 64;  // The longest zone name has about half of that.
   static constexpr std::string_view kOther = "_+-/";
-  const auto isAllowed = [](char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-           kOther.find(c) != std::string_view::npos;
-  };
+  const auto isAllowed = [](char c) { return isAlphanumeric(c) || kOther.find(c) != std::string_view::npos; };
   return !identifier.empty() && identifier.size() <= kLongestName && identifier.front() != '/' &&
          identifier.find("//") == std::string_view::npos && !isOtherFile(identifier) &&
          std::all_of(identifier.begin(), identifier.end(), isAllowed);

@@ -44,17 +44,17 @@ Converted fan(const Dictionary& options, double rpm) {
 }
 
 // A quantity that is shown in thousandths of its unit when it is small.
-struct Scaled {
+struct Thousandths {
   Unit base;
   Unit milli;
   Key decimals;
 };
-constexpr Scaled kCurrent{Unit::amperes, Unit::milliamperes, "decimals-amperage"};
-constexpr Scaled kPower{Unit::watts, Unit::milliwatts, "decimals-power"};
-constexpr Scaled kVoltage{Unit::volts, Unit::millivolts, "decimals-voltage"};
+constexpr Thousandths kCurrent{Unit::amperes, Unit::milliamperes, "decimals-amperage"};
+constexpr Thousandths kPower{Unit::watts, Unit::milliwatts, "decimals-power"};
+constexpr Thousandths kVoltage{Unit::volts, Unit::millivolts, "decimals-voltage"};
 
-template <const Scaled& quantity>
-Converted scaled(const Dictionary& options, double value) {
+template <const Thousandths& quantity>
+Converted inThousandths(const Dictionary& options, double value) {
   Converted shown{quantity.base, value, value == 0.0 ? 0 : 1};
   if (value != 0.0 && std::abs(value) < 1.0) shown = {quantity.milli, value * 1000.0, 0};
   shown.decimals = core::readDecimals(options.find(quantity.decimals), shown.value, shown.decimals);
@@ -83,13 +83,14 @@ struct KindRow {
 };
 
 // clang-format off
+//   kind                     shown as
 constexpr KindRow kKinds[] = {
     {SensorType::temperature, temperature},
     {SensorType::percentage,  percentage},
     {SensorType::fan,         fan},
-    {SensorType::current,     scaled<kCurrent>},
-    {SensorType::power,       scaled<kPower>},
-    {SensorType::voltage,     scaled<kVoltage>},
+    {SensorType::current,     inThousandths<kCurrent>},
+    {SensorType::power,       inThousandths<kPower>},
+    {SensorType::voltage,     inThousandths<kVoltage>},
     {SensorType::light,       light},
     {SensorType::frequency,   frequency},
     {SensorType::multiplier,  plain<Unit::times>},

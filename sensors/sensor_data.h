@@ -16,7 +16,6 @@ namespace kzm::sensors {
 /// The row of a percentage: beyond the table.
 /// Deliberate: its text is not looked up (SensorData.ThePercentageIsNotLookedUp).
 inline constexpr std::size_t kPercentRow = std::size(kTexts);
-inline constexpr core::Template kPercent("%@%%");
 
 /// What a reading is shown as. Nothing for a kind that does not exist, and for a unit that a host's own table lacks.
 /// The family's texts are looked up before anything else is asked.

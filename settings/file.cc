@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <fcntl.h>
 #include <memory>
 #include <optional>
@@ -18,37 +17,19 @@
 #include <unistd.h>
 #include <utility>
 
+#include "port/clocks.h"
+#include "port/retried.h"
+
 namespace kzm::settings {
 namespace {
 
-constexpr std::int64_t kNanosecondsPerSecond = 1000000000;
-
-template <class Call>
-auto retried(Call call) {
-  auto result = call();
-  while (result == -1 && errno == EINTR) result = call();
-  return result;
-}
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) noexcept : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) close(number_);
-  }
-  [[nodiscard]] int number() const noexcept { return number_; }
-  [[nodiscard]] bool isOpen() const noexcept { return number_ >= 0; }
-
- private:
-  int number_;
-};
-
-std::int64_t nanoseconds(const timespec& time) { return time.tv_sec * kNanosecondsPerSecond + time.tv_nsec; }
+using port::Descriptor;
+using port::nanosecondsOf;
+using port::retried;
 
 Identity identityFrom(const struct stat& status) {
-  return {0, status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
+  return {
+      0, status.st_dev, status.st_ino, status.st_size, nanosecondsOf(status.st_mtim), nanosecondsOf(status.st_ctim)};
 }
 
 bool isAbsent(int error) { return error == ENOENT || error == ENOTDIR; }
@@ -148,9 +129,8 @@ Identity identityOf(const std::string& path) {
 }
 
 bool isFresh(const Identity& identity) {
-  timespec now{};
-  clock_gettime(CLOCK_REALTIME, &now);
-  return identity != Identity{} && nanoseconds(now) - identity.changed < 2 * kNanosecondsPerSecond;
+  constexpr std::int64_t kTwoSeconds = 2'000'000'000;
+  return identity != Identity{} && port::nanosecondsSince1970() - identity.changed < kTwoSeconds;
 }
 
 Content read(const std::string& path) {
@@ -187,28 +167,25 @@ Replaced replace(const std::string& path, std::string_view text) {
 Lock::Lock(const std::string& path) {
   makeDirectories(parentOf(path));
   const std::string name = targetOf(path) + ".lock";
-  descriptor_ =
-      retried([&] { return open(name.c_str(), O_RDWR | O_CREAT | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR); });
+  descriptor_ = Descriptor(
+      retried([&] { return open(name.c_str(), O_RDWR | O_CREAT | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR); }));
   if (!held()) {
     fault_ = name + ": " + errorText(errno);
     return;
   }
+  const int descriptor = descriptor_.number();
   struct stat status {};
-  if (fstat(descriptor_, &status) == 0 && status.st_uid == 0) giveToOwnerOfParent(name, descriptor_);
+  if (fstat(descriptor, &status) == 0 && status.st_uid == 0) giveToOwnerOfParent(name, descriptor);
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(2);
-  while (flock(descriptor_, LOCK_EX | LOCK_NB) != 0) {
+  while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
     const bool waits = (errno == EWOULDBLOCK || errno == EINTR) && std::chrono::steady_clock::now() < end;
     if (!waits) {
       fault_ = name + ": " + (errno == EWOULDBLOCK ? "another process keeps it locked" : errorText(errno));
-      close(std::exchange(descriptor_, -1));
+      descriptor_.close();
       return;
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
-}
-
-Lock::~Lock() {
-  if (held()) close(descriptor_);
 }
 
 }  // namespace kzm::settings

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <sys/types.h>
 
+#include "port/descriptor.h"
+
 namespace kzm::settings {
 
 /// Larger files are not read, and none is written.
@@ -63,15 +65,15 @@ class Lock {
   explicit Lock(const std::string& path);
   Lock(const Lock&) = delete;
   Lock& operator=(const Lock&) = delete;
-  ~Lock();
+  ~Lock() = default;
 
-  [[nodiscard]] bool held() const noexcept { return descriptor_ >= 0; }
+  [[nodiscard]] bool held() const noexcept { return descriptor_.isOpen(); }
   /// Why it is not held.
   [[nodiscard]] const std::string& fault() const noexcept { return fault_; }
 
  private:
   std::string fault_;
-  int descriptor_ = -1;
+  port::Descriptor descriptor_;
 };
 
 }  // namespace kzm::settings

@@ -179,7 +179,7 @@ Dictionary settingsIn(const Members& members) {
   return settings;
 }
 
-// The file's own object is level one, and the member lies in it.
+// The file's own object is level one, and the member is in it.
 std::optional<Member> memberFor(const Value& value) {
   JsonText text(1);
   if (!write(value, 2, text)) return std::nullopt;

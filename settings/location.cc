@@ -1,11 +1,12 @@
 #include "settings/location.h"
 
-#include <cstdlib>
 #include <pwd.h>
 #include <string>
 #include <string_view>
 #include <unistd.h>
 #include <vector>
+
+#include "port/environment.h"
 
 namespace kzm::settings {
 namespace {
@@ -13,8 +14,7 @@ namespace {
 bool isAbsolute(std::string_view path) { return path.starts_with('/'); }
 
 std::string_view variable(const char* name) {
-  // The environment is read once, when the settings are first asked for.
-  const char* const text = std::getenv(name);  // NOLINT(concurrency-mt-unsafe)
+  const char* const text = port::processEnvironment(name);
   return text != nullptr ? text : "";
 }
 

@@ -3,7 +3,6 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <ctime>
 #include <functional>
 #include <limits>
 #include <memory>
@@ -14,8 +13,9 @@
 #include <unordered_map>
 #include <utility>
 
-#include "port/linux/standard_error.h"
+#include "port/clocks.h"
 #include "port/per_thread.h"
+#include "port/standard_error.h"
 
 namespace kzm::settings {
 
@@ -43,12 +43,6 @@ std::uint64_t nextVersion() {
   return last.fetch_add(1, std::memory_order_relaxed) + 1;
 }
 
-std::int64_t millisecondsNow() {
-  timespec now{};
-  clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
-  return now.tv_sec * 1000 + now.tv_nsec / 1000000;
-}
-
 }  // namespace
 
 Store::Store(std::string path, std::int64_t lookEvery) : lookEvery_(lookEvery), path_(std::move(path)) {}
@@ -67,7 +61,7 @@ const Snapshot& Store::current() {
   if (version_.load(std::memory_order_acquire) == 0) loadFirst();
   const std::int64_t due = nextLook_.load(std::memory_order_relaxed);
   if (due != kNever) {
-    if (const std::int64_t now = millisecondsNow(); now >= due) lookAtFile(now, due);
+    if (const std::int64_t now = port::coarseMilliseconds(); now >= due) lookAtFile(now, due);
   }
   LastRead& last = port::perThread<LastRead>();
   if (last.version != version_.load(std::memory_order_acquire)) {
@@ -81,7 +75,7 @@ const Snapshot& Store::current() {
 void Store::loadFirst() {
   const std::lock_guard lock(changing_);
   if (version_.load(std::memory_order_relaxed) != 0) return;
-  nextLook_.store(millisecondsNow() + lookEvery_, std::memory_order_relaxed);
+  nextLook_.store(port::coarseMilliseconds() + lookEvery_, std::memory_order_relaxed);
   reload();
 }
 
@@ -96,7 +90,7 @@ void Store::lookAtFile(std::int64_t now, std::int64_t due) {
 // What was seen is noted last: if memory runs out on the way, the file is read again at the next look.
 void Store::reload() {
   const File file = readFile();
-  complain(file);
+  complainOnce(file);
   publish(settingsIn(file.parsed.members));
   seen_ = file.identity;
 }
@@ -109,16 +103,16 @@ Store::File Store::readFile() const {
 }
 
 // Once for each fault and content, however often that is read.
-void Store::complain(const File& file) {
+void Store::complainOnce(const File& file) {
   const std::string& fault = file.parsed.fault;
   const std::size_t complaint = fault.empty() ? 0 : std::hash<std::string>{}(fault) ^ file.hash;
-  if (complaint != 0 && complaint != lastComplaint_) tell("is not used", fault);
+  if (complaint != 0 && complaint != lastComplaint_) complain("is not used", fault);
   lastComplaint_ = complaint;
 }
 
-void Store::tell(std::string_view what, std::string_view fault) const {
+void Store::complain(std::string_view what, std::string_view fault) const {
   std::string line = "KZMSettings: " + path_;
-  port::tellStandardError(line.append(" ").append(what).append(": ").append(fault).append("\n"));
+  port::writeToStandardError(line.append(" ").append(what).append(": ").append(fault).append("\n"));
 }
 
 bool Store::set(const Value& object, std::string_view keyPath) {
@@ -127,7 +121,7 @@ bool Store::set(const Value& object, std::string_view keyPath) {
   const std::lock_guard lock(changing_);
   if (inMemory_) return setInMemory(object, keyPath);
   const std::string fault = setInFile(*member, keyPath);
-  if (!fault.empty()) tell("is not changed", fault);
+  if (!fault.empty()) complain("is not changed", fault);
   return fault.empty();
 }
 

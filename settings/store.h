@@ -39,7 +39,7 @@ class Store {
   [[nodiscard]] Value find(std::string_view keyPath);
 
   /// Stores or, with null, removes a setting; false when that is refused or fails. Why the file could not be changed is
-  /// told in one line on standard error.
+  /// reported in one line on standard error.
   [[nodiscard]] bool set(const Value& object, std::string_view keyPath);
 
   /// All settings.
@@ -60,8 +60,8 @@ class Store {
   void lookAtFile(std::int64_t now, std::int64_t due);
   void reload();
   [[nodiscard]] File readFile() const;
-  void complain(const File& file);
-  void tell(std::string_view what, std::string_view fault) const;
+  void complainOnce(const File& file);
+  void complain(std::string_view what, std::string_view fault) const;
   bool setInMemory(const Value& object, std::string_view keyPath);
   std::string setInFile(const Member& member, std::string_view keyPath);
   std::string write(File& file, const Member& member, std::string_view keyPath);

@@ -1,5 +1,7 @@
 #include <KZMUtilities/conversions.h>
 
+#include "units/factors.h"
+
 namespace {
 
 constexpr double kFiveNinthsInSinglePrecision = 0x1.1c71c8p-1;
@@ -35,4 +37,6 @@ double mphToMps(double milesPerHour) noexcept { return milesPerHour * 0.44704; }
 double mpsToKnots(double metersPerSecond) noexcept { return metersPerSecond * 1.94384; }
 
 // Deliberate: a division here, too (Conversions.InchToMillibarDivides).
-double inchToMillibar(double inchesOfMercury) noexcept { return inchesOfMercury / 0.029529983071445; }
+double inchToMillibar(double inchesOfMercury) noexcept {
+  return inchesOfMercury / kzm::units::kInchesOfMercuryInAMillibar;
+}

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <iterator>
@@ -21,21 +22,11 @@ namespace kzm::units {
 namespace {
 
 using Unit = MeasurementUnit;
-using DefaultUnits = KZMUtilitiesDefaultUnits;
+using Defaults = KZMUtilitiesDefaultUnits;
 
 // The keys of the preferred units, by Quantity.
-constexpr std::string_view kKeys[kQuantities] = {"windspeed", "pressure", "temperature", "distance", "rain", "snow"};
-
-// What can be asked for; each has its row below.
-enum class Question : std::uint8_t {
-  windSpeed,
-  sensorsTemperature,
-  weatherTemperature,
-  distance,
-  pressure,
-  rain,
-  snow,
-};
+constexpr std::string_view kKeys[] = {"windspeed", "pressure", "temperature", "distance", "rain", "snow"};
+static_assert(std::size(kKeys) == kQuantities);
 
 // The units of each setting's codes, from 1 on.
 constexpr Unit kSpeeds[] = {Unit::metersPerSecond, Unit::kilometersPerHour, Unit::milesPerHour, Unit::knots};
@@ -45,39 +36,38 @@ constexpr Unit kRains[] = {Unit::millimeters, Unit::inches};
 constexpr Unit kSnows[] = {Unit::centimeters, Unit::inches};
 
 struct Choice {
-  Question question;
-  Quantity otherwise;  // what is asked of the region when the user chose none of the units
+  Quantity quantity;  // for which the region is asked when the user chose none of the units
+  UnitSetting setting;
 };
-
-// clang-format off
-//   question                      otherwise
-constexpr Choice kChoices[] = {
-    {Question::windSpeed,          Quantity::windSpeed},
-    {Question::sensorsTemperature, Quantity::temperature},
-    {Question::weatherTemperature, Quantity::temperature},
-    {Question::distance,           Quantity::distance},
-    {Question::pressure,           Quantity::pressure},
-    {Question::rain,               Quantity::rain},
-    {Question::snow,               Quantity::snow},
-};
-// clang-format on
-static_assert(core::areInOrder(kChoices, &Choice::question));
 
 // Deliberate: rain and snow share one setting. Its first code means millimeters for one, centimeters for the other
 // (DefaultUnits.RainAndSnowShareOneSetting).
 // clang-format off
-//   key path                              units          asked by
-constexpr UnitSetting kSettings[] = {
-    {"Weather.Global.Units.WindSpeed",     kSpeeds,       &DefaultUnits::windSpeedUnit},
-    {"Sensors.Global.Degrees.Format",      kTemperatures, &DefaultUnits::sensorsTemperatureUnit},
-    {"Weather.Global.Units.Degrees",       kTemperatures, &DefaultUnits::weatherTemperatureUnit},
-    {"Weather.Global.Units.Distance",      kDistances,    &DefaultUnits::distanceUnit},
-    {"Weather.Global.Units.Pressure",      kPressures,    &DefaultUnits::pressureUnit},
-    {"Weather.Global.Units.Precipitation", kRains,        &DefaultUnits::rainUnit},
-    {"Weather.Global.Units.Precipitation", kSnows,        &DefaultUnits::snowUnit},
+//   quantity                setting: key path                     units          asked by
+constexpr Choice kChoices[] = {
+    {Quantity::windSpeed,   {"Weather.Global.Units.WindSpeed",     kSpeeds,       &Defaults::windSpeedUnit}},
+    {Quantity::temperature, {"Sensors.Global.Degrees.Format",      kTemperatures, &Defaults::sensorsTemperatureUnit}},
+    {Quantity::temperature, {"Weather.Global.Units.Degrees",       kTemperatures, &Defaults::weatherTemperatureUnit}},
+    {Quantity::distance,    {"Weather.Global.Units.Distance",      kDistances,    &Defaults::distanceUnit}},
+    {Quantity::pressure,    {"Weather.Global.Units.Pressure",      kPressures,    &Defaults::pressureUnit}},
+    {Quantity::rain,        {"Weather.Global.Units.Precipitation", kRains,        &Defaults::rainUnit}},
+    {Quantity::snow,        {"Weather.Global.Units.Precipitation", kSnows,        &Defaults::snowUnit}},
 };
 // clang-format on
-static_assert(std::size(kSettings) == std::size(kChoices));
+
+using Accessor = decltype(UnitSetting::unit);
+
+// An accessor without a row does not build.
+consteval const Choice& choiceOf(Accessor accessor) {
+  return *std::ranges::find(kChoices, accessor, [](const Choice& choice) { return choice.setting.unit; });
+}
+
+// What hosts see of the rows.
+constexpr auto kSettings = [] {
+  std::array<UnitSetting, std::size(kChoices)> settings{};
+  std::ranges::transform(kChoices, settings.begin(), &Choice::setting);
+  return settings;
+}();
 
 PreferredUnits localePreferences() {
   const Preferences units = preferencesFrom(samplesIn(port::measurementLocaleOf(port::currentMeasurementLocale())));
@@ -90,17 +80,17 @@ PreferredUnits localePreferences() {
 }  // namespace kzm::units
 
 using kzm::MeasurementUnit;
-using kzm::units::Question;
 
 struct KZMUtilitiesDefaultUnits::State {
   // The user's unit if the setting names one, else the region's.
-  [[nodiscard]] MeasurementUnit answer(Question question) const {
-    const auto row = static_cast<std::size_t>(question);
-    const kzm::UnitSetting& setting = kzm::units::kSettings[row];
-    const kzm::Value chosen = KZMSettingsObjectForKeyPath(setting.keyPath);
+  template <kzm::units::Accessor accessor>
+  [[nodiscard]] MeasurementUnit answer() const {
+    constexpr const auto& kChoice = kzm::units::choiceOf(accessor);
+    const kzm::Value chosen = KZMSettingsObjectForKeyPath(kChoice.setting.keyPath);
     const std::int64_t code = kzm::core::readInteger(&chosen);
-    if (code >= 1 && code <= std::ssize(setting.units)) return setting.units[static_cast<std::size_t>(code) - 1];
-    return preferred[static_cast<std::size_t>(kzm::units::kChoices[row].otherwise)].load(std::memory_order_relaxed);
+    const auto& coded = kChoice.setting.units;
+    if (code >= 1 && code <= std::ssize(coded)) return coded[static_cast<std::size_t>(code) - 1];
+    return preferred[static_cast<std::size_t>(kChoice.quantity)].load(std::memory_order_relaxed);
   }
 
   std::mutex mutex;
@@ -118,17 +108,14 @@ KZMUtilitiesDefaultUnits::KZMUtilitiesDefaultUnits() : state_(std::make_unique<S
 }
 KZMUtilitiesDefaultUnits::~KZMUtilitiesDefaultUnits() = default;
 
-MeasurementUnit KZMUtilitiesDefaultUnits::windSpeedUnit() const { return state_->answer(Question::windSpeed); }
-MeasurementUnit KZMUtilitiesDefaultUnits::sensorsTemperatureUnit() const {
-  return state_->answer(Question::sensorsTemperature);
-}
-MeasurementUnit KZMUtilitiesDefaultUnits::weatherTemperatureUnit() const {
-  return state_->answer(Question::weatherTemperature);
-}
-MeasurementUnit KZMUtilitiesDefaultUnits::distanceUnit() const { return state_->answer(Question::distance); }
-MeasurementUnit KZMUtilitiesDefaultUnits::pressureUnit() const { return state_->answer(Question::pressure); }
-MeasurementUnit KZMUtilitiesDefaultUnits::rainUnit() const { return state_->answer(Question::rain); }
-MeasurementUnit KZMUtilitiesDefaultUnits::snowUnit() const { return state_->answer(Question::snow); }
+using kzm::units::Defaults;
+MeasurementUnit Defaults::windSpeedUnit() const { return state_->answer<&Defaults::windSpeedUnit>(); }
+MeasurementUnit Defaults::sensorsTemperatureUnit() const { return state_->answer<&Defaults::sensorsTemperatureUnit>(); }
+MeasurementUnit Defaults::weatherTemperatureUnit() const { return state_->answer<&Defaults::weatherTemperatureUnit>(); }
+MeasurementUnit Defaults::distanceUnit() const { return state_->answer<&Defaults::distanceUnit>(); }
+MeasurementUnit Defaults::pressureUnit() const { return state_->answer<&Defaults::pressureUnit>(); }
+MeasurementUnit Defaults::rainUnit() const { return state_->answer<&Defaults::rainUnit>(); }
+MeasurementUnit Defaults::snowUnit() const { return state_->answer<&Defaults::snowUnit>(); }
 
 kzm::PreferredUnits KZMUtilitiesDefaultUnits::units() const {
   const std::lock_guard lock(state_->mutex);

@@ -46,7 +46,7 @@ struct Rule {
 // a text in miles shows a locale that measures in the old units
 // (UnitsFromTexts.TheSecondRuleOfSnowLooksAtTheSampleOfRain, UnitsFromTexts.MilesInASampleOfRainOrSnowMeanInches).
 // clang-format off
-//   quantity               looks at the sample of  for the symbol of                decides for
+//   quantity               in the sample of       for the symbol of                 decides for
 constexpr Rule kRules[] = {
     {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::knots,           MeasurementUnit::knots},
     {Quantity::windSpeed,   Quantity::windSpeed,   MeasurementUnit::milesPerHour,    MeasurementUnit::milesPerHour},

@@ -12,13 +12,14 @@
 
 #include <KZMUtilities/default_units.h>
 
+#include "core/rows.h"
 #include "port/measurement_locale.h"
 
 namespace kzm::units {
 
 /// The kinds of quantity that have a preferred unit.
 enum class Quantity : std::uint8_t { windSpeed, pressure, temperature, distance, rain, snow };
-inline constexpr std::size_t kQuantities = 6;
+inline constexpr std::size_t kQuantities = core::countEnumerators<Quantity>();
 
 /// A text for each quantity.
 using Samples = std::array<std::string, kQuantities>;

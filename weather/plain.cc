@@ -12,9 +12,6 @@ namespace {
 
 constexpr std::int64_t kMostDigits = 2;  // of days and of the illuminated part
 
-// Deliberate: the sign of humidity is the same in every language (WeatherLookups.WhatHasNoUnitLooksNothingUp).
-constexpr core::Template kPercent("%@%%");
-
 std::string angle(const Dictionary& options, double degrees) {
   return text(Unit::degrees, angleAmount(options, degrees));
 }
@@ -33,8 +30,9 @@ core::Amount angleAmount(const Dictionary& options, double degrees) {
 
 std::string KZMUtilitiesFormatWeatherUV(double index) { return kzm::core::text(kzm::weather::plainAmount(index)); }
 
+// Deliberate: the sign of humidity is the same in every language (WeatherLookups.WhatHasNoUnitLooksNothingUp).
 std::string KZMUtilitiesFormatWeatherHumidity(double percent) {
-  return kzm::core::text(kzm::weather::kPercent, kzm::weather::plainAmount(percent));
+  return kzm::core::text(kzm::core::kPercent, kzm::weather::plainAmount(percent));
 }
 
 std::string KZMUtilitiesFormatWeatherAltitude(const kzm::Dictionary& options, double degrees) {

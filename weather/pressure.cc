@@ -4,6 +4,7 @@
 #include <KZMUtilities/weather.h>
 
 #include "core/option_values.h"
+#include "units/factors.h"
 #include "weather/amounts.h"
 #include "weather/weather_text.h"
 
@@ -11,7 +12,9 @@ namespace kzm::weather {
 namespace {
 
 // What the published conversions lack; inchToMillibar divides by the same factor.
-constexpr double hectopascalsToInches(double hectopascals) noexcept { return hectopascals * 0.029529983071445; }
+constexpr double hectopascalsToInches(double hectopascals) noexcept {
+  return hectopascals * units::kInchesOfMercuryInAMillibar;
+}
 
 enum class Showing : std::uint8_t {
   chosen,    // the options say whether the unit is shown, with or without a space, and one fraction digit or none

@@ -74,14 +74,14 @@ std::vector<Stretch> stretchesOf(const Family& family, const Dictionary& options
   Cutter cutter(family, options);
   if (!(values.lowest <= values.highest)) return {};  // NaN too
   double from = values.lowest;
-  const auto standAlone = [&](double value) {
+  const auto cutAlone = [&](double value) {
     if (value < from || value > values.highest) return;
     if (from < value) cutter.cut(from, nextBefore(value));
     cutter.stretches.push_back({value, value});
     from = nextAfter(value);
   };
-  standAlone(-kInfinity);
-  for (const double value : family.apart) standAlone(value);
+  cutAlone(-kInfinity);
+  for (const double value : family.apart) cutAlone(value);
   if (from < kInfinity) cutter.cut(from, std::min(values.highest, std::numeric_limits<double>::max()));
   if (values.highest == kInfinity) cutter.stretches.push_back({kInfinity, kInfinity});
   return cutter.stretches;

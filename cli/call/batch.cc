@@ -3,8 +3,8 @@
 #include <stdexcept>
 
 #include "catalogue/callables.h"
-#include "catalogue/errors.h"
 #include "catalogue/companions.h"
+#include "catalogue/errors.h"
 
 namespace kzm::cli {
 namespace {

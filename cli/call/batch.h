@@ -7,7 +7,7 @@
 
 namespace kzm::cli {
 
-/// The answer to the line, without the end of the line. What cannot be answered is told in it: nothing is thrown but
+/// The answer to the line, without the end of the line. What cannot be answered is said in it: nothing is thrown but
 /// std::bad_alloc.
 [[nodiscard]] std::string answerLine(std::string_view line);
 

@@ -9,6 +9,7 @@
 #include "catalogue/companions.h"
 #include "cli/call/batch.h"
 #include "cli/flags.h"
+#include "cli/output.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
@@ -48,19 +49,13 @@ constexpr Flag<CallOptions> kFlags[] = {
      [](CallOptions& options, std::string_view, std::string_view) { options.json = true; }},
 };
 
-int print(const std::string& text) {
-  std::cout << text;
-  return std::cout.flush() ? 0 : 1;
-}
-
 int callOnce(Words words, bool asJson) {
   if (words.empty()) throw InputError("call: a name is missing; `kzmutil list` shows them");
   const Callable& callable = callableNamed(words.front(), words.size() - 1);
   Json arguments = Json::array();
   for (const std::string_view word : words.subspan(1)) arguments.push_back(parseJson(word));
   const Result result = callable.call(arguments);
-  std::cout << (result.text.has_value() && !asJson ? *result.text : result.json) << '\n';
-  return std::cout.flush() ? 0 : 1;
+  return print((result.text.has_value() && !asJson ? *result.text : result.json) + '\n');
 }
 
 int callBatch() {

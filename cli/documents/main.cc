@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "cli/documents/documents.h"
+#include "cli/output.h"
 
 namespace {
 
@@ -23,8 +24,7 @@ constexpr Document kDocuments[] = {
 int main(int count, char** arguments) {
   for (const Document& document : kDocuments) {
     if (count != 2 || document.name != arguments[1]) continue;
-    std::cout << document.text();
-    return std::cout.flush() ? 0 : 1;
+    return kzm::cli::print(document.text());
   }
   std::cerr << "usage: kzm_documents manual|bash|zsh|fish\n";
   return 2;

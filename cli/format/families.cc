@@ -27,7 +27,7 @@ std::string withoutOptions(const Dictionary& /*options*/, double value) {
 }
 
 // clang-format off
-//   name                    a value is
+//   name                     a value is                 shown by; below: what it takes
 constexpr Family kFamilies[] = {
     {"bandwidth",             "bytes per second",        KZMUtilitiesFormatBandwidth,
      "bits from-mega reverse-type unit-size short space early-upgrade decimals-kb decimals-mb "

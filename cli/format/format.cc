@@ -1,5 +1,4 @@
 // The verb `format`: numbers to text, for scripts and status bars.
-#include <iostream>
 #include <optional>
 #include <string>
 #include <vector>
@@ -7,7 +6,9 @@
 #include "cli/format/families.h"
 #include "cli/input_lines.h"
 #include "cli/numbers.h"
+#include "cli/output.h"
 #include "cli/verbs.h"
+#include "machine/files.h"
 
 namespace kzm::cli {
 namespace {
@@ -19,11 +20,6 @@ std::string kindsHelp(std::string_view word) {
     if (family.name.starts_with(std::string(word) + " ")) text += flagLine({family.name, "", family.value});
   }
   return text;
-}
-
-int print(const std::string& text) {
-  std::cout << text;
-  return std::cout.flush() ? 0 : 1;
 }
 
 // Takes the family's one or two words off the front.
@@ -40,13 +36,6 @@ const Family* takeFamily(Words& words) {
   return nullptr;
 }
 
-std::string_view trimmed(std::string_view line) {
-  constexpr std::string_view kBlanks = " \t\r";
-  const std::size_t first = line.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return line.substr(first, line.find_last_not_of(kBlanks) - first + 1);
-}
-
 // The answers go out whenever the next line is not at hand.
 int formatInput(const Family& family, const Dictionary& options) {
   InputLines lines;
@@ -59,7 +48,7 @@ int formatInput(const Family& family, const Dictionary& options) {
     const std::optional<std::string_view> line = lines.next();
     if (!line) return 0;
     try {
-      texts.append(family.text(options, numberIn(trimmed(*line)))).append("\n");
+      texts.append(family.text(options, numberIn(machine::trimmed(*line)))).append("\n");
     } catch (const InputError& error) {
       print(texts);
       throw InputError("format: line " + std::to_string(number) + ": " + error.what());

@@ -1,12 +1,12 @@
 // The verb `languages`: the languages of the texts, and how far they are translated.
 #include <algorithm>
-#include <iostream>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 #include "cli/flags.h"
 #include "cli/languages/coverage.h"
+#include "cli/output.h"
 #include "cli/verbs.h"
 
 namespace kzm::cli {
@@ -23,7 +23,7 @@ constexpr Flag<LanguagesOptions> kFlags[] = {
 
 const Coverage& english(const std::vector<Coverage>& all) { return *std::ranges::find(all, "en", &Coverage::language); }
 
-void printJson(const std::vector<Coverage>& all) {
+std::string listedInJson(const std::vector<Coverage>& all) {
   const auto part = [](std::size_t translated, std::size_t of) {
     return nlohmann::ordered_json{{"translated", translated}, {"of", of}};
   };
@@ -34,11 +34,11 @@ void printJson(const std::vector<Coverage>& all) {
                     {"units", part(each.units, english(all).units)},
                     {"words", part(each.words, english(all).words)}});
   }
-  std::cout << list.dump(2) << '\n';
+  return list.dump(2) + "\n";
 }
 
 // The names come last: some are in scripts that terminals do not align.
-void printLines(const std::vector<Coverage>& all) {
+std::string listed(const std::vector<Coverage>& all) {
   const auto column = [](std::string text, std::size_t width) {
     text.resize(std::max(text.size(), width), ' ');
     return text;
@@ -46,11 +46,12 @@ void printLines(const std::vector<Coverage>& all) {
   const auto part = [](std::size_t translated, std::size_t of) {
     return std::to_string(translated) + " of " + std::to_string(of);
   };
-  std::cout << column("language", 12) << column("units", 14) << column("words", 12) << "name\n";
+  std::string lines = column("language", 12) + column("units", 14) + column("words", 12) + "name\n";
   for (const Coverage& each : all) {
-    std::cout << column(std::string(each.language), 12) << column(part(each.units, english(all).units), 14)
-              << column(part(each.words, english(all).words), 12) << each.name << '\n';
+    lines += column(std::string(each.language), 12) + column(part(each.units, english(all).units), 14) +
+             column(part(each.words, english(all).words), 12) + each.name + '\n';
   }
+  return lines;
 }
 
 }  // namespace
@@ -58,13 +59,9 @@ void printLines(const std::vector<Coverage>& all) {
 int languagesVerb(Words words) {
   LanguagesOptions options;
   const Operands operands = takeFlags<LanguagesOptions>("languages", words, kFlags, options);
-  if (operands.help) {
-    std::cout << helpText(describeLanguages());
-    return std::cout.flush() ? 0 : 1;
-  }
+  if (operands.help) return print(helpText(describeLanguages()));
   if (!operands.words.empty()) throw InputError("languages takes no arguments");
-  (options.json ? printJson : printLines)(coverages());
-  return std::cout.flush() ? 0 : 1;
+  return print((options.json ? listedInJson : listed)(coverages()));
 }
 
 Description describeLanguages() {

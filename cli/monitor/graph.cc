@@ -17,12 +17,6 @@ std::string_view blockOf(double value, double top) {
   return kBlocks[static_cast<std::size_t>(std::max(height, 1.0))];
 }
 
-std::string repeated(std::string_view text, std::size_t count) {
-  std::string all;
-  for (std::size_t i = 0; i < count; ++i) all += text;
-  return all;
-}
-
 }  // namespace
 
 std::string graph(const std::deque<double>& values, std::size_t columns, double top) {
@@ -36,13 +30,6 @@ double topOf(const std::deque<double>& values, std::size_t columns, double least
   const std::size_t shown = std::min(columns, values.size());
   for (std::size_t i = values.size() - shown; i < values.size(); ++i) least = std::max(least, values[i]);
   return least;
-}
-
-Bar barOf(double part, std::size_t columns) {
-  const double within = std::isnan(part) ? 0.0 : std::clamp(part, 0.0, 1.0);
-  const auto halves = static_cast<std::size_t>(std::round(within * static_cast<double>(2 * columns)));
-  const std::size_t taken = (halves + 1) / 2;
-  return {repeated("█", halves / 2) + (halves % 2 == 1 ? "▌" : ""), repeated("░", columns - taken)};
 }
 
 }  // namespace kzm::cli

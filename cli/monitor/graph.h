@@ -15,14 +15,6 @@ namespace kzm::cli {
 /// The greatest of the last values that the columns show, and `least` if none is greater.
 [[nodiscard]] double topOf(const std::deque<double>& values, std::size_t columns, double least);
 
-/// The full and the empty columns of a bar, in halves of a column; a part outside 0 to 1 is the next of them, and NaN
-/// is 0.
-struct Bar {
-  std::string full;
-  std::string empty;
-};
-[[nodiscard]] Bar barOf(double part, std::size_t columns);
-
 }  // namespace kzm::cli
 
 #endif

@@ -1,7 +1,6 @@
 #include "cli/monitor/monitor.h"
 
 #include <algorithm>
-#include <limits>
 #include <vector>
 
 #include "cli/monitor/controls.h"
@@ -21,7 +20,7 @@ class Monitor {
   // Until the user, or the count of readings, ends it.
   void run() {
     constexpr double kFirst = 0.3;  // enough to know a rate, and nobody waits for it
-    constexpr double kNever = std::numeric_limits<double>::infinity();
+    constexpr double kNever = 1e18;
     due_ = watch_.seconds() + (watch_.needsTime() ? std::min(kFirst, options_.seconds) : 0.0);
     bool goesOn = true;
     while (goesOn) {
@@ -52,7 +51,7 @@ class Monitor {
 
   bool drawn() {
     if (groups_.empty()) return true;
-    Page page = pageOf({groups_, tracks_, texts_}, controls_.choices, sizeOfOutput());
+    Page page = pageOf({groups_, tracks_, texts_}, controls_.choices, Terminal::size());
     controls_.mostScrolled = page.mostScrolled;
     controls_.lines = page.lines;
     controls_.choices.scrolled = std::min(controls_.choices.scrolled, page.mostScrolled);

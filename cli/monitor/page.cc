@@ -8,8 +8,8 @@
 #include <KZMUtilities/bytes.h>
 #include <KZMUtilities/display_width.h>
 #include <KZMUtilities/formatters.h>
-#include <KZMUtilities/text.h>
 
+#include "cli/show/placing.h"
 #include "cli/words.h"
 
 namespace kzm::cli {
@@ -19,8 +19,6 @@ constexpr std::size_t kLeastPanel = 60;  // columns; wide enough for two values 
 constexpr std::size_t kBetween = 2;      // two panels
 constexpr Style kFaint{.faint = true};
 constexpr Style kKey{.bold = true};
-
-std::string placed(const std::string& text) { return hasRightToLeft(text) ? isolated(text) : text; }
 
 // ---- Blocks in panels ----------------------------------------------------------------------------------------------
 
@@ -92,27 +90,27 @@ std::string throughputText(int format) {
   return KZMUtilitiesFormatBandwidth({{"bandwidthformat", format}, {"space", true}}, kExample);
 }
 
-// What a key does is shown rather than told where that is possible.
+// What a key does is shown rather than said where that is possible.
 Panel helpLines(const Scene& scene, const Choices& choices) {
   const std::pair<std::string, std::string> rows[] = {
       {"q", word("Keys.Quit")},
       {"p", word("Keys.Pause")},
       {"?", word("Keys.Help")},
       {"+ -", secondsText(choices.seconds)},
-      {"b", placed(throughputText(0)) + " / " + placed(throughputText(2))},
+      {"b", inLine(throughputText(0)) + " / " + inLine(throughputText(2))},
       {"↑ ↓ PgUp PgDn Home End", ""},
       {"s", "*"},
   };
   constexpr std::size_t kTexts = 6;
   Panel lines(1);
-  for (const auto& [keys, text] : rows) lines.push_back({{1, keys, kKey}, {kTexts, placed(text)}});
+  for (const auto& [keys, text] : rows) lines.push_back({{1, keys, kKey}, {kTexts, inLine(text)}});
   const auto addSign = [&](const Topic* topic) {
     if (topic == choices.topic) lines.back().push_back({kTexts - 2, "▸", kKey});
   };
   addSign(nullptr);
   for (const Group& group : scene.groups) {
     if (group.items.empty()) continue;
-    lines.push_back({{kTexts, placed(word(group.topic->title))}});
+    lines.push_back({{kTexts, inLine(word(group.topic->title))}});
     addSign(group.topic);
   }
   return lines;
@@ -133,7 +131,7 @@ std::size_t putKey(std::string_view key, const std::string& text, std::size_t co
   const std::size_t needed = displayWidth(key) + (text.empty() ? 0 : displayWidth(text) + 1);
   if (column + needed > end) return column;
   frame.put(row, column, key, kKey, needed);
-  if (!text.empty()) frame.put(row, column + displayWidth(key) + 1, placed(text), kFaint, needed);
+  if (!text.empty()) frame.put(row, column + displayWidth(key) + 1, inLine(text), kFaint, needed);
   return column + needed + 2;
 }
 
@@ -144,7 +142,7 @@ void putState(const Choices& choices, const Page& page, std::size_t& end, Frame&
     const std::size_t width = displayWidth(text);
     if (width + 1 > end) return;
     end -= width;
-    frame.put(row, end, placed(text), style, width);
+    frame.put(row, end, inLine(text), style, width);
     end -= 1;
   };
   putBefore("± " + secondsText(choices.seconds), kFaint);
@@ -157,11 +155,14 @@ void putState(const Choices& choices, const Page& page, std::size_t& end, Frame&
 void putLastLine(const Choices& choices, const Page& page, Frame& frame) {
   std::size_t end = frame.size().columns - 1;
   putState(choices, page, end, frame);
+  const std::pair<std::string_view, std::string> keys[] = {
+      {"?", word("Keys.Help")},
+      {"q", word("Keys.Quit")},
+      {"p", word("Keys.Pause")},
+      {"s", choices.topic == nullptr ? "*" : word(choices.topic->title)},
+  };
   std::size_t column = 0;
-  column = putKey("?", word("Keys.Help"), column, end, frame);
-  column = putKey("q", word("Keys.Quit"), column, end, frame);
-  column = putKey("p", word("Keys.Pause"), column, end, frame);
-  column = putKey("s", choices.topic == nullptr ? "*" : word(choices.topic->title), column, end, frame);
+  for (const auto& [key, text] : keys) column = putKey(key, text, column, end, frame);
 }
 
 std::vector<Group> chosen(const std::vector<Group>& groups, const Topic* topic) {

@@ -7,6 +7,7 @@
 #include <KZMUtilities/text.h>
 
 #include "cli/monitor/graph.h"
+#include "cli/show/placing.h"
 #include "cli/words.h"
 
 namespace kzm::cli {
@@ -72,8 +73,6 @@ Grid gridOf(const Scene& scene, std::size_t width) {
 
 // ---- Spans ---------------------------------------------------------------------------------------------------------
 
-std::string placed(const std::string& text) { return hasRightToLeft(text) ? isolated(text) : text; }
-
 Style styleOf(Emphasis emphasis) {
   return {.bold = emphasis == Emphasis::strong, .faint = emphasis == Emphasis::faint};
 }
@@ -94,11 +93,7 @@ void addAtEnd(std::size_t end, const Cell& cell, PanelLine& line) {
 }
 
 void addAtEnd(std::size_t end, const std::string& text, Style style, PanelLine& line) {
-  line.push_back({end - std::min(end, displayWidth(text)), placed(text), style});
-}
-
-std::string cutTo(const std::string& text, std::size_t room) {
-  return displayWidth(text) <= room ? text : std::string(fitting(text, room - 1)) + "…";
+  line.push_back({end - std::min(end, displayWidth(text)), inLine(text), style});
 }
 
 // The color only repeats what the sign says.
@@ -135,7 +130,7 @@ void addBar(std::size_t column, std::size_t width, const Reading& reading, Panel
   line.push_back({column + displayWidth(bar.full), bar.empty, kFaint});
 }
 
-// What stands beside the values of an item, or below them.
+// What is beside the values of an item, or below them.
 struct Trail {
   const Scene& scene;
   const Topic& topic;
@@ -195,7 +190,7 @@ std::size_t valuesOf(const Item& item) { return std::min<std::size_t>(item.readi
 void addName(const Item& item, const Grid& grid, PanelLine& line) {
   addMarker(levelOf(item), line);
   const std::size_t room = grid.name > 0 ? grid.name : grid.width - kMarker;
-  line.push_back({kMarker, placed(cutTo(item.name, room))});
+  line.push_back({kMarker, inLine(cutTo(item.name, room))});
 }
 
 // Values in their columns, or each on a line of its own with its word before it.
@@ -203,7 +198,7 @@ void addValues(const std::vector<Cell>& cells, const Topic& topic, const Grid& g
   for (std::size_t i = 0; i < cells.size(); ++i) {
     if (grid.perLine == 1) {
       block.emplace_back();
-      if (!topic.columns[i].empty()) block.back().push_back({2 * kMarker, placed(word(topic.columns[i])), kFaint});
+      if (!topic.columns[i].empty()) block.back().push_back({2 * kMarker, inLine(word(topic.columns[i])), kFaint});
     }
     addAtEnd(grid.endOf(i), cells[i], block.back());
   }
@@ -239,7 +234,7 @@ void addItem(const Scene& scene, const Topic& topic, const Item& item, const Gri
 void addHeading(const Topic& topic, const Grid& grid, Block& block) {
   const std::string title = word(topic.title);
   const std::size_t room = grid.name > 0 ? kMarker + grid.name : grid.width;
-  block.push_back({{0, placed(cutTo(title, room)), kStrong}});
+  block.push_back({{0, inLine(cutTo(title, room)), kStrong}});
   if (topic.columns[0].empty() || grid.perLine == 1) return;
   if (grid.name == 0) block.emplace_back();
   for (std::size_t i = 0; i < topic.columns.size(); ++i) {

@@ -21,7 +21,7 @@ struct Track {
 /// The past of all of them.
 class Tracks {
  public:
-  /// No window of a terminal is wider.
+  /// As many as the graphs of a wide terminal show.
   static constexpr std::size_t kMostValues = 512;
 
   /// Adds the readings, which are those of the given number of seconds. What is not among them is forgotten.

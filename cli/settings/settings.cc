@@ -1,9 +1,9 @@
 // The verb `settings`: the user's units, by key path.
-#include <iostream>
 #include <string>
 
 #include "catalogue/companions.h"
 #include "cli/flags.h"
+#include "cli/output.h"
 #include "cli/settings/unit_settings.h"
 #include "cli/verbs.h"
 
@@ -81,8 +81,7 @@ std::string answerTo(Words words) {
 int settingsVerb(Words words) {
   None none;
   const Operands operands = takeFlags<None>("settings", words, {}, none);
-  std::cout << (operands.help ? helpText(describeSettings()) : answerTo(operands.words));
-  return std::cout.flush() ? 0 : 1;
+  return print(operands.help ? helpText(describeSettings()) : answerTo(operands.words));
 }
 
 Description describeSettings() {

@@ -35,8 +35,8 @@ std::vector<ListedSetting> listedSettings() {
   std::vector<ListedSetting> settings;
   const auto add = [&](std::string_view keyPath, std::string_view what) {
     for (const UnitSetting& setting : kzm::unitSettings()) {
-      const auto isSame = [&](const ListedSetting& other) { return other.keyPath == setting.keyPath; };
-      if (setting.keyPath != keyPath || std::ranges::any_of(settings, isSame)) continue;
+      const auto isListed = [&](const ListedSetting& other) { return other.keyPath == setting.keyPath; };
+      if (setting.keyPath != keyPath || std::ranges::any_of(settings, isListed)) continue;
       settings.push_back({setting.keyPath, what, setting.units, setting.unit});
     }
   };
@@ -45,7 +45,7 @@ std::vector<ListedSetting> listedSettings() {
   return settings;
 }
 
-bool isSame(std::string_view a, std::string_view b) {
+bool equalIgnoringCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
 }
@@ -80,7 +80,7 @@ const ListedSetting& settingAt(std::string_view keyPath) {
 std::int64_t codeIn(const ListedSetting& setting, std::string_view text) {
   std::string meanings;
   for (std::int64_t code = kRegionsChoice; code < codes(setting); ++code) {
-    if (text == std::to_string(code) || isSame(text, meaningOf(setting, code))) return code;
+    if (text == std::to_string(code) || equalIgnoringCase(text, meaningOf(setting, code))) return code;
     meanings.append(meanings.empty() ? "" : ", ").append(std::to_string(code)).append(" ");
     meanings.append(meaningOf(setting, code));
   }

@@ -1,11 +1,12 @@
 #include "cli/show/layout.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include <KZMUtilities/display_width.h>
 #include <KZMUtilities/text.h>
+
+#include "cli/show/placing.h"
 
 namespace kzm::cli {
 namespace {
@@ -76,8 +77,7 @@ class Line {
     const std::size_t room = look_.columns - width_;
     const std::size_t width = displayWidth(piece.text);
     cut_ = width > room;
-    write(cut_ ? std::string(fitting(piece.text, room > 0 ? room - 1 : 0)) + (room > 0 ? "…" : "") : piece.text,
-          piece.emphasis);
+    write(cutTo(piece.text, room), piece.emphasis);
     width_ += std::min(width, room);
   }
   void fill(std::size_t until) {
@@ -111,8 +111,7 @@ std::string lineOf(const Piece& name, std::size_t indent, const std::vector<Cell
   const auto placed = [isolates](Cell cell) { return isolates ? isolated(std::move(cell)) : cell; };
   Line line(look);
   line.fill(indent);
-  const bool isLong = indent + displayWidth(name.text) > grid.name;
-  const std::string shown = isLong ? std::string(fitting(name.text, grid.name - indent - 1)) + "…" : name.text;
+  const std::string shown = cutTo(name.text, grid.name - indent);
   for (const Piece& piece : placed({{shown, name.emphasis}})) line.add(piece);
   std::size_t until = grid.name;
   for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -131,12 +130,8 @@ std::vector<Cell> headings(const Section& section) {
 }  // namespace
 
 Cell bar(double part) {
-  const double filled = std::isnan(part) ? 0 : std::round(std::clamp(part, 0.0, 1.0) * kBarColumns);
-  const auto count = static_cast<std::size_t>(filled);
-  std::string full;
-  std::string empty;
-  for (std::size_t i = 0; i < kBarColumns; ++i) (i < count ? full : empty) += i < count ? "█" : "░";
-  return {{full, Emphasis::plain}, {empty, Emphasis::faint}};
+  const Bar bar = barOf(part, kBarColumns);
+  return {{bar.full, Emphasis::plain}, {bar.empty, Emphasis::faint}};
 }
 
 std::vector<std::string> laidOut(const std::vector<Section>& sections, const Look& look) {

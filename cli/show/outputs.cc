@@ -7,8 +7,8 @@
 #include <utility>
 
 #include <KZMUtilities/display_width.h>
-#include <KZMUtilities/text.h>
 
+#include "cli/show/placing.h"
 #include "cli/words.h"
 
 namespace kzm::cli {
@@ -27,12 +27,9 @@ constexpr std::string_view kLeftOut = "free";
 
 // A text at the right of the room that it has.
 std::string padded(const std::string& text, std::size_t columns, std::string_view space) {
-  std::string all;
-  for (std::size_t i = displayWidth(text); i < columns; ++i) all += space;
-  return all + text;
+  const std::size_t taken = std::min(displayWidth(text), columns);
+  return repeated(space, columns - taken) + text;
 }
-
-std::string placed(const std::string& text) { return hasRightToLeft(text) ? isolated(text) : text; }
 
 // What a bar shows of one item.
 struct Block {
@@ -44,11 +41,11 @@ struct Block {
 std::string shownIn(const Reading& reading, const LineChoice& choice, std::string_view space) {
   const std::string text = choice.texts.text(reading);
   const std::size_t columns = choice.constantWidth ? displayWidth(choice.texts.widest(reading)) : 0;
-  return std::string(signOf(reading.name)) + placed(padded(text, columns, space));
+  return std::string(signOf(reading.name)) + inLine(padded(text, columns, space));
 }
 
 Block blockOf(const Item& item, const LineChoice& choice, std::string_view space) {
-  Block block{placed(item.name), {}, Level::normal};
+  Block block{inLine(item.name), {}, Level::normal};
   for (const Reading& reading : item.readings) {
     if (reading.name == kLeftOut) continue;
     block.texts += (block.texts.empty() ? "" : " ") + shownIn(reading, choice, space);

@@ -45,7 +45,7 @@ static_assert([] {
   return std::size(kRows) == static_cast<std::size_t>(Quantity::state) + 1;
 }());
 
-// How readings of one item are told apart without words.
+// How readings of one item are distinguished without words.
 struct Sign {
   std::string_view reading;
   std::string_view sign;

@@ -34,6 +34,7 @@ Section sectionOf(const Group& group, const Texts& texts) {
 
 std::vector<Section> sectionsOf(const std::vector<Group>& groups, const Texts& texts) {
   std::vector<Section> sections;
+  sections.reserve(groups.size());
   for (const Group& group : groups) sections.push_back(sectionOf(group, texts));
   if (sections.size() == 1 && sections[0].rows.empty()) sections[0] = {sections[0].title, {}, {{"–", {}}}};
   return sections;

@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
-#include <iostream>
 #include <limits>
 #include <span>
 #include <string>
@@ -14,6 +13,7 @@
 #include "cli/flags.h"
 #include "cli/monitor/monitor.h"
 #include "cli/numbers.h"
+#include "cli/output.h"
 #include "cli/show/feed.h"
 #include "cli/show/outputs.h"
 #include "cli/show/watch.h"
@@ -84,8 +84,8 @@ constexpr ShowFlag kShowFlags[] = {kBits, kUnitSize, kInterface, kAll, kInterval
 constexpr ShowFlag kMonitorFlags[] = {kBits,  kUnitSize, kInterface, kAll,          kInterval,
                                       kCount, kNoColor,  kOutput,    kConstantWidth};
 
-Description describe(Text usage, std::span<const ShowFlag> flags) {
-  Description verb{.usage = {usage}, .text = "Without a topic: all of them.\n", .flags = textsOf(flags)};
+Description describe(Text usage, Text text, std::span<const ShowFlag> flags) {
+  Description verb{.usage = {usage}, .text = text, .flags = textsOf(flags)};
   for (const Topic& topic : topics()) verb.choices.push_back({.name = topic.name, .help = topic.does});
   return verb;
 }
@@ -125,11 +125,10 @@ int showOnce(Watch& watch, const ShowOptions& options) {
   const Texts texts(options.bandwidth);
   if (watch.needsTime()) std::this_thread::sleep_for(std::chrono::duration<double>(options.seconds));
   const std::vector<Group> groups = watch.read();
-  std::cout << options.output->first
-            << (options.output->line == nullptr ? tableOf(groups, texts, lookOfOutput(options.plain))
-                                                : lineOf(groups, texts, options))
-            << options.output->last;
-  return std::cout.flush() ? 0 : 1;
+  std::string text(options.output->first);
+  text += options.output->line == nullptr ? tableOf(groups, texts, lookOfOutput(options.plain))
+                                          : lineOf(groups, texts, options);
+  return print(text.append(options.output->last));
 }
 
 int showContinuously(Watch& watch, const ShowOptions& options) {
@@ -164,10 +163,7 @@ int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*d
         int (*show)(Watch& watch, const ShowOptions& options)) {
   ShowOptions options;
   const Operands operands = takeFlags<ShowOptions>(verb, words, flags, options);
-  if (operands.help) {
-    std::cout << helpText(describeVerb());
-    return std::cout.flush() ? 0 : 1;
-  }
+  if (operands.help) return print(helpText(describeVerb()));
   try {
     checkWidth(options);
     Watch watch(machine::Root("/"), topicsIn(operands.words), options.rows);
@@ -179,8 +175,13 @@ int run(Text verb, Words words, std::span<const ShowFlag> flags, Description (*d
 
 }  // namespace
 
-Description describeShow() { return describe("show [TOPIC...] [FLAG...]", kShowFlags); }
-Description describeMonitor() { return describe("monitor [TOPIC...] [FLAG...]", kMonitorFlags); }
+Description describeShow() {
+  return describe("show [TOPIC...] [FLAG...]", "Without a topic: all of them.\n", kShowFlags);
+}
+Description describeMonitor() {
+  return describe("monitor [TOPIC...] [FLAG...]",
+                  "Without a topic: all of them. On a terminal the key ? lists the others.\n", kMonitorFlags);
+}
 
 int showVerb(Words words) { return run("show", words, kShowFlags, describeShow, showOnce); }
 int monitorVerb(Words words) { return run("monitor", words, kMonitorFlags, describeMonitor, showContinuously); }

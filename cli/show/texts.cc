@@ -17,7 +17,7 @@ namespace kzm::cli {
 namespace {
 
 // The number's attributes; the unit has none.
-const Value kStrong = true;
+constexpr bool kStrong = true;
 
 Dictionary rule(int below, int decimals) { return {{"value", below}, {"decimals", decimals}}; }
 

@@ -115,23 +115,33 @@ Items loadItems(const Snapshot& snapshot, const RowChoice& choice) {
   return items;
 }
 
-// clang-format off
-constexpr std::pair<Kind, Quantity> kQuantities[] = {
-    {Kind::temperature, Quantity::temperature},
-    {Kind::percentage,  Quantity::level},
-    {Kind::fan,         Quantity::fan},
-    {Kind::current,     Quantity::current},
-    {Kind::power,       Quantity::power},
-    {Kind::voltage,     Quantity::voltage},
-    {Kind::light,       Quantity::light},
-    {Kind::frequency,   Quantity::frequency},
-    {Kind::capacity,    Quantity::capacity},
-};
-// clang-format on
+// A kind without its case does not build.
+Quantity quantityOf(Kind kind) {
+  switch (kind) {
+    case Kind::temperature:
+      return Quantity::temperature;
+    case Kind::percentage:
+      return Quantity::level;
+    case Kind::fan:
+      return Quantity::fan;
+    case Kind::current:
+      return Quantity::current;
+    case Kind::power:
+      return Quantity::power;
+    case Kind::voltage:
+      return Quantity::voltage;
+    case Kind::light:
+      return Quantity::light;
+    case Kind::frequency:
+      return Quantity::frequency;
+    case Kind::capacity:
+      return Quantity::capacity;
+  }
+  return Quantity::state;  // no kind at all
+}
 
 Reading readingOf(std::string_view name, const machine::SensorReading& reading) {
-  const auto* row = std::ranges::find(kQuantities, reading.kind, &std::pair<Kind, Quantity>::first);
-  return {name, row->second, reading.value};
+  return {name, quantityOf(reading.kind), reading.value};
 }
 
 std::string joined(const std::string& source, std::string_view between, const std::string& label) {
@@ -152,6 +162,17 @@ Item extreme(const machine::SensorReading& reading, std::string_view key) {
   return {idOf(key), nameOf(reading) + " (" + word(key) + ")", {readingOf("value", reading)}};
 }
 
+// Two devices of one kind may have the same names.
+Items numbered(Items items) {
+  for (auto item = items.begin(); item != items.end(); ++item) {
+    const std::string id = item->id;
+    for (int number = 2; std::ranges::find(items.begin(), item, item->id, &Item::id) != item; ++number) {
+      item->id = id + " " + std::to_string(number);
+    }
+  }
+  return items;
+}
+
 // More readings of one kind than these are shown by their least and their greatest.
 constexpr std::size_t kSingly = 16;
 
@@ -166,7 +187,7 @@ Items sensorItems(const Snapshot& snapshot, const RowChoice& choice) {
   for (const machine::SensorReading& reading : readings) {
     items.push_back({idOf(reading), nameOf(reading), {readingOf("value", reading)}});
   }
-  return items;
+  return numbered(std::move(items));
 }
 
 // What the machine calls a battery's state, or one of its readings; names that are not in the table stay.
@@ -183,11 +204,12 @@ Items batteryItems(const Snapshot& snapshot, const RowChoice& /*choice*/) {
       items.push_back({idOf(reading), nameOf(named), {readingOf("value", reading)}});
     }
   }
-  return items;
+  return numbered(std::move(items));
 }
 
 // ---- The table -----------------------------------------------------------------------------------------------------
 
+// The name, what it shows, the title and the columns; then what counts, what reads and what makes the items.
 // clang-format off
 constexpr Topic kTopics[] = {
     {"network", "what every interface receives and sends", "Topics.Network", {"Columns.received", "Columns.sent"},

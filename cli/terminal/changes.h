@@ -9,7 +9,7 @@
 
 namespace kzm::cli {
 
-/// What of the styles a terminal is told.
+/// What of the styles a terminal gets.
 enum class Dress : std::uint8_t {
   none,
   monochrome,  // all but colors

@@ -4,6 +4,8 @@
 
 #include <KZMUtilities/display_width.h>
 
+#include "cli/show/placing.h"
+
 namespace kzm::cli {
 namespace {
 
@@ -15,16 +17,19 @@ std::string_view takeGlyph(std::string_view& text) {
   return taken;
 }
 
-std::string cutTo(std::string_view text, std::size_t room) {
-  if (displayWidth(text) <= room) return std::string(text);
-  return room == 0 ? "" : std::string(fitting(text, room - 1)) + "…";
-}
-
 }  // namespace
+
+// A wide character of which one half is overwritten is none any more.
+void Frame::parted(std::size_t row, std::size_t column) {
+  if (column == 0 || column >= size_.columns || !at(row, column).text.empty()) return;
+  for (const std::size_t half : {column - 1, column}) glyphs_[row * size_.columns + half] = {};
+}
 
 std::size_t Frame::put(std::size_t row, std::size_t column, std::string_view text, Style style, std::size_t room) {
   if (column >= size_.columns) return 0;
   const std::string cut = cutTo(text, std::min(room, size_.columns - column));
+  parted(row, column);
+  parted(row, column + displayWidth(cut));
   Glyph* cell = &glyphs_[row * size_.columns + column];
   std::size_t taken = 0;
   for (std::string_view rest = cut; !rest.empty();) {

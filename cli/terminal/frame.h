@@ -55,6 +55,8 @@ class Frame {
   [[nodiscard]] std::string textOf(std::size_t row) const;
 
  private:
+  void parted(std::size_t row, std::size_t column);
+
   Size size_;
   std::vector<Glyph> glyphs_;
 };

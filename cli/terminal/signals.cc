@@ -20,18 +20,16 @@ sigset_t signalSet() {
 
 }  // namespace
 
-Signals::Signals() : descriptor_(-1) {
+Signals::Signals() {
   const sigset_t set = signalSet();
   ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
-  descriptor_ = ::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK);
-  if (descriptor_ < 0) throw std::system_error(errno, std::generic_category(), "signals");
+  descriptor_ = port::Descriptor(::signalfd(-1, &set, SFD_CLOEXEC | SFD_NONBLOCK));
+  if (!descriptor_.isOpen()) throw std::system_error(errno, std::generic_category(), "signals");
 }
-
-Signals::~Signals() { ::close(descriptor_); }
 
 int Signals::take() const {
   signalfd_siginfo info{};
-  const bool came = ::read(descriptor_, &info, sizeof info) == static_cast<ssize_t>(sizeof info);
+  const bool came = ::read(descriptor(), &info, sizeof info) == static_cast<ssize_t>(sizeof info);
   return came ? static_cast<int>(info.ssi_signo) : 0;
 }
 

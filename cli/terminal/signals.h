@@ -2,24 +2,23 @@
 #ifndef KZM_CLI_TERMINAL_SIGNALS_H
 #define KZM_CLI_TERMINAL_SIGNALS_H
 
+#include "port/descriptor.h"
+
 namespace kzm::cli {
 
 /// Takes the signals that end, stop or resize the program from the system, until the end of the program.
 class Signals {
  public:
   Signals();
-  Signals(const Signals&) = delete;
-  Signals& operator=(const Signals&) = delete;
-  ~Signals();
 
   /// Readable when a signal has come.
-  [[nodiscard]] int descriptor() const { return descriptor_; }
+  [[nodiscard]] int descriptor() const { return descriptor_.number(); }
 
   /// The number of the signal; 0 when none has come.
   [[nodiscard]] int take() const;
 
  private:
-  int descriptor_;
+  port::Descriptor descriptor_;
 };
 
 }  // namespace kzm::cli

@@ -1,9 +1,9 @@
 #include "cli/terminal/terminal.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
 #include <poll.h>
 #include <string_view>
 #include <sys/ioctl.h>
@@ -13,6 +13,7 @@
 
 #include "cli/terminal/writing.h"
 #include "machine/rates.h"
+#include "port/environment.h"
 
 namespace kzm::cli {
 namespace {
@@ -22,7 +23,7 @@ constexpr std::string_view kEnter = "\x1b[?1049h\x1b[?25l\x1b[?7l\x1b[?1000h\x1b
 constexpr std::string_view kLeave = "\x1b[0m\x1b[?1006l\x1b[?1000l\x1b[?7h\x1b[?25h\x1b[?1049l";
 
 const char* variable(const char* name) {
-  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe)
+  const char* value = port::processEnvironment(name);
   return value == nullptr ? "" : value;
 }
 
@@ -65,6 +66,14 @@ Size sizeOfOutput() {
   return {size.ws_row, size.ws_col};
 }
 
+Size Terminal::size() {
+  constexpr Size kUsual{.rows = 24, .columns = 80};
+  constexpr Size kMost{.rows = 512, .columns = 1024};
+  const Size size = sizeOfOutput();
+  if (size.rows == 0 || size.columns == 0) return kUsual;
+  return {std::min(size.rows, kMost.rows), std::min(size.columns, kMost.columns)};
+}
+
 Terminal::Terminal(Dress dress) : dress_(dress) {
   termios mode{};
   if (::tcgetattr(STDIN_FILENO, &mode) == 0) mode_ = mode;
@@ -95,7 +104,7 @@ void Terminal::leave() {
 }
 
 // A program that is stopped leaves the terminal to the shell.
-Terminal::Event Terminal::signalled() {
+Terminal::Event Terminal::signaled() {
   const int signal = signals_.take();
   if (signal == 0 || signal == SIGWINCH) return Event::resized;
   if (signal != SIGTSTP) return Event::ended;
@@ -125,7 +134,7 @@ Terminal::Event Terminal::wait(double seconds) {
       if (seconds <= machine::secondsNow()) return Event::due;
       continue;
     }
-    if (watched[0].revents != 0) return signalled();
+    if (watched[0].revents != 0) return signaled();
     if (watched[1].revents != 0) return Event::ended;
     return read();
   }

@@ -21,7 +21,7 @@ namespace kzm::cli {
 /// What the user allows: nothing if `plain`, no colors with NO_COLOR.
 [[nodiscard]] Dress dressOfOutput(bool plain);
 
-/// The size of the terminal at standard output; nothing in it when that is none.
+/// The size of the terminal at standard output; nothing in it when that is none, or does not know.
 [[nodiscard]] Size sizeOfOutput();
 
 /// From its making to its end the terminal shows frames in place of the user's screen, which is there again afterwards,
@@ -47,6 +47,9 @@ class Terminal {
   /// The keys of the last event.
   [[nodiscard]] const std::vector<Key>& keys() const { return keys_; }
 
+  /// Its size, within reason.
+  [[nodiscard]] static Size size();
+
   /// Shows the frame by one write; false when nobody can see it.
   [[nodiscard]] bool show(Frame frame);
 
@@ -56,7 +59,7 @@ class Terminal {
  private:
   void enter();
   void leave();
-  [[nodiscard]] Event signalled();
+  [[nodiscard]] Event signaled();
   [[nodiscard]] Event read();
 
   Dress dress_;

@@ -12,7 +12,7 @@ namespace kzm::panel {
 
 /// What means something only when there is a second reading.
 struct ActivitySamples {
-  machine::Sample network;  // of interfaces that were used, without what the machine tells itself
+  machine::Sample network;  // of interfaces that were used, without what the machine sends to itself
   machine::Sample disks;
 };
 

@@ -36,6 +36,9 @@ struct ResourceBundle {
 /// The text for `key` in the best language for the user that the bundle has; keys that this language lacks come from
 /// the development language. An unknown key, table or null bundle gives the template that the key ends in: the key
 /// without its "Units.<family>." prefix. The comment is a hint for translators and has no effect; it may be null.
+///
+/// Example (English): of a table that the bundle does not have
+///   KZMLocalizedStringFromTableInBundle("Units.Memory.%@ GB", "Other", nullptr, nullptr)  // "%@ GB"
 [[nodiscard]] KZM_EXPORT std::string KZMLocalizedStringFromTableInBundle(std::string_view key, std::string_view table,
                                                                          const kzm::ResourceBundle* bundle,
                                                                          const char* comment);
@@ -43,6 +46,11 @@ struct ResourceBundle {
 /// Chooses the languages in which texts are wanted, best first, as locale identifiers ("de_CH", "sr_Latn", "fr").
 /// Without it they come from the environment: LANGUAGE, LC_ALL, LC_MESSAGES, LANG. Meant for start-up: a text that was
 /// looked up before stays in its language wherever it was kept.
+///
+/// Example:
+///   const std::string languages[] = {"en_US", "en"};
+///   KZMLocalizationSetLanguages(languages);
+///   KZMLocalizedStringFromTableInBundle("Units.Memory.%@ GB", "Other", nullptr, nullptr)  // "%@ GB"
 KZM_EXPORT void KZMLocalizationSetLanguages(std::span<const std::string> identifiers);
 
 #endif

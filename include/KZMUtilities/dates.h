@@ -140,6 +140,9 @@ struct DateComponents {
 [[nodiscard]] KZM_EXPORT TimePoint dateFromComponents(CalendarUnits units);
 
 /// `timeIntervalFromComponents:` The same in seconds since 1970; 0 when there is no such date.
+///
+/// Example (UTC):
+///   timeIntervalFromComponents(0)  // -62135769600.0
 [[nodiscard]] KZM_EXPORT double timeIntervalFromComponents(CalendarUnits units);
 
 // ---- Day starts, sums -----------------------------------------------------------------------------------------------
@@ -148,7 +151,11 @@ struct DateComponents {
 ///
 /// Deliberate: the era is not looked at. A day before Christ gives the start of the day with the same year number,
 /// month and day after Christ; so do the other day starts (DayStart.DropsTheEra).
+///
+/// Example (UTC):
+///   dayStart(1700000000.0)  // 1699920000.0
 [[nodiscard]] KZM_EXPORT TimePoint dayStart(TimePoint t);
+
 /// `dayStartWithTimezone:` The same in the given zone.
 ///
 /// Example:
@@ -161,13 +168,19 @@ struct DateComponents {
 /// Example: the clock goes forward in between, so the two days have 47 hours
 ///   addDaysTimezone(1489217400.0, 2, *TimeZone::named("America/New_York"))  // 1489386600.0
 [[nodiscard]] KZM_EXPORT TimePoint addDaysTimezone(TimePoint t, std::int64_t days, TimeZone zone);
+
 /// `addDays:` The same in the default zone.
+///
+/// Example (UTC):
+///   addDays(1700000000.0, 1)  // 1700086400.0
 [[nodiscard]] KZM_EXPORT TimePoint addDays(TimePoint t, std::int64_t days);
+
 /// `addHours:` The given number of hours later, each of 3600 elapsed seconds.
 ///
 /// Example:
 ///   addHours(1700000000.5, -1)  // 1699996400.5
 [[nodiscard]] KZM_EXPORT TimePoint addHours(TimePoint t, std::int64_t hours);
+
 /// `addMonths:` The same day and wall time of the default zone, the given number of months later. A day that the month
 /// does not have becomes its last: 31 January and one month is 28 or 29 February.
 ///
@@ -182,21 +195,35 @@ struct DateComponents {
 /// Example (UTC):
 ///   corrected(1700000000.0)  // 1700000000.0
 [[nodiscard]] KZM_EXPORT TimePoint corrected(TimePoint t);
+
 /// `utcStart` The UTC midnight of the day that the time point has in the default zone.
 ///
 /// Example (UTC):
 ///   utcStart(1700000000.0)  // 1699920000.0
 [[nodiscard]] KZM_EXPORT TimePoint utcStart(TimePoint t);
+
 /// `utcStartForToday` The same for now.
+///
+/// Example (UTC):
+///   std::fmod(*utcStartForToday(), 86400.0)  // 0.0
 [[nodiscard]] KZM_EXPORT TimePoint utcStartForToday();
+
 /// `converFromTimezoneToUTC:` The time point minus the zone's offset then.
 ///
 /// Example:
 ///   converFromTimezoneToUTC(1700000000.0, *TimeZone::named("Asia/Kolkata"))  // 1699980200.0
 [[nodiscard]] KZM_EXPORT TimePoint converFromTimezoneToUTC(TimePoint t, TimeZone zone);
+
 /// `converToTimezone:` The time point minus the system zone's offset then, plus the given zone's.
+///
+/// Example (UTC):
+///   converToTimezone(1700000000.0, *TimeZone::named("Asia/Kolkata"))  // 1700019800.0
 [[nodiscard]] KZM_EXPORT TimePoint converToTimezone(TimePoint t, TimeZone zone);
+
 /// `converFromTimezone:` The time point minus the given zone's offset then, plus the system zone's.
+///
+/// Example (UTC):
+///   converFromTimezone(1700000000.0, *TimeZone::named("Asia/Kolkata"))  // 1699980200.0
 [[nodiscard]] KZM_EXPORT TimePoint converFromTimezone(TimePoint t, TimeZone zone);
 
 // ---- Ordinal numbers ------------------------------------------------------------------------------------------------
@@ -207,6 +234,7 @@ struct DateComponents {
 /// Example:
 ///   ordinalSuffixFromDay(22)  // "nd"
 [[nodiscard]] KZM_EXPORT std::string ordinalSuffixFromDay(std::int64_t day);
+
 /// `ordinalSuffix` The same for the time point's day of the month in the default zone; null for no date.
 ///
 /// Example (UTC):

@@ -22,6 +22,8 @@
 
 namespace kzm {
 
+// ---- Units ----------------------------------------------------------------------------------------------------------
+
 /// The units in which weather and sensor quantities are shown.
 enum class MeasurementUnit : std::uint8_t {
   celsius,
@@ -51,6 +53,8 @@ enum class MeasurementUnit : std::uint8_t {
 using PreferredUnits = std::map<std::string, MeasurementUnit, std::less<>>;
 
 }  // namespace kzm
+
+// ---- The user's units -----------------------------------------------------------------------------------------------
 
 /// Holder of the region's preferred units, and the one who asks the settings.
 ///
@@ -116,6 +120,8 @@ class KZM_EXPORT KZMUtilitiesDefaultUnits {
 };
 
 namespace kzm {
+
+// ---- Settings -------------------------------------------------------------------------------------------------------
 
 /// One setting by which the user chooses a unit.
 struct UnitSetting {

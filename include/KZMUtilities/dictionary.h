@@ -1,6 +1,7 @@
 // The string-keyed dictionary of Values: options come in and results go out as one.
 //
-// Like value.h, this header needs no library: all of its code is here.
+// A Dictionary is an ordinary value: read one object from many threads, change it from one. Like value.h, this header
+// needs no library: all of its code is here.
 #ifndef KZMUTILITIES_DICTIONARY_H
 #define KZMUTILITIES_DICTIONARY_H
 

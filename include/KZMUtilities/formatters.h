@@ -26,6 +26,8 @@ namespace core {
 struct FormatterParts;
 }
 
+// ---- Formatters and locales -----------------------------------------------------------------------------------------
+
 /// A decimal-style number formatter: the locale's separators, grouping, minimum grouping, digits and minus.
 ///
 /// Numbers are rounded half to even on the shortest decimal that reads back to the same double: 2.675 with two digits
@@ -67,16 +69,27 @@ class KZM_EXPORT Locale final : public Object {
   std::string identifier_;
 };
 
+// ---- The locale in force --------------------------------------------------------------------------------------------
+
 /// Chooses the locale of numbers and of default units for the whole process: an identifier such as "de_CH" or
 /// "hi_IN@numbers=deva", or a POSIX name such as "de_CH.UTF-8". To be called at start-up: formatters, unit texts and
 /// default units made before keep the locale they were made in. Texts are chosen by the localization library, which is
 /// to be given the same identifier: there are languages with texts, but without a number style of their own.
+///
+/// Example:
+///   setCurrentLocale("en_US.UTF-8");
+///   currentLocale()  // "en_US"
 KZM_EXPORT void setCurrentLocale(std::string_view identifier);
 
 /// The identifier of the locale of numbers.
+///
+/// Example (English):
+///   currentLocale()  // "en_US"
 [[nodiscard]] KZM_EXPORT std::string currentLocale();
 
 }  // namespace kzm
+
+// ---- What the shared cache keeps ------------------------------------------------------------------------------------
 
 /// The shared formatter with at least and at most the given numbers of fraction digits, made on the first request and
 /// kept in the shared cache under "NumberFormatter-Decimal-<minimum>.<maximum>". Any counts are taken; a maximum below
@@ -103,6 +116,8 @@ KZM_EXPORT void setCurrentLocale(std::string_view identifier);
 ///   KZMUtilitiesPosixLocale(std::make_shared<kzm::Locale>("de_CH"))->identifier()  // "de_CH_POSIX"
 [[nodiscard]] KZM_EXPORT std::shared_ptr<const kzm::Locale> KZMUtilitiesPosixLocale(
     const std::shared_ptr<const kzm::Locale>& locale);
+
+// ---- Text -----------------------------------------------------------------------------------------------------------
 
 /// The number alone, as text.
 ///

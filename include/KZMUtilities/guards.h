@@ -12,6 +12,8 @@
 
 namespace kzm {
 
+// ---- Exceptions -----------------------------------------------------------------------------------------------------
+
 /// The host's exception: the one kind that the guards below catch. Hosts throw it, or classes derived from it.
 class KZM_EXPORT Exception : public std::exception {
  public:
@@ -61,6 +63,8 @@ KZM_EXPORT void KZMTryCatchBlock(const std::function<void()>& block);
 KZM_EXPORT void KZMTryCatchBlockWithError(const std::function<void()>& block,
                                           const std::function<void(const kzm::Exception*)>& completion);
 
+// ---- Maximum and minimum --------------------------------------------------------------------------------------------
+
 /// The greater of the finite arguments; 0.0 when neither is finite (NaN, an infinity). On a tie, a: the maximum of -0.0
 /// and 0.0 is -0.0.
 ///
@@ -74,6 +78,8 @@ KZM_EXPORT void KZMTryCatchBlockWithError(const std::function<void()>& block,
 /// Example:
 ///   KZMMINDouble(3.0, -2.0)  // -2.0
 [[nodiscard]] KZM_EXPORT double KZMMINDouble(double a, double b);
+
+// ---- Names ----------------------------------------------------------------------------------------------------------
 
 /// Published under its name, with no operations and no state. Its constructor is defined inside the library, for a
 /// class leaves its name among the exported symbols only through something of its own that is compiled there.

@@ -1,5 +1,6 @@
 // The keys of a Dictionary, and the names of all options and results.
 //
+// A key never changes and may be read from any thread. It refers to its text, which the caller keeps.
 // Like value.h, this header needs no library: all of its code is here.
 #ifndef KZMUTILITIES_KEY_H
 #define KZMUTILITIES_KEY_H

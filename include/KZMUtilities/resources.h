@@ -1,4 +1,6 @@
 // The library's own resources.
+//
+// Bundles live forever. Every function may be called from any thread at any time.
 #ifndef KZMUTILITIES_RESOURCES_H
 #define KZMUTILITIES_RESOURCES_H
 
@@ -12,7 +14,10 @@ namespace kzm {
 /// The identifier of the bundle that holds the "KZMUtilities" string tables.
 inline constexpr std::string_view kBundleIdentifier = "org.kzm.utilities";
 
-/// The bundle with this identifier; null when there is none. Bundles live forever. May be called from any thread.
+/// The bundle with this identifier; null when there is none.
+///
+/// Example:
+///   bundleWithIdentifier(kBundleIdentifier)->developmentLanguage  // "en"
 [[nodiscard]] KZM_EXPORT const ResourceBundle* bundleWithIdentifier(std::string_view identifier) noexcept;
 
 }  // namespace kzm

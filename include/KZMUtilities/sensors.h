@@ -41,7 +41,6 @@ struct SensorType {
 /// Converts and scales a reading. Gives nothing for a kind that does not exist, and for a unit that a host's own unit
 /// texts lack.
 ///
-/// type  one of kzm::SensorType
 /// options:
 ///   "space"                boolean    one space between number and unit, of those that have a form with one
 ///   "reverse-type"         presence   temperature: swaps Celsius and Fahrenheit; Kelvin stays
@@ -50,6 +49,7 @@ struct SensorType {
 ///   "decimals-amperage", "decimals-power", "decimals-voltage"   decimals rules of current, power and voltage; without
 ///                          one that holds 1, but 0 in the small unit and for a value of 0
 ///   "decimals-frequency"   decimals rules of frequency; without one that holds 2
+/// type  one of kzm::SensorType
 ///
 /// Example (English):
 ///   *KZMUtilitiesSensorData(kzm::SensorType::voltage, {}, 0.95)->find("value")  // 950.0

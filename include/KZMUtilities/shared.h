@@ -15,6 +15,8 @@
 
 namespace kzm {
 
+// ---- The cache ------------------------------------------------------------------------------------------------------
+
 /// A dictionary that many threads read and change.
 ///
 /// The library keeps in it, and never removes:
@@ -53,6 +55,8 @@ class KZM_EXPORT Cache {
 };
 
 }  // namespace kzm
+
+// ---- Its holder -----------------------------------------------------------------------------------------------------
 
 /// Holder of the shared cache.
 class KZM_EXPORT KZMUtilities {

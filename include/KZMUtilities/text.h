@@ -16,6 +16,8 @@
 
 namespace kzm {
 
+// ---- Replacing ------------------------------------------------------------------------------------------------------
+
 /// `replaceString:withString:attributes:` Replaces the first occurrence of the target by the replacement text with
 /// the given attributes over its whole length.
 ///
@@ -39,6 +41,8 @@ KZM_EXPORT void replaceStringWithStringAttributes(AttributedString& text, std::s
 KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::string_view target,
                                                   const AttributedString& replacement);
 
+// ---- Lines of any direction -----------------------------------------------------------------------------------------
+
 /// The text between a first-strong isolate, U+2068, and its end, U+2069, so that it keeps its own order in a line of
 /// any direction, and does not change that of its neighbors. Where the sign of a number or its digits would mislead
 /// that, an isolate of the right direction, U+2066 or U+2067: a unit does not change sides when its number becomes
@@ -54,7 +58,12 @@ KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::s
 [[nodiscard]] KZM_EXPORT std::string isolated(std::string_view text);
 
 /// The same; the marks have the attributes of their neighbors.
+///
+/// Example:
+///   isolated(AttributedString("19.7 GB", "bold")).text()  // "\u206819.7 GB\u2069"
 [[nodiscard]] KZM_EXPORT AttributedString isolated(const AttributedString& text);
+
+// ---- Regular expressions --------------------------------------------------------------------------------------------
 
 /// `doesStringMatchExpression:` Whether the pattern is found in the text and its capture group 1 took part.
 ///

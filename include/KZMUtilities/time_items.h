@@ -1,4 +1,7 @@
 // The catalogue of the pieces from which a user composes a clock or date display.
+//
+// The function may be called from any thread at any time. What it gives belongs to the caller; the groups in it and all
+// inside them are shared by all callers and never change.
 #ifndef KZMUTILITIES_TIME_ITEMS_H
 #define KZMUTILITIES_TIME_ITEMS_H
 
@@ -19,8 +22,7 @@
 ///       "label"   string    where given: what a chooser shows; otherwise it shows the token or a rendering of it
 ///       "force"   boolean   where given: true, on the single-digit minute and second
 ///
-/// The array is new on each call and the caller's own; the groups and all inside them are shared by all callers and
-/// never change. Nothing is localized, nothing depends on the date. Never fails. May be called from any thread.
+/// The array is new on each call. Nothing is localized, nothing depends on the date. Never fails.
 ///
 /// Example:
 ///   *KZMUtilitiesTimeItems()[0].dictionary()->find("type")  // "hour"

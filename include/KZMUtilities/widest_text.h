@@ -70,6 +70,9 @@ struct ValueRange {
 using TextMeasure = std::function<double(std::string_view)>;
 
 /// The measure of terminals and status bars: displayWidth.
+///
+/// Example:
+///   widthInColumns("21°")  // 3.0
 [[nodiscard]] KZM_EXPORT double widthInColumns(std::string_view text);
 
 /// The widest text that the family's function makes of a value in the range, with these options; of several the first

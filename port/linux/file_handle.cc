@@ -3,11 +3,11 @@
 #include <fcntl.h>
 #include <mutex>
 #include <unistd.h>
-#include <utility>
 
 #include <KZMUtilities/process.h>
 
-#include "port/linux/retried.h"
+#include "port/descriptor.h"
+#include "port/retried.h"
 
 namespace kzm {
 namespace {
@@ -27,15 +27,10 @@ struct FileHandle::State {
   explicit State(int number) : descriptor(number) {}
   State(const State&) = delete;
   State& operator=(const State&) = delete;
-  ~State() { close(); }
-
-  // Not repeated when interrupted: the number is free by then, and perhaps somebody else's.
-  void close() {
-    if (descriptor >= 0) ::close(std::exchange(descriptor, -1));
-  }
+  ~State() = default;
 
   std::mutex mutex;
-  int descriptor;
+  port::Descriptor descriptor;
 };
 
 FileHandle::FileHandle() noexcept = default;
@@ -59,8 +54,8 @@ FileHandle FileHandle::openForWriting(const std::string& path) {
 FileHandle FileHandle::duplicate() const {
   if (!state_) return {};
   const std::lock_guard lock(state_->mutex);
-  if (state_->descriptor < 0) return {};
-  return adopt(::fcntl(state_->descriptor, F_DUPFD_CLOEXEC, kFirstFreeDescriptor));
+  if (!state_->descriptor.isOpen()) return {};
+  return adopt(::fcntl(state_->descriptor.number(), F_DUPFD_CLOEXEC, kFirstFreeDescriptor));
 }
 
 bool FileHandle::isOpen() const { return descriptor() >= 0; }
@@ -68,13 +63,13 @@ bool FileHandle::isOpen() const { return descriptor() >= 0; }
 int FileHandle::descriptor() const {
   if (!state_) return -1;
   const std::lock_guard lock(state_->mutex);
-  return state_->descriptor;
+  return state_->descriptor.number();
 }
 
 void FileHandle::close() const {
   if (!state_) return;
   const std::lock_guard lock(state_->mutex);
-  state_->close();
+  state_->descriptor.close();
 }
 
 Pipe::Pipe() {

@@ -13,8 +13,8 @@
 #include <syslog.h>
 #include <unistd.h>
 
-#include "port/linux/standard_error.h"
 #include "port/never_destroyed.h"
+#include "port/standard_error.h"
 
 namespace kzm::port {
 namespace {
@@ -33,7 +33,7 @@ void writeToSyslog(std::string_view text) {
 }
 
 // "YYYY-MM-DD HH:MM:SS.mmm name[pid:thread] text", in local time. What does not fit is cut.
-void writeToStandardError(std::string_view text) {
+void writeDatedLine(std::string_view text) {
   timespec now{};
   tm local{};
   ::clock_gettime(CLOCK_REALTIME, &now);
@@ -47,7 +47,7 @@ void writeToStandardError(std::string_view text) {
                 static_cast<int>(::gettid()), static_cast<int>(text.size()), text.data());
   const std::size_t length = std::strlen(line.data());
   line[length] = '\n';
-  tellStandardError({line.data(), length + 1});
+  writeToStandardError({line.data(), length + 1});
 }
 
 class SystemLog final : public Log {
@@ -56,7 +56,7 @@ class SystemLog final : public Log {
     const bool inJournal = writeToJournal(text);
     if (!inJournal) writeToSyslog(text);
     const bool errorsGoToJournal = g_log_writer_is_journald(STDERR_FILENO) != FALSE;
-    if (!inJournal || !errorsGoToJournal) writeToStandardError(text);
+    if (!inJournal || !errorsGoToJournal) writeDatedLine(text);
   }
 };
 

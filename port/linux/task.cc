@@ -6,11 +6,11 @@
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <utility>
 
+#include "port/descriptor.h"
 #include "port/linux/pidfd.h"
-#include "port/linux/retried.h"
 #include "port/linux/spawn.h"
+#include "port/retried.h"
 
 namespace kzm::port {
 namespace {
@@ -34,26 +34,26 @@ class LinuxTask final : public Task {
   LinuxTask() = default;
   LinuxTask(const LinuxTask&) = delete;
   LinuxTask& operator=(const LinuxTask&) = delete;
-  ~LinuxTask() override { closePidfd(); }
+  ~LinuxTask() override = default;
 
   // False: the kernel cannot watch it.
   [[nodiscard]] bool watch(pid_t process) {
     process_ = process;
-    pidfd_ = openPidfd(process);
-    if (pidfd_ < 0) return errno == ESRCH;
+    pidfd_ = Descriptor(openPidfd(process));
+    if (!pidfd_.isOpen()) return errno == ESRCH;
     // In a host that ignores SIGCHLD the child may have ended and be gone, and another process have got its number.
     siginfo_t info{};
-    if (!waitFor(kPidfd, static_cast<id_t>(pidfd_), info, WEXITED | WNOHANG | WNOWAIT)) closePidfd();
+    if (!waitForOwn(info, WEXITED | WNOHANG | WNOWAIT)) pidfd_.close();
     return true;
   }
 
   [[nodiscard]] int processIdentifier() const override { return process_; }
-  [[nodiscard]] int exitDescriptor() const override { return pidfd_; }
+  [[nodiscard]] int exitDescriptor() const override { return pidfd_.number(); }
 
   [[nodiscard]] std::optional<ExitStatus> collect() override {
     if (status_) return status_;
     siginfo_t info{};
-    if (pidfd_ < 0 || !waitFor(kPidfd, static_cast<id_t>(pidfd_), info, WEXITED | WNOHANG)) {
+    if (!pidfd_.isOpen() || !waitForOwn(info, WEXITED | WNOHANG)) {
       status_ = ExitStatus{};  // ended, but something else has taken the status: a host that ignores SIGCHLD, say
     } else if (info.si_pid != 0) {
       status_ = statusOf(info);
@@ -63,16 +63,16 @@ class LinuxTask final : public Task {
 
   void stop(Stop how) override {
     const int number = how == Stop::force ? SIGKILL : SIGTERM;
-    if (!status_ && pidfd_ >= 0) signalPidfd(pidfd_, number);
+    if (!status_ && pidfd_.isOpen()) signalPidfd(pidfd_.number(), number);
   }
 
  private:
-  void closePidfd() {
-    if (pidfd_ >= 0) ::close(std::exchange(pidfd_, -1));
+  [[nodiscard]] bool waitForOwn(siginfo_t& info, int options) const {
+    return waitFor(kPidfd, static_cast<id_t>(pidfd_.number()), info, options);
   }
 
   pid_t process_ = 0;
-  int pidfd_ = -1;
+  Descriptor pidfd_;
   std::optional<ExitStatus> status_;
 };
 

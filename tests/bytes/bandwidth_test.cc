@@ -127,6 +127,11 @@ TEST(Bandwidth, EveryDoubleHasAnAnswer) {
   kBandwidth.expectAll(rows);
 }
 
+void expectBothTexts(const Dictionary& options, double bytesPerSecond, const char* text) {
+  EXPECT_EQ(KZMUtilitiesFormatBandwidth(options, bytesPerSecond), text);
+  EXPECT_EQ(KZMUtilitiesFormatBandwidthWithAttributes(options, bytesPerSecond).text(), text);
+}
+
 // Every unit once: 2 kilo, 3 mega and 4 giga in each of the ten styles.
 TEST(Bandwidth, EveryUnitInItsStyle) {
   struct Style {
@@ -148,12 +153,9 @@ TEST(Bandwidth, EveryUnitInItsStyle) {
   constexpr double kAsBits[] = {256.0, 393216.0, 536870912.0};
   for (const Style& style : styles) {
     const Dictionary bytes{{"unitsize", style.size}, {"space", style.space}};
-    const Dictionary bits = with(bytes, "bandwidthformat", 2);
     for (std::size_t level = 0; level < 3; ++level) {
-      EXPECT_EQ(KZMUtilitiesFormatBandwidth(bytes, kBytes[level]), style.bytes[level]);
-      EXPECT_EQ(KZMUtilitiesFormatBandwidth(bits, kAsBits[level]), style.bits[level]);
-      EXPECT_EQ(KZMUtilitiesFormatBandwidthWithAttributes(bytes, kBytes[level]).text(), style.bytes[level]);
-      EXPECT_EQ(KZMUtilitiesFormatBandwidthWithAttributes(bits, kAsBits[level]).text(), style.bits[level]);
+      expectBothTexts(bytes, kBytes[level], style.bytes[level]);
+      expectBothTexts(with(bytes, "bandwidthformat", 2), kAsBits[level], style.bits[level]);
     }
   }
 }
@@ -208,7 +210,6 @@ TEST(Bandwidth, WithoutDecimalsTheAttributedNumberIsNeverGrouped) {
   };
   const Dictionary oneDigit{{"decimals-kb", Array{rule(1e9, 1)}}};
   const Dictionary negativeDigits{{"decimals-kb", Array{rule(1e9, -1)}}};
-  // clang-format off
   const Case cases[] = {
       {"rounded up to four digits", {}, 1048166.4, "1,024KB/s", "1024KB/s"},
       {"a negative million", {}, -1073741824.0, "-1,048,576KB/s", "-1048576KB/s"},
@@ -221,10 +222,12 @@ TEST(Bandwidth, WithoutDecimalsTheAttributedNumberIsNeverGrouped) {
       {"minus infinite", {}, -kInfinity, "-∞KB/s", "-infKB/s"},
       {"negative digits are none", negativeDigits, 1047552.0, "1,023KB/s", "1023KB/s"},
       {"with decimals both are grouped", oneDigit, 1047552.0, "1,023.0KB/s", "1,023.0KB/s"},
-      {"and name infinity alike", {{"decimals-gb", Array{rule(kInfinity, 1)}}}, 1e30,
-       "931,322,574,615,478,500,000.0GB/s", "931,322,574,615,478,500,000.0GB/s"},
+      {"and name infinity alike",
+       {{"decimals-gb", Array{rule(kInfinity, 1)}}},
+       1e30,
+       "931,322,574,615,478,500,000.0GB/s",
+       "931,322,574,615,478,500,000.0GB/s"},
   };
-  // clang-format on
   for (const Case& c : cases) {
     EXPECT_EQ(KZMUtilitiesFormatBandwidth(c.options, c.quantity), c.plain) << c.why;
     EXPECT_EQ(KZMUtilitiesFormatBandwidthWithAttributes(c.options, c.quantity).text(), c.attributed) << c.why;

@@ -58,7 +58,6 @@ TEST(DiskSpace, EveryDoubleHasAnAnswer) {
 
 TEST(DiskSpace, EveryUnitInItsStyle) {
   constexpr double kSizes[] = {2e3, 3e6, 4e9, 5e12, 6e15};
-  // clang-format off
   const StyleRow styles[] = {
       {"brief", {{"short", true}}, {"2K", "3M", "4G", "5T", "6P"}},
       {"spaced", {{"space", true}}, {"2 KB", "3 MB", "4 GB", "5 TB", "6 PB"}},
@@ -69,7 +68,6 @@ TEST(DiskSpace, EveryUnitInItsStyle) {
       {"mistyped", {{"short", Array{1}}, {"space", Dictionary{{"a", 1}}}}, {"2KB", "3MB", "4GB", "5TB", "6PB"}},
       {"no unit sizes", {{"unitsize", 1}}, {"2KB", "3MB", "4GB", "5TB", "6PB"}},
   };
-  // clang-format on
   kSpace.expectAll(styles, kSizes);
 }
 

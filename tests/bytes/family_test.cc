@@ -35,7 +35,7 @@ TEST(Ladder, RatesHaveFour) {
     for (std::size_t i = 0; i < rungs.size(); ++i) {
       EXPECT_EQ(rungs[i].level, c.rungs[i].first) << c.why;
       EXPECT_EQ(rungs[i].threshold, c.rungs[i].second) << c.why;
-      EXPECT_EQ(rungs[i].test == bytes::Test::otherwise, i + 1 == rungs.size()) << c.why;
+      EXPECT_EQ(rungs[i].taken == Taken::otherwise, i + 1 == rungs.size()) << c.why;
     }
   }
 }
@@ -51,14 +51,14 @@ TEST(Ladder, ThresholdsAreReachedAsTheirTestsSay) {
   constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   static constexpr Rung kRungs[] = {
-      {Level::kilo, bytes::Test::atMost, 10.0, times(1.0)},
-      {Level::mega, bytes::Test::below, 20.0, times(1.0)},
-      {Level::giga, bytes::Test::otherwise, 0.0, times(1.0)},
+      {Level::kilo, Taken::atMost, 10.0, times(1.0)},
+      {Level::mega, Taken::below, 20.0, times(1.0)},
+      {Level::giga, Taken::otherwise, 0.0, times(1.0)},
   };
   static constexpr Rung kRates[] = {
-      {Level::kilo, bytes::Test::notAtLeast, 10.0, times(1.0)},
-      {Level::mega, bytes::Test::notAtLeast, 20.0, times(1.0)},
-      {Level::giga, bytes::Test::otherwise, 0.0, times(1.0)},
+      {Level::kilo, Taken::notAtLeast, 10.0, times(1.0)},
+      {Level::mega, Taken::notAtLeast, 20.0, times(1.0)},
+      {Level::giga, Taken::otherwise, 0.0, times(1.0)},
   };
   constexpr Ladder kSizes(kRungs);
   constexpr Ladder kRateLadder(kRates);

@@ -51,7 +51,7 @@ struct StyleRow {
   const char* texts[5];
 };
 
-inline bool isSame(double a, double b) {
+inline bool isSameNumber(double a, double b) {
   return std::isnan(a) ? std::isnan(b) : a == b && std::signbit(a) == std::signbit(b);
 }
 
@@ -63,7 +63,7 @@ inline void expectData(const DataRow& row, const Dictionary& result) {
   EXPECT_EQ(*result.find("decimals"), Value(row.decimals));
   const double* value = result.find("value")->real();
   ASSERT_NE(value, nullptr);
-  EXPECT_TRUE(isSame(*value, row.value)) << std::hexfloat << *value << " is not " << row.value;
+  EXPECT_TRUE(isSameNumber(*value, row.value)) << std::hexfloat << *value << " is not " << row.value;
 }
 
 /// The three calls of a family. Rows are compared with what they give.

@@ -8,7 +8,7 @@ namespace {
 
 std::string deep(std::size_t levels) { return "{\"a\": " + std::string(levels, '[') + std::string(levels, ']') + "}"; }
 
-TEST(Errors, AreToldInOneLine) {
+TEST(Errors, AreReportedInOneLine) {
   struct Case {
     const char* why;
     char* (*call)();

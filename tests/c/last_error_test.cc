@@ -12,7 +12,7 @@ TEST(LastError, IsCutBetweenCharacters) {
   struct Case {
     const char* why;
     std::string text;
-    std::string told;
+    std::string reported;
   };
   const Case cases[] = {
       {"short", "no", "no"},
@@ -23,7 +23,7 @@ TEST(LastError, IsCutBetweenCharacters) {
   };
   for (const Case& c : cases) {
     setError(c.text);
-    EXPECT_EQ(lastError, c.told) << c.why;
+    EXPECT_EQ(lastError, c.reported) << c.why;
   }
 }
 

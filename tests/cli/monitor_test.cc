@@ -40,7 +40,7 @@ TEST_F(OnTerminal, HasAScreenOfItsOwn) {
   start({"memory"});
   const std::string first = terminal.take();
   EXPECT_TRUE(first.starts_with(kEnter + "\x1b[0m" + kClear)) << first;
-  EXPECT_NE(first.find("\x1b[0;1mMemory"), std::string::npos) << first;
+  EXPECT_NE(first.find("\x1b[0;1m?"), std::string::npos) << first;
   EXPECT_EQ(first.find('\n'), std::string::npos) << "nothing scrolls";
   EXPECT_FALSE(terminal.isUsual());
   terminal.type("q");
@@ -97,9 +97,9 @@ TEST_F(OnTerminal, WritesOnlyWhatChanges) {
   terminal.type("?");
   ASSERT_TRUE(terminal.saw("PgDn"));
   EXPECT_EQ(terminal.take().find("±"), std::string::npos) << "the last line stays";
-  terminal.type("\x1b");
-  ASSERT_TRUE(terminal.saw("Memory"));
-  terminal.type("+q");
+  terminal.type("\x1b-");
+  ASSERT_TRUE(terminal.saw("± 9")) << "900 seconds instead of 3,600; its zeros were there already";
+  terminal.type("q");
   expectEnd(0);
 }
 
@@ -124,6 +124,7 @@ struct DressCase {
 };
 
 TEST_F(OnTerminal, ColorsAreTheUsersChoice) {
+  if (::access("/proc/stat", R_OK) != 0) GTEST_SKIP() << "left out: there is no load to color, as /proc is not mounted";
   const DressCase cases[] = {
       {{"load", "--count", "1"}, {}, true, true},
       {{"load", "--count", "1"}, {"NO_COLOR=1"}, false, true},

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <ostream>
 #include <poll.h>
 #include <spawn.h>
 #include <string>
@@ -21,7 +22,18 @@ struct Outcome {
   std::string output;
   std::string errors;
   int status = -1;  // minus the signal when one ended it
+
+  friend bool operator==(const Outcome&, const Outcome&) = default;
+  friend void PrintTo(const Outcome& outcome, std::ostream* out) {
+    *out << "status " << outcome.status << "\noutput: " << outcome.output << "\nerrors: " << outcome.errors;
+  }
 };
+
+/// The verb and the words after it.
+inline std::vector<std::string> line(const char* verb, std::vector<std::string> words) {
+  words.insert(words.begin(), verb);
+  return words;
+}
 
 /// The settings of all programs of a test, empty at its start.
 inline ScratchDirectory& configuration() {

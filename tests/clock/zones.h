@@ -29,7 +29,7 @@ class WithDefaultZone {
   TimeZone former_ = TimeZone::defaultZone();
 };
 
-/// A clock that stands still until the end of the block. Only one at a time.
+/// A clock that is held until the end of the block. Only one at a time.
 class WithNow {
  public:
   explicit WithNow(double now) {

@@ -2,13 +2,17 @@
 #ifndef KZM_TESTS_CONTRACT_EXAMPLES_H
 #define KZM_TESTS_CONTRACT_EXAMPLES_H
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
+#include <KZMLocalization/KZMLocalization.h>
 #include <KZMUtilities/KZMUtilities.h>
 
 #include "tests/support/settings.h"
@@ -31,6 +35,9 @@ class Context {
         {"millimeters", "Weather.Global.Units.Precipitation", 1}, {"miles", "Weather.Global.Units.Distance", 2},
     };
     tests::useNoSettings();
+    setCurrentLocale("en_US");
+    KZMLocalizationSetLanguages(std::array<std::string, 1>{"en_US"});
+    KZMUtilities::shared().setCache(nullptr);
     while (!words.empty()) {
       const std::string_view word = words.substr(0, words.find(", "));
       words.remove_prefix(std::min(words.size(), word.size() + 2));

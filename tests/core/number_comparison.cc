@@ -31,10 +31,10 @@ std::vector<std::string> allLocales() {
 std::atomic<long> compared{0};
 std::atomic<long> different{0};
 
-void tell(const std::string& locale, int least, int most, double value, const std::string& text,
-          const std::string& expected) {
-  constexpr long kMostTold = 20;
-  if (++different > kMostTold) return;
+void report(const std::string& locale, int least, int most, double value, const std::string& text,
+            const std::string& expected) {
+  constexpr long kMostReported = 20;
+  if (++different > kMostReported) return;
   std::fprintf(stderr, "%s, %d to %d digits, %.17g: \"%s\" instead of \"%s\"\n", locale.c_str(), least, most, value,
                text.c_str(), expected.c_str());
 }
@@ -49,7 +49,7 @@ void compare(const std::string& locale, int most, long count, std::mt19937_64& r
     const double value = anyDouble(random);
     const std::string text = core::numberAlone(style, value);
     const std::string expected = reference.text(value);
-    if (text != expected) tell(locale, least, most, value, text, expected);
+    if (text != expected) report(locale, least, most, value, text, expected);
   }
   compared += count;
 }

@@ -12,6 +12,7 @@
 #include "core/template.h"
 #include "port/environment_locale.h"
 #include "tests/core/number_reference.h"
+#include "tests/support/sweeps.h"
 
 namespace kzm::core {
 namespace {
@@ -172,7 +173,7 @@ TEST(NumberText, EqualsTheLocaleLibrarysFormatter) {
     for (int most = 0; most <= 8; ++most) {
       const int least = most % 2 == 0 ? most : 0;
       const tests::NumberReference reference(locale, least, most);
-      for (int i = 0; i < 1500; ++i) {
+      for (int left = tests::inSweep(1500, 200); left > 0; --left) {
         const double value = tests::anyDouble(random);
         ASSERT_EQ(text(locale, least, most, value), reference.text(value)) << locale << ' ' << most << ' ' << value;
       }

@@ -15,7 +15,7 @@ constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
 
 struct Opaque final : Object {};
 
-TEST(Reading, EveryKindOfValueHasAnAnswer) {
+TEST(OptionValues, EveryKindOfValueHasAnAnswer) {
   struct Case {
     const char* why;
     Value value;
@@ -53,20 +53,20 @@ TEST(Reading, EveryKindOfValueHasAnAnswer) {
   }
 }
 
-TEST(Reading, AbsentKeysAreZero) {
+TEST(OptionValues, AbsentKeysAreZero) {
   EXPECT_EQ(readInteger(nullptr), 0);
   EXPECT_EQ(readDouble(nullptr), 0.0);
   EXPECT_FALSE(readBoolean(nullptr));
 }
 
-TEST(Reading, NaNIsNoIntegerButTrue) {
+TEST(OptionValues, NaNIsNoIntegerButTrue) {
   const Value value = kNaN;
   EXPECT_EQ(readInteger(&value), 0);
   EXPECT_TRUE(std::isnan(readDouble(&value)));
   EXPECT_TRUE(readBoolean(&value));
 }
 
-TEST(Reading, StringsReadAsWhatTheySpell) {
+TEST(OptionValues, StringsReadAsWhatTheySpell) {
   struct Case {
     const char* text;
     std::int64_t integer;
@@ -131,7 +131,7 @@ Value rule(Value value, Value decimals) {
   return Dictionary{{"value", std::move(value)}, {"decimals", std::move(decimals)}};
 }
 
-TEST(Reading, TheFirstRuleAboveTheNumberGivesTheDecimals) {
+TEST(OptionValues, TheFirstRuleAboveTheNumberGivesTheDecimals) {
   const Value usual = Array{rule(10, 2), rule(100, 1)};
   Array entries = {7, nullptr, "x", Array(), Dictionary()};
   entries.push_back(rule("5.5", "3"));

@@ -37,7 +37,8 @@ bool fails() noexcept {
 std::string_view nameOf(std::string_view path) noexcept { return path.substr(path.rfind('/') + 1); }
 
 bool isBetween(std::string_view file) noexcept {
-  constexpr std::string_view kBetween[] = {"libc.", "libstdc++.", "libgcc_s.", "libpthread.", "kzm_faults", "linux-vdso"};
+  constexpr std::string_view kBetween[] = {"libc.",       "libstdc++.", "libgcc_s.",
+                                           "libpthread.", "kzm_faults", "linux-vdso"};
   for (const std::string_view name : kBetween) {
     if (file.starts_with(name)) return true;
   }

@@ -1,5 +1,5 @@
-// Each allocation of each call fails in turn, in a process of its own: the call fails cleanly or gives the right answer,
-// and from then on every call gives the right one.
+// Each allocation of each call fails in turn, in a process of its own: the call fails cleanly or gives the right
+// answer, and from then on every call gives the right one.
 //
 //   kzm_faults              the names of the calls
 //   kzm_faults NAME...      tries these; a line for each: its points cold and warm, and how they went
@@ -134,7 +134,7 @@ Went inProcess(const Body& body) {
 // How the points of a call went.
 struct Tally {
   std::array<std::size_t, static_cast<std::size_t>(Went::count)> count{};
-  std::map<std::string, std::size_t> ends;   // by the file whose code it was
+  std::map<std::string, std::size_t> ends;        // by the file whose code it was
   std::map<std::string, std::size_t> remembered;  // failing on, by the file whose code remembers it
 
   std::size_t& operator[](Went went) { return count[static_cast<std::size_t>(went)]; }
@@ -200,7 +200,8 @@ class Trial {
 std::string listOf(const std::map<std::string, std::size_t>& files) {
   std::string list;
   for (const auto& [file, count] : files) {
-    list += (list.empty() ? "" : ", ") + (file.empty() ? std::string("without end") : file) + " " + std::to_string(count);
+    list +=
+        (list.empty() ? "" : ", ") + (file.empty() ? std::string("without end") : file) + " " + std::to_string(count);
   }
   return list;
 }

@@ -35,8 +35,7 @@ Json anyOf(Input& input, std::size_t level);
 Json optionsOf(Input& input, std::size_t level) {
   Json options = Json::object();
   for (std::size_t count = input.below(6); count > 0; --count) {
-    const std::string name =
-        input.below(8) == 0 ? textOf(input) : std::string(input.any(kzm::internal::kSlottedNames));
+    const std::string name = input.below(8) == 0 ? textOf(input) : std::string(input.any(kzm::internal::kSlottedNames));
     options[name] = anyOf(input, level + 1);
   }
   return options;
@@ -72,7 +71,8 @@ Json argumentOf(Input& input, std::string_view kind) {
   if (kind == "double") return numberOf(input);
   if (kind == "dictionary") return optionsOf(input, 0);
   if (kind == "string") return textOf(input);
-  if (kind == "integer") return input.below(2) == 0 ? Json(input.take<std::int8_t>()) : Json(input.take<std::int64_t>());
+  if (kind == "integer")
+    return input.below(2) == 0 ? Json(input.take<std::int8_t>()) : Json(input.take<std::int64_t>());
   return anyOf(input, 0);
 }
 

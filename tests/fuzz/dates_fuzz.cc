@@ -44,8 +44,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const auto count = input.take<std::int64_t>();
     fuzz::checkDay(t, zone);
     for (const TimePoint result :
-         {dayStart(t), addDays(t, count), addDaysTimezone(t, count % 100000, zone), addHours(t, count), addMonths(t, count),
-          corrected(t), utcStart(t), converFromTimezoneToUTC(t, zone), converToTimezone(t, zone),
+         {dayStart(t), addDays(t, count), addDaysTimezone(t, count % 100000, zone), addHours(t, count),
+          addMonths(t, count), corrected(t), utcStart(t), converFromTimezoneToUTC(t, zone), converToTimezone(t, zone),
           converFromTimezone(t, zone)}) {
       fuzz::checkRange(result);
     }

@@ -1,8 +1,8 @@
 // Any bytes as a regular expression and as the text that is searched: there is an answer, in good time, and a pattern
 // without special characters is found exactly where it is.
 #include <algorithm>
-#include <chrono>
 #include <cctype>
+#include <chrono>
 #include <string>
 
 #include <KZMUtilities/text.h>

@@ -48,9 +48,7 @@ class Input {
     return taken;
   }
 
-  [[nodiscard]] std::string_view rest() const {
-    return {reinterpret_cast<const char*>(bytes_.data()), bytes_.size()};
-  }
+  [[nodiscard]] std::string_view rest() const { return {reinterpret_cast<const char*>(bytes_.data()), bytes_.size()}; }
 
  private:
   std::span<const std::uint8_t> bytes_;

@@ -13,8 +13,8 @@
 namespace kzm::fuzz {
 namespace {
 
-constexpr std::string_view kVariables[] = {"LC_ALL", "LC_NUMERIC", "LC_MEASUREMENT", "LC_TIME",
-                                           "LC_MESSAGES", "LANG", "LANGUAGE"};
+constexpr std::string_view kVariables[] = {"LC_ALL",      "LC_NUMERIC", "LC_MEASUREMENT", "LC_TIME",
+                                           "LC_MESSAGES", "LANG",       "LANGUAGE"};
 
 void checkEnvironment(Input& input) {
   std::vector<std::string> values;
@@ -25,8 +25,8 @@ void checkEnvironment(Input& input) {
     }
     return nullptr;
   };
-  for (const std::string& locale : {port::numberLocale(environment), port::measurementLocale(environment),
-                                    port::dateLocale(environment)}) {
+  for (const std::string& locale :
+       {port::numberLocale(environment), port::measurementLocale(environment), port::dateLocale(environment)}) {
     demand(port::usableLocale(locale) == locale, "what the environment asks for can be used");
   }
   for (const std::string& language : port::textLocales(environment)) demand(!language.empty(), "a language has a name");

@@ -71,7 +71,9 @@ void readAll(const machine::Root& root) {
   static_cast<void>(machine::readMemory(root));
   static_cast<void>(machine::loadBetween(machine::readProcessor(root), machine::readProcessor(root)));
   static_cast<void>(machine::readLoadAverages(root));
-  const auto noSpace = [](const std::string&) { return std::optional<machine::Space>({.total = 2, .used = 1, .free = 1}); };
+  const auto noSpace = [](const std::string&) {
+    return std::optional<machine::Space>({.total = 2, .used = 1, .free = 1});
+  };
   for (const machine::Volume& volume : machine::readVolumes(root, noSpace)) checkName(volume.name);
 }
 

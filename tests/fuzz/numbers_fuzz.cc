@@ -44,7 +44,8 @@ Decimal shortestDecimal(double magnitude) {
     if (mark > 2) decimal.digits += all.substr(2, mark - 2);
     if (valueOf(decimal) == magnitude) return decimal;
     decimal.digits = nextOf(decimal.digits);
-    if (decimal.digits.size() == static_cast<std::size_t>(precision) + 1 && valueOf(decimal) == magnitude) return decimal;
+    if (decimal.digits.size() == static_cast<std::size_t>(precision) + 1 && valueOf(decimal) == magnitude)
+      return decimal;
   }
 }
 
@@ -82,11 +83,13 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
   static const auto& symbols = *new kzm::NumberSymbols(kzm::port::plainSymbols());
   Input input(bytes, size);
   const int least = static_cast<int>(input.below(kzm::core::kMostFractionDigits + 1));
-  const int most = least + static_cast<int>(input.below(static_cast<std::size_t>(kzm::core::kMostFractionDigits - least) + 1));
+  const int most =
+      least + static_cast<int>(input.below(static_cast<std::size_t>(kzm::core::kMostFractionDigits - least) + 1));
   while (!input.empty()) {
     const auto value = input.take<double>();
     const std::string text = kzm::core::numberAlone(kzm::core::decimalStyle(symbols, least, most), value);
-    if (std::isfinite(value)) demand(text == onPaper(value, least, most), text + " is as on paper: " + onPaper(value, least, most));
+    if (std::isfinite(value))
+      demand(text == onPaper(value, least, most), text + " is as on paper: " + onPaper(value, least, most));
   }
   return 0;
 }

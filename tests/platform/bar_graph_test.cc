@@ -42,6 +42,17 @@ TEST(BarGraphFill, FillsExactlyTheRectangleWithRoundedCorners) {
   }
 }
 
+void expectNothingOutside(const Canvas& canvas, const Size& size) {
+  const int right = 4 + static_cast<int>(size.width + 0.99);
+  const int bottom = 4 + static_cast<int>(size.height + 0.99);
+  for (int y = 0; y < 16; ++y) {
+    for (int x = 0; x < 24; ++x) {
+      const bool inside = x >= 4 && y >= 4 && x < right && y < bottom;
+      EXPECT_TRUE(inside || canvas.pixel(x, y) == 0) << "at " << x << ", " << y;
+    }
+  }
+}
+
 // A rounded rectangle lacks (4 - pi) times the two radii at its four corners.
 TEST(BarGraphFill, NarrowBarsHaveEllipticalCornersAndStayInside) {
   struct Case {
@@ -59,17 +70,11 @@ TEST(BarGraphFill, NarrowBarsHaveEllipticalCornersAndStayInside) {
       {"a hair", {0.5, 8}, 3.571},
   };
   for (const Case& c : cases) {
+    SCOPED_TRACE(c.why);
     const Canvas canvas(24, 16);
     fill(canvas, {{4, 4}, c.size});
-    EXPECT_NEAR(canvas.area(), c.area, 0.02 * c.area + 0.03) << c.why;
-    const int right = 4 + static_cast<int>(c.size.width + 0.99);
-    const int bottom = 4 + static_cast<int>(c.size.height + 0.99);
-    for (int y = 0; y < 16; ++y) {
-      for (int x = 0; x < 24; ++x) {
-        const bool inside = x >= 4 && y >= 4 && x < right && y < bottom;
-        EXPECT_TRUE(inside || canvas.pixel(x, y) == 0) << c.why << " at " << x << ", " << y;
-      }
-    }
+    EXPECT_NEAR(canvas.area(), c.area, 0.02 * c.area + 0.03);
+    expectNothingOutside(canvas, c.size);
   }
 }
 
@@ -113,7 +118,7 @@ TEST(BarGraphBorder, WithoutWidthOrHeightItIsStrokedAllTheSame) {
   EXPECT_TRUE(canvas.isSound());
 }
 
-TEST(BarGraph, HugeOnesShowWhatLiesOnTheSurface) {
+TEST(BarGraph, HugeOnesShowWhatIsOnTheSurface) {
   const Canvas canvas(16, 16);
   fill(canvas, {{8, -1e9}, {1e12, 2e9}});
   EXPECT_EQ(canvas.pixel(7, 8), 0U);

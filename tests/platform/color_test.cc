@@ -9,6 +9,19 @@ namespace {
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
+void expectShade(const Color& color, double hue, double saturation, double brightness) {
+  EXPECT_DOUBLE_EQ(color.hue(), hue);
+  EXPECT_DOUBLE_EQ(color.saturation(), saturation);
+  EXPECT_DOUBLE_EQ(color.brightness(), brightness);
+  EXPECT_EQ(color.alpha(), 0.5);
+}
+
+void expectMixture(const Color& color, double red, double green, double blue) {
+  EXPECT_NEAR(color.red(), red, 1e-15);
+  EXPECT_NEAR(color.green(), green, 1e-15);
+  EXPECT_NEAR(color.blue(), blue, 1e-15);
+}
+
 TEST(Color, ConvertsBothWays) {
   struct Case {
     const char* why;
@@ -24,15 +37,9 @@ TEST(Color, ConvertsBothWays) {
       {"orange", 1.0, 0.5, 0.0, 1.0 / 12., 1.0, 1.0}, {"rose", 1.0, 0.0, 0.5, 11. / 12., 1.0, 1.0},
   };
   for (const Case& c : cases) {
-    const Color color = Color::fromRGBA(c.red, c.green, c.blue, 0.5);
-    EXPECT_DOUBLE_EQ(color.hue(), c.hue) << c.why;
-    EXPECT_DOUBLE_EQ(color.saturation(), c.saturation) << c.why;
-    EXPECT_DOUBLE_EQ(color.brightness(), c.brightness) << c.why;
-    EXPECT_EQ(color.alpha(), 0.5) << c.why;
-    const Color back = Color::fromHSBA(c.hue, c.saturation, c.brightness, 0.5);
-    EXPECT_NEAR(back.red(), c.red, 1e-15) << c.why;
-    EXPECT_NEAR(back.green(), c.green, 1e-15) << c.why;
-    EXPECT_NEAR(back.blue(), c.blue, 1e-15) << c.why;
+    SCOPED_TRACE(c.why);
+    expectShade(Color::fromRGBA(c.red, c.green, c.blue, 0.5), c.hue, c.saturation, c.brightness);
+    expectMixture(Color::fromHSBA(c.hue, c.saturation, c.brightness, 0.5), c.red, c.green, c.blue);
   }
 }
 

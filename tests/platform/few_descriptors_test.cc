@@ -85,6 +85,15 @@ constexpr bool kSanitized = true;
 constexpr bool kSanitized = false;
 #endif
 
+int startedWith(const StandardConnection& stream, int free, bool hasContext) {
+  return inItsOwnHost(free, hasContext,
+                      {.executable = KZM_CHILD_HELPER,
+                       .arguments = {"block"},
+                       .standardInput = stream,
+                       .standardOutput = stream,
+                       .standardError = stream});
+}
+
 TEST(FewDescriptors, AChildIsStartedWithItsWatchdogOrNothingHappens) {
   if (kSanitized) GTEST_SKIP() << "left out: the sanitizer needs descriptors itself";
   const FileHandle file = FileHandle::openForReading("/dev/null");
@@ -96,17 +105,10 @@ TEST(FewDescriptors, AChildIsStartedWithItsWatchdogOrNothingHappens) {
   const Case cases[] = {
       {"the host's own streams", InheritedStream{}, 2}, {"null streams", NullStream{}, 2}, {"three files", file, 5}};
   for (const Case& c : cases) {
-    for (const bool hasContext : {false, true}) {
-      for (int free = 0; free < 8; ++free) {
-        const int answer = inItsOwnHost(free, hasContext,
-                                        {.executable = KZM_CHILD_HELPER,
-                                         .arguments = {"block"},
-                                         .standardInput = c.stream,
-                                         .standardOutput = c.stream,
-                                         .standardError = c.stream});
-        EXPECT_EQ(answer, free >= c.enough ? kStarted : kStartFailed)
-            << c.why << ", " << free << " free, " << (hasContext ? "with" : "without") << " a main context";
-      }
+    for (int free = 0; free < 8; ++free) {
+      const int expected = free >= c.enough ? kStarted : kStartFailed;
+      EXPECT_EQ(startedWith(c.stream, free, true), expected) << c.why << ", " << free << " free";
+      EXPECT_EQ(startedWith(c.stream, free, false), expected) << c.why << ", " << free << " free, no main context";
     }
   }
 }

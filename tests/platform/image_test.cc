@@ -85,7 +85,7 @@ TEST(Image, ScaledDownItKeepsBothHalves) {
   EXPECT_EQ(canvas.area(), 16.0);
 }
 
-TEST(Image, MagnifiedBeyondMeasureItShowsTheColorThatLiesThere) {
+TEST(Image, MagnifiedBeyondMeasureItShowsTheColorThatIsThere) {
   const Canvas canvas(8, 8);
   const auto current = GraphicsContext(canvas.cairo()).makeCurrent();
   redOverBlue(4, 4).drawInRect({{-1e14, -1e12}, {4e14, 4e14}});

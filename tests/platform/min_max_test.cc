@@ -12,7 +12,7 @@ constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kMax = std::numeric_limits<double>::max();
 
-// Tells the two zeros apart, which == does not.
+// Distinguishes the two zeros, which == does not.
 std::uint64_t bits(double value) { return std::bit_cast<std::uint64_t>(value); }
 
 TEST(MinMax, PassOverWhatIsNotFinite) {

@@ -1,6 +1,6 @@
-#include <KZMUtilities/display_width.h>
-
 #include <gtest/gtest.h>
+
+#include <KZMUtilities/display_width.h>
 
 namespace kzm {
 namespace {

@@ -102,7 +102,7 @@ TEST_F(SensorData, OtherKindsGiveNothing) {
   }
 }
 
-TEST_F(SensorData, KeysStandInTheirOrder) {
+TEST_F(SensorData, KeysAreInTheirOrder) {
   const std::optional<Dictionary> data = KZMUtilitiesSensorData(SensorType::fan, kNone, 1200.0);
   ASSERT_TRUE(data.has_value());
   std::string keys;
@@ -186,42 +186,51 @@ TEST_F(SensorData, FanIsOffAtExactlyZero) {
   check(cases);
 }
 
-TEST_F(SensorData, SmallCurrentsPowersAndVoltagesAreInThousandths) {
-  struct Family {
-    std::int64_t type;
-    const char* base;
-    const char* baseSpaced;
-    const char* milli;
-    const char* milliSpaced;
+struct Family {
+  std::int64_t type;
+  const char* base;
+  const char* baseSpaced;
+  const char* milli;
+  const char* milliSpaced;
+};
+
+void checkThousandths(const Family& f) {
+  const Case cases[] = {
+      {"half", f.type, kSpace, 0.5, 500.0, 0, f.milliSpaced},
+      {"half, tight", f.type, kNone, 0.5, 500.0, 0, f.milli},
+      {"one stays", f.type, kSpace, 1.0, 1.0, 1, f.baseSpaced},
+      {"minus one stays", f.type, kNone, -1.0, -1.0, 1, f.base},
+      {"just below one", f.type, kNone, below(1.0), 999.9999999999999, 0, f.milli},
+      {"just above one", f.type, kNone, above(1.0), 1.0000000000000002, 1, f.base},
+      {"just inside", f.type, kNone, above(-1.0), -999.9999999999999, 0, f.milli},
+      {"just outside", f.type, kNone, below(-1.0), -1.0000000000000002, 1, f.base},
+      {"negative", f.type, kNone, -0.25, -250.0, 0, f.milli},
+      {"zero", f.type, kSpace, 0.0, 0.0, 0, f.baseSpaced},
+      {"minus zero", f.type, kNone, -0.0, -0.0, 0, f.base},
+      {"the least", f.type, kNone, 5e-324, 4.94e-321, 0, f.milli},
+      {"large", f.type, kNone, 500.0, 500.0, 1, f.base},
+      {"infinite", f.type, kNone, -kInfinity, -kInfinity, 1, f.base},
   };
+  check(cases);
+}
+
+void checkNotANumber(const Family& f) {
+  const std::optional<Dictionary> nan = KZMUtilitiesSensorData(f.type, kNone, kNan);
+  ASSERT_TRUE(nan.has_value());
+  EXPECT_TRUE(std::isnan(*nan->find("value")->real()));
+  EXPECT_EQ(*nan->find("decimals")->integer(), 1) << "not a number is not zero";
+  EXPECT_EQ(*nan->find("format")->string(), f.base);
+}
+
+TEST_F(SensorData, SmallCurrentsPowersAndVoltagesAreInThousandths) {
   const Family families[] = {
       {SensorType::current, "%@A", "%@ A", "%@mA", "%@ mA"},
       {SensorType::power, "%@W", "%@ W", "%@mW", "%@ mW"},
       {SensorType::voltage, "%@V", "%@ V", "%@mV", "%@ mV"},
   };
   for (const Family& f : families) {
-    const Case cases[] = {
-        {"half", f.type, kSpace, 0.5, 500.0, 0, f.milliSpaced},
-        {"half, tight", f.type, kNone, 0.5, 500.0, 0, f.milli},
-        {"one stays", f.type, kSpace, 1.0, 1.0, 1, f.baseSpaced},
-        {"minus one stays", f.type, kNone, -1.0, -1.0, 1, f.base},
-        {"just below one", f.type, kNone, below(1.0), 999.9999999999999, 0, f.milli},
-        {"just above one", f.type, kNone, above(1.0), 1.0000000000000002, 1, f.base},
-        {"just inside", f.type, kNone, above(-1.0), -999.9999999999999, 0, f.milli},
-        {"just outside", f.type, kNone, below(-1.0), -1.0000000000000002, 1, f.base},
-        {"negative", f.type, kNone, -0.25, -250.0, 0, f.milli},
-        {"zero", f.type, kSpace, 0.0, 0.0, 0, f.baseSpaced},
-        {"minus zero", f.type, kNone, -0.0, -0.0, 0, f.base},
-        {"the least", f.type, kNone, 5e-324, 4.94e-321, 0, f.milli},
-        {"large", f.type, kNone, 500.0, 500.0, 1, f.base},
-        {"infinite", f.type, kNone, -kInfinity, -kInfinity, 1, f.base},
-    };
-    check(cases);
-    const std::optional<Dictionary> nan = KZMUtilitiesSensorData(f.type, kNone, kNan);
-    ASSERT_TRUE(nan.has_value());
-    EXPECT_TRUE(std::isnan(*nan->find("value")->real()));
-    EXPECT_EQ(*nan->find("decimals")->integer(), 1) << "not a number is not zero";
-    EXPECT_EQ(*nan->find("format")->string(), f.base);
+    checkThousandths(f);
+    checkNotANumber(f);
   }
 }
 

@@ -115,7 +115,7 @@ TEST_F(StoreTest, RefusedValuesLeaveEverythingAsItWas) {
   EXPECT_EQ(scratch_.read(kFile), before);
 }
 
-TEST_F(StoreTest, ABrokenFileIsNotUsedNotOverwrittenAndToldOnceForEachContent) {
+TEST_F(StoreTest, ABrokenFileIsNotUsedNotOverwrittenAndReportedOnceForEachContent) {
   scratch_.write(kFile, "{\"a\": 1,\n");
   EXPECT_EQ(linesOf(5), "KZMSettings: " + path_ + " is not used: line 2 is not JSON\n");
   fs::last_write_time(path_, fs::file_time_type::clock::now());
@@ -271,7 +271,7 @@ TEST_F(StoreTest, NumbersOfOthersAreWrittenBackAsTheyCame) {
             "]\n}\n");
 }
 
-// A file that cannot be changed, and what is told of it.
+// A file that cannot be changed, and what is reported.
 TEST_F(StoreTest, EachFailureNamesTheFileAndTheReason) {
   struct Case {
     const char* why;
@@ -295,7 +295,7 @@ TEST_F(StoreTest, EachFailureNamesTheFileAndTheReason) {
   for (const Case& c : cases) {
     fs::remove_all(scratch_.path("KZMUtilities"));
     c.prepare(scratch_);
-    static_cast<void>(linesOf(1));  // a broken file is told once by itself
+    static_cast<void>(linesOf(1));  // a broken file is reported once by itself
     testing::internal::CaptureStderr();
     EXPECT_FALSE(store_.set(1, "a")) << c.why;
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "KZMSettings: " + path_ + " is not changed: " + c.fault + "\n")
@@ -303,7 +303,7 @@ TEST_F(StoreTest, EachFailureNamesTheFileAndTheReason) {
   }
 }
 
-TEST_F(StoreTest, AFailedWriteTellsTheReasonAndLeavesNothing) {
+TEST_F(StoreTest, AFailedWriteReportsTheReasonAndLeavesNothing) {
   EXPECT_TRUE(store_.set(1, "a"));
   const rlimit none{0, RLIM_INFINITY};
   rlimit before{};

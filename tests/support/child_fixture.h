@@ -1,4 +1,4 @@
-// Children of the tests' own program on a main queue with a clock that stands still. None outlives its test.
+// Children of the tests' own program on a main queue with a clock that is held. None outlives its test.
 #ifndef KZM_TESTS_SUPPORT_CHILD_FIXTURE_H
 #define KZM_TESTS_SUPPORT_CHILD_FIXTURE_H
 

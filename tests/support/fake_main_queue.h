@@ -1,4 +1,4 @@
-// A main queue whose clock stands still until a test advances it, and which is run by hand. Descriptors are real.
+// A main queue whose clock is held until a test advances it, and which is run by hand. Descriptors are real.
 #ifndef KZM_TESTS_SUPPORT_FAKE_MAIN_QUEUE_H
 #define KZM_TESTS_SUPPORT_FAKE_MAIN_QUEUE_H
 

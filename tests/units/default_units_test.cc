@@ -90,19 +90,23 @@ TEST_F(DefaultUnits, EveryCodeOfEverySettingGivesItsUnit) {
   }
 }
 
+// What is answered when the row's mark is the preferred unit.
+Unit answerTo(const Row& row, const Value& setting) {
+  KZMUtilitiesDefaultUnits units;
+  units.setUnits(only(row.key, row.mark));
+  tests::useOnlySetting(row.keyPath, setting);
+  return (units.*row.ask)();
+}
+
 TEST_F(DefaultUnits, AnyOtherCodeGivesThePreferredUnit) {
   constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
   constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
   for (const Row& row : kRows) {
-    KZMUtilitiesDefaultUnits units;
-    units.setUnits(only(row.key, row.mark));
     const auto beyond = static_cast<std::int64_t>(row.codes.size()) + 1;
     for (const std::int64_t code : {std::int64_t{0}, std::int64_t{-1}, beyond, kMost, kLeast}) {
-      tests::useOnlySetting(row.keyPath, code);
-      EXPECT_EQ((units.*row.ask)(), row.mark) << row.name << " " << code;
+      EXPECT_EQ(answerTo(row, code), row.mark) << row.name << " " << code;
     }
-    tests::useNoSettings();
-    EXPECT_EQ((units.*row.ask)(), row.mark) << row.name << " without a setting";
+    EXPECT_EQ(answerTo(row, nullptr), row.mark) << row.name << " without a setting";
   }
 }
 

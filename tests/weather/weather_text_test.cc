@@ -77,8 +77,8 @@ TEST(WeatherTexts, HaveTheirEnglishText) {
   };
   static_assert(std::size(cases) == core::countEnumerators<Unit>());
   for (const Case& c : cases) {
-    EXPECT_EQ(localizedText(c.unit, Spacing::spaced), c.spaced);
-    EXPECT_EQ(localizedText(c.unit, Spacing::tight), c.tight);
+    EXPECT_EQ(localizedText(c.unit, Spacing::spaced), c.spaced) << c.spaced;
+    EXPECT_EQ(localizedText(c.unit, Spacing::tight), c.tight) << c.spaced;
   }
 }
 

@@ -7,11 +7,11 @@ namespace kzm::bindings {
 namespace {
 
 // clang-format off
-//   kind                type           annotation     documentation                                          JSON
+//   kind                type            annotation    documentation                                          JSON
 constexpr ArgumentKind kArguments[] = {
     {"double",           "double ",      "",           "any number",                                          false},
     {"integer",          "int64_t ",     "",           "an integer",                                          false},
-    {"units",            "int64_t ",     "",           "units, added: KZM_CALENDAR_UNIT_YEAR and so on", false},
+    {"units",            "int64_t ",     "",           "units, added: KZM_CALENDAR_UNIT_YEAR and so on",      false},
     {"time|null",        "double ",      "",           "a time point, or NaN",                                false},
     {"string",           "const char* ", "",           "a text",                                              false},
     {"string|null",      "const char* ", "(nullable)", "a text, or NULL",                                     false},

@@ -18,7 +18,10 @@ packages_peers=(libfmt-dev libbytesize-dev qtbase5-dev libkf5coreaddons-dev libk
 packages_languages=(gobject-introspection libgirepository1.0-dev python3-gi gjs lua5.3 lua-lgi valac rustc clang)
 packages_all=("${packages_test[@]}" libpango1.0-dev fish zsh
     fonts-dejavu-core fonts-noto-ui-core fonts-wqy-microhei fonts-sil-abyssinica)
-packages_check=("${packages_all[@]}" clang-format clang-tidy valgrind)
+packages_panels=(libgtk-4-dev gir1.2-gtk-4.0 qt6-base-dev qt6-declarative-dev qml6-module-qtquick
+    xvfb xauth scrot)
+packages_docs=(doxygen python3)
+packages_check=("${packages_all[@]}" "${packages_panels[@]}" clang-format clang-tidy valgrind)
 
 # need PACKAGE...: installs those that are not there yet.
 need() {
@@ -68,9 +71,9 @@ run_tests() {
     env "${environment[@]}" ctest --test-dir "build/$preset" --output-on-failure -j "$jobs" "$@"
 }
 
-# Everything that can be built, with what it needs; for the verbs that look at all sources.
+# configure_all PRESET [-DOPTION=VALUE...]: all sources, with what they need; for the verbs that look at all of them.
 configure_all() {
-    configure "$1" -DKZM_BUILD_TESTS=ON -DKZM_BUILD_EXAMPLES=ON -DKZM_BUILD_BENCHMARKS=ON -DKZM_ALL_TESTS=ON
+    configure "$@" -DKZM_BUILD_TESTS=ON -DKZM_BUILD_EXAMPLES=ON -DKZM_BUILD_BENCHMARKS=ON -DKZM_ALL_TESTS=ON
 }
 
 # Instructions of one warm call of each kind, as "instructions<TAB>call".

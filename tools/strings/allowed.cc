@@ -71,7 +71,7 @@ constexpr Limit kLimits[] = {
 };
 // clang-format on
 
-// Words stand at the head of columns, or at the left of a row.
+// Words are at the head of columns, or at the left of a row.
 struct WordLimit {
   std::string_view family;
   std::size_t cells;

@@ -2,16 +2,16 @@
 
 #include <algorithm>
 
+#include "port/ascii.h"
+
 namespace kzm::strings {
 namespace {
 
 namespace fs = std::filesystem;
 
 bool isRegion(std::string_view subtag) {
-  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-  const auto isCapital = [](char c) { return c >= 'A' && c <= 'Z'; };
-  return (subtag.size() == 3 && std::ranges::all_of(subtag, isDigit)) ||
-         (subtag.size() == 2 && std::ranges::all_of(subtag, isCapital));
+  return (subtag.size() == 3 && std::ranges::all_of(subtag, port::isDigit)) ||
+         (subtag.size() == 2 && std::ranges::all_of(subtag, port::isUpper));
 }
 
 std::vector<Entry> inherited(std::vector<Entry> entries) {

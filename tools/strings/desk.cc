@@ -151,7 +151,7 @@ const Entry* entryOf(const std::vector<Table>& tables, const Fault& fault) {
   return entry == table->entries.end() ? nullptr : &*entry;
 }
 
-/// What is wrong with the tables that an import makes, told at the lines of the messages.
+/// What is wrong with the tables that an import makes, reported at the lines of the messages.
 Faults faultsOfImport(Catalog catalog, const std::vector<Table>& tables, const std::string& language,
                       const std::string& path, const std::vector<Message>& messages) {
   for (const Table& table : tables) put(catalog, table);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "port/ascii.h"
+
 namespace kzm::strings {
 namespace {
 
@@ -12,8 +14,6 @@ constexpr std::string_view kPercentSigns[] = {
 };
 
 constexpr std::string_view kSpaces[] = {" ", kNoBreakSpace};
-
-bool isLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 
 int countOf(std::string_view part, std::string_view text) {
   int count = 0;
@@ -27,7 +27,7 @@ std::optional<Key> parseKey(std::string_view key) {
   const auto* prefix = std::ranges::find_if(kPrefixes, [&](std::string_view each) { return key.starts_with(each); });
   if (prefix == std::end(kPrefixes)) return std::nullopt;
   key.remove_prefix(prefix->size());
-  const auto letters = static_cast<std::size_t>(std::ranges::find_if_not(key, isLetter) - key.begin());
+  const auto letters = static_cast<std::size_t>(std::ranges::find_if_not(key, port::isLetter) - key.begin());
   if (letters == 0 || letters + 1 >= key.size() || key[letters] != '.') return std::nullopt;
   return Key{key.substr(0, letters), key.substr(letters + 1)};
 }

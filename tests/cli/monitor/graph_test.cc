@@ -34,23 +34,5 @@ TEST(Graph, TheTopIsTheGreatestThatIsShown) {
   EXPECT_EQ(topOf({}, 3, 1.0), 1.0);
 }
 
-struct BarCase {
-  double part;
-  const char* full;
-  const char* empty;
-};
-constexpr BarCase kBars[] = {
-    {0.0, "", "░░░░"}, {0.1, "▌", "░░░"},  {0.5, "██", "░░"}, {1.0, "████", ""},
-    {2.0, "████", ""}, {-1.0, "", "░░░░"}, {0.9, "███▌", ""}, {kNaN, "", "░░░░"},
-};
-
-TEST(Bar, InHalves) {
-  for (const BarCase& row : kBars) {
-    const Bar bar = barOf(row.part, 4);
-    EXPECT_EQ(bar.full, row.full) << row.part;
-    EXPECT_EQ(bar.empty, row.empty) << row.part;
-  }
-}
-
 }  // namespace
 }  // namespace kzm::cli

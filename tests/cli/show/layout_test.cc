@@ -49,7 +49,7 @@ TEST(Layout, SectionsShareOneGridAndEmptyOnesAreLeftOut) {
   EXPECT_EQ(laidOut({fans}, {}), Lines{});
 }
 
-TEST(Layout, AColumnInWhichNothingStandsTakesNoRoom) {
+TEST(Layout, AColumnWithNothingInItTakesNoRoom) {
   const Section section{"Load", {}, {{"processor", {cell("50%"), {}, {}, cell("####")}}}};
   EXPECT_EQ(laidOut({section}, {})[1], "  processor                      50%          ####");
 }
@@ -83,17 +83,27 @@ TEST(Layout, StylesAreTheTerminals) {
   EXPECT_EQ(laidOut({section}, {})[1], "  processor                     42 %");
 }
 
-TEST(Layout, BarsAreFilledByTheNearestPart) {
+TEST(Layout, BarsAreFilledByTheNearestHalf) {
   struct Case {
     double part;
-    std::size_t filled;
+    const char* full;
   };
   const Case cases[] = {
-      {0.0, 0}, {0.024, 0}, {0.026, 1}, {0.5, 10}, {1.0, 20}, {-1.0, 0}, {7.0, 20}, {NAN, 0}, {INFINITY, 20},
+      {0.0, ""},
+      {0.012, ""},
+      {0.013, "▌"},
+      {0.026, "▌"},
+      {0.05, "█"},
+      {-1.0, ""},
+      {NAN, ""},
+      {0.5, "██████████"},
+      {7.0, "████████████████████"},
+      {1.0, "████████████████████"},
+      {INFINITY, "████████████████████"},
   };
   for (const Case& c : cases) {
     const Cell cells = bar(c.part);
-    EXPECT_EQ(displayWidth(cells[0].text), c.filled) << c.part;
+    EXPECT_EQ(cells[0].text, c.full) << c.part;
     EXPECT_EQ(displayWidth(cells[0].text) + displayWidth(cells[1].text), kBarColumns) << c.part;
   }
 }

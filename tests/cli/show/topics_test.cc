@@ -128,7 +128,7 @@ TEST(Topics, SensorsByKind) {
   EXPECT_EQ(shown("light", snapshot), (Lines{"  Ambient light              300 Lux"}));
 }
 
-TEST(Topics, ManySensorsOfAKindAreToldByTheirExtremes) {
+TEST(Topics, ManySensorsOfAKindAreShownByTheirExtremes) {
   Snapshot snapshot;
   for (int i = 0; i < 17; ++i) {
     snapshot.sensors.push_back({Kind::frequency, 1000.0 + 100.0 * i, "cpu", "CPU " + std::to_string(i)});
@@ -153,7 +153,7 @@ TEST(Topics, Battery) {
                                         }));
 }
 
-TEST(Topics, AMachineThatTellsNothingHasNoRows) {
+TEST(Topics, AMachineThatReportsNothingHasNoRows) {
   for (const Topic& topic : topics()) EXPECT_TRUE(topic.items({}, {.all = true}).empty()) << topic.name;
 }
 
@@ -176,6 +176,8 @@ TEST(Topics, IdentifiersAreTheSameInEveryLanguage) {
   };
   EXPECT_EQ(ids("memory"), (Lines{"main", "swap"}));
   EXPECT_EQ(ids("load"), (Lines{"cpu", "1min", "5min", "15min"}));
+  for (int i = 0; i < 3; ++i) snapshot.sensors.push_back({Kind::temperature, 40.0, "nvme", "Composite"});
+  EXPECT_EQ(ids("temperatures"), (Lines{"nvme Composite", "nvme Composite 2", "nvme Composite 3"})) << "once each";
 }
 
 }  // namespace

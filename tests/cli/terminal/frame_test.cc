@@ -43,5 +43,12 @@ TEST(Frame, StylesGoWithTheirText) {
   EXPECT_EQ(frame.textOf(0), "");
 }
 
+TEST(Frame, HalfOfAWideCharacterDoesNotStay) {
+  Frame frame({.rows = 1, .columns = 6});
+  frame.put(0, 0, "東京都", {}, 6);
+  frame.put(0, 1, "ab", {}, 2);
+  EXPECT_EQ(frame.textOf(0), " ab 都");
+}
+
 }  // namespace
 }  // namespace kzm::cli

@@ -1,4 +1,4 @@
-#include "port/linux/standard_error.h"
+#include "port/standard_error.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -33,7 +33,7 @@ TEST(StandardError, ALineArrivesWhole) {
   const Pipe errors;
   EXPECT_EQ(inItsOwnHost(errors,
                          [] {
-                           tellStandardError("a line\n");
+                           writeToStandardError("a line\n");
                            return 0;
                          }),
             0);
@@ -47,7 +47,7 @@ TEST(StandardError, WithoutAReaderNeverEndsTheHost) {
   EXPECT_EQ(inItsOwnHost(errors,
                          [&] {
                            errors.readingEnd().close();
-                           tellStandardError("lost\n");
+                           writeToStandardError("lost\n");
                            systemLog().write("lost");
                            return 0;
                          }),
@@ -60,7 +60,7 @@ TEST(StandardError, WithAReaderThatDoesNotReadNeverStopsTheHost) {
                          [] {
                            ::alarm(20);
                            const std::string line(4000, 'x');
-                           for (int i = 0; i < 100; ++i) tellStandardError(line);
+                           for (int i = 0; i < 100; ++i) writeToStandardError(line);
                            systemLog().write("lost");
                            return 0;
                          }),
@@ -77,7 +77,7 @@ TEST(StandardError, ASigpipeOfTheHostsOwnStaysWithTheHost) {
                            sigaddset(&sigpipe, SIGPIPE);
                            ::pthread_sigmask(SIG_BLOCK, &sigpipe, nullptr);
                            std::raise(SIGPIPE);
-                           tellStandardError("lost\n");
+                           writeToStandardError("lost\n");
                            ::pthread_sigmask(SIG_UNBLOCK, &sigpipe, nullptr);
                            return 0;
                          }),
