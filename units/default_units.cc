@@ -58,7 +58,7 @@ constexpr Choice kChoices[] = {
 using Accessor = decltype(UnitSetting::unit);
 
 // An accessor without a row does not build.
-consteval const Choice& choiceOf(Accessor accessor) {
+constexpr const Choice& choiceOf(Accessor accessor) {
   return *std::ranges::find(kChoices, accessor, [](const Choice& choice) { return choice.setting.unit; });
 }
 

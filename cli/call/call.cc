@@ -21,7 +21,6 @@ using catalogue::callables;
 using catalogue::described;
 using catalogue::describedInJson;
 using catalogue::Json;
-using catalogue::jsonText;
 using catalogue::parseJson;
 using catalogue::Result;
 using catalogue::useSettings;

@@ -15,7 +15,6 @@
 #include <map>
 #include <new>
 #include <optional>
-#include <ranges>
 #include <stdexcept>
 #include <string>
 #include <sys/mman.h>
@@ -211,7 +210,9 @@ bool report(Tally& tally) {
   std::printf(" | %zu | %zu | %s | %s", tally[Went::failed], tally[Went::right], listOf(tally.remembered).c_str(),
               listOf(tally.ends).c_str());
   if (tally[Went::wrong] > 0) std::printf(" **%zu WRONG**", tally[Went::wrong]);
-  const auto areTheirs = [](const auto& files) { return std::ranges::all_of(files | std::views::keys, isTheirs); };
+  const auto areTheirs = [](const auto& files) {
+    return std::ranges::all_of(files, [](const auto& row) { return isTheirs(row.first); });
+  };
   return tally[Went::wrong] == 0 && areTheirs(tally.ends) && areTheirs(tally.remembered);
 }
 
