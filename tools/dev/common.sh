@@ -21,7 +21,8 @@ packages_all=("${packages_test[@]}" libpango1.0-dev fish zsh
 packages_panels=(libgtk-4-dev gir1.2-gtk-4.0 qt6-base-dev qt6-declarative-dev qml6-module-qtquick
     xvfb xauth scrot)
 packages_docs=(doxygen python3)
-packages_check=("${packages_all[@]}" "${packages_panels[@]}" clang-format clang-tidy valgrind)
+packages_check=("${packages_all[@]}" "${packages_panels[@]}" clang-format clang-tidy valgrind
+    abigail-tools xz-utils)
 
 # need PACKAGE...: installs those that are not there yet.
 need() {
@@ -90,4 +91,59 @@ instructions_record() {
     glibc=$(getconf GNU_LIBC_VERSION)
     printf 'bench/instructions/%s-%s-icu-%s-%s.tsv\n' "$(uname -m)" "$("${CXX:-g++}" --version | head -n 1 |
         sed -E 's/ \(.*\)//; s/ /-/g')" "$icu" "${glibc// /-}"
+}
+
+# The libraries with what debuggers know of them, from which names and layouts are read.
+build_abi() {
+    configure abi -DKZM_BUILD_TESTS=OFF -DKZM_BUILD_PROGRAM=OFF -DKZM_BUILD_EXAMPLES=OFF -DKZM_BUILD_BENCHMARKS=OFF \
+        -DKZM_BUILD_C=ON
+    build abi
+}
+
+# Layouts of the standard library's types are in the records, so each belongs to one compiler.
+abi_record() { printf 'abi/%s-%s-%s\n' "$(uname -m)" "$(basename "${CXX:-g++}")" "$("${CXX:-g++}" -dumpversion)"; }
+
+abi_libraries=(KZMUtilities KZMSettings KZMLocalization KZMUtilities-c)
+abi_headers() { if [ "$1" = KZMUtilities-c ]; then echo c; else echo include; fi; }
+
+record_abi() {
+    local record library
+    build_abi
+    record=$(abi_record)
+    mkdir -p "$record"
+    for library in "${abi_libraries[@]}"; do
+        say "Recording the names and layouts of $library"
+        abidw --no-corpus-path --no-comp-dir-path --no-show-locs --type-id-style hash --drop-private-types \
+            --headers-dir "$(abi_headers "$library")" "build/abi/lib/lib$library.so" |
+            xz -9 >"$record/$library.abi.xz" || fail "$library: its names and layouts cannot be read"
+    done
+}
+
+# One library beside its record; what joined is only shown.
+compare_library() {
+    local library=$1 record=$2 recorded found=0 breaks=8 faults=3
+    recorded=$(mktemp --suffix=.abi)
+    xz -dc "$record/$library.abi.xz" >"$recorded"
+    abidiff --drop-private-types --headers-dir2 "$(abi_headers "$library")" "$recorded" \
+        "build/abi/lib/lib$library.so" || found=$?
+    rm -f "$recorded"
+    [ $((found & (breaks | faults))) -eq 0 ] && return
+    printf '%s: programs that were built before would break\n' "$library" >&2
+    return 1
+}
+
+compare_abi() {
+    local record library status=0 jobs_of=()
+    record=$(abi_record)
+    if [ ! -d "$record" ]; then
+        say "No names and layouts are recorded for this compiler; ./dev abi --record would write $record"
+        return
+    fi
+    build_abi
+    for library in "${abi_libraries[@]}"; do
+        compare_library "$library" "$record" &
+        jobs_of+=($!)
+    done
+    for library in "${jobs_of[@]}"; do wait "$library" || status=1; done
+    return $status
 }
