@@ -23,7 +23,8 @@ TEST(Tracks, ValuesAndTotals) {
   tracks.add(groupsOf("eth0", 100.0), 2.0);
   tracks.add(groupsOf("eth0", std::nullopt), 1.0);
   tracks.add(groupsOf("eth0", 50.0), 1.0);
-  const Track& track = trackIn(tracks, groupsOf("eth0", {}));
+  const std::vector<Group> groups = groupsOf("eth0", {});
+  const Track& track = trackIn(tracks, groups);
   ASSERT_EQ(track.values.size(), 3U);
   EXPECT_EQ(track.values[0], 100.0);
   EXPECT_TRUE(std::isnan(track.values[1]));
@@ -42,7 +43,8 @@ TEST(Tracks, WhatIsGoneIsForgotten) {
 TEST(Tracks, AreBounded) {
   Tracks tracks;
   for (std::size_t i = 0; i < 2 * Tracks::kMostValues; ++i) tracks.add(groupsOf("eth0", static_cast<double>(i)), 1.0);
-  const Track& track = trackIn(tracks, groupsOf("eth0", {}));
+  const std::vector<Group> groups = groupsOf("eth0", {});
+  const Track& track = trackIn(tracks, groups);
   EXPECT_EQ(track.values.size(), Tracks::kMostValues);
   EXPECT_EQ(track.values.back(), static_cast<double>(2 * Tracks::kMostValues - 1));
 }
