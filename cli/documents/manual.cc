@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "cli/documents/documents.h"
+#include "cli/listing.h"
 #include "cli/process_options.h"
 #include "cli/verbs.h"
 
@@ -36,7 +37,7 @@ std::string items(const std::vector<FlagText>& flags) {
 // The flags of a family by name alone; what each does is listed once, after the families.
 std::string namesOf(const std::vector<FlagText>& flags) {
   std::string text;
-  for (const FlagText& flag : flags) text.append(text.empty() ? "" : ", ").append(bold(flag.name));
+  for (const FlagText& flag : flags) addToList(text, bold(flag.name));
   return text;
 }
 

@@ -8,6 +8,7 @@
 #include <KZMSettings/KZMSettings.h>
 
 #include "cli/errors.h"
+#include "cli/listing.h"
 
 namespace kzm::cli {
 namespace {
@@ -72,7 +73,7 @@ const ListedSetting& settingAt(std::string_view keyPath) {
   std::string names;
   for (const ListedSetting& setting : unitSettings()) {
     if (setting.keyPath == keyPath) return setting;
-    names.append(names.empty() ? "" : ", ").append(setting.keyPath);
+    addToList(names, setting.keyPath);
   }
   throw InputError("settings: no setting " + inQuotes(keyPath) + "; there are " + names);
 }
@@ -81,8 +82,8 @@ std::int64_t codeIn(const ListedSetting& setting, std::string_view text) {
   std::string meanings;
   for (std::int64_t code = kRegionsChoice; code < codes(setting); ++code) {
     if (text == std::to_string(code) || equalIgnoringCase(text, meaningOf(setting, code))) return code;
-    meanings.append(meanings.empty() ? "" : ", ").append(std::to_string(code)).append(" ");
-    meanings.append(meaningOf(setting, code));
+    addToList(meanings, std::to_string(code));
+    meanings.append(" ").append(meaningOf(setting, code));
   }
   throw InputError("settings: " + std::string(setting.keyPath) + " has no code " + inQuotes(text) + "; there are " +
                    meanings);

@@ -11,6 +11,7 @@
 #include <KZMUtilities/dictionary.h>
 
 #include "cli/flags.h"
+#include "cli/listing.h"
 #include "cli/monitor/monitor.h"
 #include "cli/numbers.h"
 #include "cli/output.h"
@@ -42,7 +43,7 @@ const Row& rowNamed(std::span<const Row> rows, Text kind, Text name) {
   std::string names;
   for (const Row& row : rows) {
     if (row.name == name) return row;
-    names.append(names.empty() ? "" : ", ").append(row.name);
+    addToList(names, row.name);
   }
   throw InputError("no " + std::string(kind) + " " + inQuotes(name) + "; there are " + names);
 }
@@ -154,7 +155,7 @@ void checkWidth(const ShowOptions& options) {
   if (!options.constantWidth || options.output->takesWidth) return;
   std::string names;
   for (const Output& output : outputs()) {
-    if (output.takesWidth) names.append(names.empty() ? "" : ", ").append(output.name);
+    if (output.takesWidth) addToList(names, output.name);
   }
   throw InputError("--constant-width goes with --output " + names);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/errors.h"
+#include "cli/listing.h"
 #include "machine/network.h"
 
 namespace kzm::cli {
@@ -41,7 +42,7 @@ void Watch::checkInterfaces() const {
   for (const std::string& wanted : choice_.interfaces) {
     if (std::ranges::find(network.counters, wanted, &machine::Counter::name) != network.counters.end()) continue;
     std::string names;
-    for (const machine::Counter& counter : network.counters) names += (names.empty() ? "" : ", ") + counter.name;
+    for (const machine::Counter& counter : network.counters) addToList(names, counter.name);
     throw InputError("no interface " + inQuotes(wanted) + "; there are " + names);
   }
 }
