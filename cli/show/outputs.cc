@@ -152,7 +152,7 @@ std::string waybarLine(const Groups& groups, const LineChoice& choice) {
   }
   Level level = Level::normal;
   for (const Block& block : blocks) level = std::max(level, block.level);
-  Json json{{"text", escaped(joined(blocks, [](const Block& block) { return textOf(block); }))},
+  Json json{{"text", escaped(joined(blocks, textOf))},
             {"tooltip", "<tt>" + escaped(table) + "</tt>"},
             {"class", nameOf(level)}};
   if (const std::optional<long> percentage = percentageOf(groups)) json["percentage"] = *percentage;
@@ -193,7 +193,7 @@ std::string polybarLine(const Groups& groups, const LineChoice& choice) {
 }
 
 std::string plainLine(const Groups& groups, const LineChoice& choice) {
-  return joined(blocksOf(groups, choice, kSpace), [](const Block& block) { return textOf(block); });
+  return joined(blocksOf(groups, choice, kSpace), textOf);
 }
 
 constexpr Output kOutputs[] = {
