@@ -133,7 +133,7 @@ compare_library() {
 }
 
 compare_abi() {
-    local record library status=0 jobs_of=()
+    local record library process processes=() status=0
     record=$(abi_record)
     if [ ! -d "$record" ]; then
         say "No names and layouts are recorded for this compiler; ./dev abi --record would write $record"
@@ -142,8 +142,8 @@ compare_abi() {
     build_abi
     for library in "${abi_libraries[@]}"; do
         compare_library "$library" "$record" &
-        jobs_of+=($!)
+        processes+=($!)
     done
-    for library in "${jobs_of[@]}"; do wait "$library" || status=1; done
+    for process in "${processes[@]}"; do wait "$process" || status=1; done
     return $status
 }
