@@ -82,7 +82,11 @@ gboolean onSecond(gpointer panel) {
 
 void onActivate(GtkApplication* application, gpointer /*data*/) {
   GtkCssProvider* style = gtk_css_provider_new();
+#if GTK_CHECK_VERSION(4, 12, 0)
+  gtk_css_provider_load_from_string(style, kStyle);
+#else
   gtk_css_provider_load_from_data(style, kStyle, -1);
+#endif
   gtk_style_context_add_provider_for_display(gdk_display_get_default(), GTK_STYLE_PROVIDER(style),
                                              GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
   g_object_unref(style);

@@ -5,9 +5,13 @@
 #include <vector>
 
 #include "tests/cli/program.h"
+#include "tests/support/kernel_files.h"
 
 namespace kzm::tests {
 namespace {
+
+class Show : public KernelFiles {};
+class Monitor : public KernelFiles {};
 
 std::size_t countOf(const std::string& text, const std::string& part) {
   std::size_t count = 0;
@@ -15,7 +19,7 @@ std::size_t countOf(const std::string& text, const std::string& part) {
   return count;
 }
 
-TEST(Show, OneTopicOnce) {
+TEST_F(Show, OneTopicOnce) {
   const Outcome memory = run({"show", "memory"});
   EXPECT_TRUE(memory.output.starts_with("Memory ")) << memory.output;
   EXPECT_NE(memory.output.find("\n  main "), std::string::npos);
@@ -24,7 +28,7 @@ TEST(Show, OneTopicOnce) {
   EXPECT_EQ(memory.status, 0);
 }
 
-TEST(Show, TheNetworkWithItsUnits) {
+TEST_F(Show, TheNetworkWithItsUnits) {
   const Outcome bits = run({"show", "network", "--bits", "--all", "--interval", "0.1"});
   EXPECT_EQ(bits.status, 0);
   EXPECT_NE(bits.output.find("b/s"), std::string::npos) << bits.output;
@@ -33,7 +37,7 @@ TEST(Show, TheNetworkWithItsUnits) {
   EXPECT_EQ(brief.output.find("/s"), std::string::npos) << brief.output;
 }
 
-TEST(Show, AnInterfaceByName) {
+TEST_F(Show, AnInterfaceByName) {
   const Outcome lo = run({"show", "network", "--interface", "lo", "--interval", "0.1"});
   EXPECT_EQ(lo.status, 0) << lo.errors;
   EXPECT_EQ(countOf(lo.output, "\n"), 2U) << "heading and one line: " << lo.output;
@@ -44,14 +48,14 @@ TEST(Show, AnInterfaceByName) {
   EXPECT_EQ(countOf(none.errors, "\n"), 1U);
 }
 
-TEST(Show, EverythingWithoutATopic) {
+TEST_F(Show, EverythingWithoutATopic) {
   const Outcome all = run({"show", "--interval", "0.1"});
   EXPECT_EQ(all.status, 0);
   for (const char* title : {"Memory ", "\n\nLoad\n"}) EXPECT_NE(all.output.find(title), std::string::npos) << title;
   EXPECT_EQ(all.output.find("  –\n"), std::string::npos) << "what the machine lacks is left out";
 }
 
-TEST(Show, SeveralTopicsInTheOrderOfTheCommandLine) {
+TEST_F(Show, SeveralTopicsInTheOrderOfTheCommandLine) {
   const Outcome two = run({"show", "load", "memory", "load", "--interval", "0.1"});
   EXPECT_EQ(two.status, 0) << two.errors;
   EXPECT_TRUE(two.output.starts_with("Load\n")) << two.output;
@@ -59,7 +63,7 @@ TEST(Show, SeveralTopicsInTheOrderOfTheCommandLine) {
   EXPECT_EQ(countOf(two.output, "Load"), 1U) << "each once";
 }
 
-TEST(Show, ForPrograms) {
+TEST_F(Show, ForPrograms) {
   for (const char* output : {"json", "waybar", "polybar", "plain"}) {
     const Outcome once = run({"show", "memory", "load", "--interval", "0.1", "--output", output});
     EXPECT_EQ(once.status, 0) << output << once.errors;
@@ -73,7 +77,7 @@ TEST(Show, ForPrograms) {
   EXPECT_EQ(nlohmann::json::parse(bar.substr(bar.find('\n'))).size(), 2U) << "an array to its end";
 }
 
-TEST(Monitor, WritesALineAtEachRefreshAndTheEnd) {
+TEST_F(Monitor, WritesALineAtEachRefreshAndTheEnd) {
   const Outcome lines = run({"monitor", "memory", "--output", "json", "--interval", "0.1", "--count", "3"});
   EXPECT_EQ(lines.status, 0);
   EXPECT_EQ(countOf(lines.output, "{\"direction\""), 3U) << lines.output;
@@ -83,7 +87,7 @@ TEST(Monitor, WritesALineAtEachRefreshAndTheEnd) {
   EXPECT_TRUE(bar.output.ends_with("]\n]\n")) << bar.output;
 }
 
-TEST(Monitor, WhoReadsALineHasAllOfItAtOnce) {
+TEST_F(Monitor, WhoReadsALineHasAllOfItAtOnce) {
   Pipe out;
   const pid_t process = started({"monitor", "memory", "--output", "plain", "--interval", "3600"}, STDIN_FILENO,
                                 out.writer(), STDERR_FILENO);
@@ -95,7 +99,7 @@ TEST(Monitor, WhoReadsALineHasAllOfItAtOnce) {
   EXPECT_EQ(statusOf(process), 1) << "nobody reads any more";
 }
 
-TEST(Monitor, EndsAfterTheCount) {
+TEST_F(Monitor, EndsAfterTheCount) {
   const Outcome outcome = run({"monitor", "memory", "--interval", "0.1", "--count", "3"});
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(countOf(outcome.output, "Memory "), 3U);
@@ -103,7 +107,7 @@ TEST(Monitor, EndsAfterTheCount) {
   EXPECT_EQ(outcome.output.find('\x1b'), std::string::npos);
 }
 
-TEST(Monitor, EndsCleanlyBySignal) {
+TEST_F(Monitor, EndsCleanlyBySignal) {
   for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT}) {
     Pipe out;
     const pid_t process =
@@ -116,7 +120,7 @@ TEST(Monitor, EndsCleanlyBySignal) {
   }
 }
 
-TEST(Monitor, EndsWhenNobodyReadsLongBeforeTheNextDrawing) {
+TEST_F(Monitor, EndsWhenNobodyReadsLongBeforeTheNextDrawing) {
   Pipe out;
   const pid_t process = started({"monitor", "memory", "--interval", "3600"}, STDIN_FILENO, out.writer(), STDERR_FILENO);
   out.closeWriter();
@@ -126,7 +130,7 @@ TEST(Monitor, EndsWhenNobodyReadsLongBeforeTheNextDrawing) {
   EXPECT_EQ(statusOf(process), 1);
 }
 
-TEST(Monitor, EndsAtADrawingThatNobodyReads) {
+TEST_F(Monitor, EndsAtADrawingThatNobodyReads) {
   Pipe out;
   out.closeReader();
   EXPECT_EQ(statusOf(started({"monitor", "memory", "--interval", "0.1"}, STDIN_FILENO, out.writer(), STDERR_FILENO)),

@@ -1,4 +1,4 @@
-// Every reader on a machine with nothing, on one full of garbage, and on this one.
+// Every reader on a machine with nothing, on one full of garbage, and on the one that the test runs on.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -17,6 +17,7 @@
 #include "machine/processor.h"
 #include "machine/sensors.h"
 #include "machine/volumes.h"
+#include "tests/support/kernel_files.h"
 #include "tests/support/scratch_directory.h"
 
 namespace kzm::machine {
@@ -122,7 +123,9 @@ TEST(WholeMachine, WithGarbageEverywhereStaysSane) {
   }
 }
 
-TEST(WholeMachine, OfThisTestHasMemoryAndAProcessor) {
+class ThisMachine : public tests::KernelFiles {};
+
+TEST_F(ThisMachine, HasMemoryAndAProcessor) {
   const Root root("/");
   EXPECT_TRUE(readMemory(root).total.has_value());
   EXPECT_FALSE(readProcessor(root).empty());
