@@ -8,7 +8,7 @@ option(KZM_BUILD_BENCHMARKS "Build the benchmarks" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_BUILD_PEERS "Build the benchmark of what a program could use instead" OFF)
 option(KZM_BUILD_TESTS "Build the tests, and what they test" ${PROJECT_IS_TOP_LEVEL})
 option(KZM_INSTALL "Install what is built" ${PROJECT_IS_TOP_LEVEL})
-option(KZM_PRECOMPILED_HEADERS "Compile the headers that most sources include only once" OFF)
+option(KZM_QUICK_BUILD "Compile common headers once, and small sources several at a time" OFF)
 option(KZM_ALL_TESTS "Also build and run the tests that need other toolkits" ${PROJECT_IS_TOP_LEVEL})
 
 if(DEFINED BUILD_TESTING AND NOT BUILD_TESTING)

@@ -12,6 +12,7 @@ endforeach()
 target_include_directories(kzm_strings PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(kzm_strings PRIVATE kzm_warnings)
 kzm_precompile(kzm_strings kzm_common_headers)
+kzm_compile_together(kzm_strings)
 
 add_executable(kzm_compile_strings ${PROJECT_SOURCE_DIR}/tools/strings/compile_strings.cc)
 target_link_libraries(kzm_compile_strings PRIVATE kzm_strings kzm_warnings)

@@ -39,7 +39,7 @@ struct CallOptions {
   Dictionary settings;
 };
 
-constexpr Flag<CallOptions> kFlags[] = {
+constexpr Flag<CallOptions> kCallFlags[] = {
     {{"--batch", "", "read JSON Lines from standard input"},
      [](CallOptions& options, std::string_view, std::string_view) { options.batch = true; }},
     {{"--set", "KEYPATH=JSON", "a setting, such as Weather.Global.Units.Pressure=2; repeatable"},
@@ -89,7 +89,7 @@ std::string listedInJson() {
 
 int callVerb(Words words) {
   CallOptions options;
-  if (takeLeadingFlags<CallOptions>("call", words, kFlags, options)) return print(helpText(describeCall()));
+  if (takeLeadingFlags<CallOptions>("call", words, kCallFlags, options)) return print(helpText(describeCall()));
   if (!options.settings.empty()) useSettings(std::move(options.settings));
   if (!options.batch) return callOnce(words, options.json);
   if (!words.empty()) throw InputError("call: --batch takes no name");
@@ -110,7 +110,7 @@ Description describeCall() {
                        "NAME is a function's name or an operation's selector, and each ARG is one JSON text. With\n"
                        "--batch, each line of standard input is one call, answered at once by one line:\n"
                        "{\"call\": NAME, \"args\": [...], \"settings\": {...}, \"id\": ANY}\n",
-                   .flags = textsOf(kFlags)};
+                   .flags = textsOf(kCallFlags)};
   for (const Callable& callable : callables()) verb.names.push_back(callable.name);
   return verb;
 }

@@ -16,14 +16,14 @@ struct LanguagesOptions {
   bool json = false;
 };
 
-constexpr Flag<LanguagesOptions> kFlags[] = {
+constexpr Flag<LanguagesOptions> kLanguagesFlags[] = {
     {{"--json", "", "as a JSON array"},
      [](LanguagesOptions& options, std::string_view, std::string_view) { options.json = true; }},
 };
 
 const Coverage& english(const std::vector<Coverage>& all) { return *std::ranges::find(all, "en", &Coverage::language); }
 
-std::string listedInJson(const std::vector<Coverage>& all) {
+std::string coverageInJson(const std::vector<Coverage>& all) {
   const auto part = [](std::size_t translated, std::size_t of) {
     return nlohmann::ordered_json{{"translated", translated}, {"of", of}};
   };
@@ -38,7 +38,7 @@ std::string listedInJson(const std::vector<Coverage>& all) {
 }
 
 // The names come last: some are in scripts that terminals do not align.
-std::string listed(const std::vector<Coverage>& all) {
+std::string coverageTable(const std::vector<Coverage>& all) {
   const auto column = [](std::string text, std::size_t width) {
     text.resize(std::max(text.size(), width), ' ');
     return text;
@@ -58,16 +58,16 @@ std::string listed(const std::vector<Coverage>& all) {
 
 int languagesVerb(Words words) {
   LanguagesOptions options;
-  const Operands operands = takeFlags<LanguagesOptions>("languages", words, kFlags, options);
+  const Operands operands = takeFlags<LanguagesOptions>("languages", words, kLanguagesFlags, options);
   if (operands.help) return print(helpText(describeLanguages()));
   if (!operands.words.empty()) throw InputError("languages takes no arguments");
-  return print((options.json ? listedInJson : listed)(coverages()));
+  return print((options.json ? coverageInJson : coverageTable)(coverages()));
 }
 
 Description describeLanguages() {
   return {.usage = {"languages [FLAG...]"},
           .text = "How many texts of readings, and how many words of this program, each language has.\n",
-          .flags = textsOf(kFlags)};
+          .flags = textsOf(kLanguagesFlags)};
 }
 
 }  // namespace kzm::cli

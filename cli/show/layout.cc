@@ -56,7 +56,7 @@ bool needsIsolates(const Piece& name, const std::vector<Cell>& cells) {
 }
 
 // The pieces of a cell as they are, but the first and the last with the marks that isolate them together.
-Cell isolated(Cell cell) {
+Cell isolatedCell(Cell cell) {
   std::string text;
   for (const Piece& piece : cell) text += piece.text;
   const std::string whole = kzm::isolated(text);
@@ -108,7 +108,7 @@ class Line {
 std::string lineOf(const Piece& name, std::size_t indent, const std::vector<Cell>& cells, const Grid& grid,
                    const Look& look) {
   const bool isolates = needsIsolates(name, cells);
-  const auto placed = [isolates](Cell cell) { return isolates ? isolated(std::move(cell)) : cell; };
+  const auto placed = [isolates](Cell cell) { return isolates ? isolatedCell(std::move(cell)) : cell; };
   Line line(look);
   line.fill(indent);
   const std::string shown = cutTo(name.text, grid.name - indent);

@@ -15,10 +15,10 @@ namespace kzm::cli {
 namespace {
 
 using Groups = std::vector<Group>;
-using Json = nlohmann::ordered_json;
+using OrderedJson = nlohmann::ordered_json;
 
 // Names come from devices, but only as text that can be shown; what is no UTF-8 all the same is replaced.
-std::string dumped(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
+std::string dumped(const OrderedJson& json) { return json.dump(-1, ' ', false, OrderedJson::error_handler_t::replace); }
 
 // ---- What all bars share -------------------------------------------------------------------------------------------
 
@@ -87,28 +87,28 @@ std::string labelOf(const Topic& topic, std::string_view reading) {
   return column == topic.columns.end() ? "" : word(*column);
 }
 
-Json jsonOf(const Topic& topic, const Reading& reading, const Texts& texts) {
+OrderedJson jsonOf(const Topic& topic, const Reading& reading, const Texts& texts) {
   const bool isKnown = reading.value.has_value() && std::isfinite(*reading.value);
   return {{"name", reading.name},
           {"label", labelOf(topic, reading.name)},
-          {"value", isKnown ? Json(*reading.value) : Json()},
+          {"value", isKnown ? OrderedJson(*reading.value) : OrderedJson()},
           {"unit", unitOf(reading.quantity)},
           {"text", texts.text(reading)},
           {"widest", texts.widest(reading)},
           {"level", nameOf(levelOf(reading))}};
 }
 
-Json jsonOf(const Topic& topic, const Item& item, const Texts& texts) {
-  Json readings = Json::array();
+OrderedJson jsonOf(const Topic& topic, const Item& item, const Texts& texts) {
+  OrderedJson readings = OrderedJson::array();
   for (const Reading& reading : item.readings) readings.push_back(jsonOf(topic, reading, texts));
   return {{"id", item.id}, {"name", item.name}, {"readings", std::move(readings)}};
 }
 
 std::string jsonLine(const Groups& groups, const LineChoice& choice) {
-  Json topics = Json::array();
+  OrderedJson topics = OrderedJson::array();
   bool rightToLeft = false;
   for (const Group& group : groups) {
-    Json items = Json::array();
+    OrderedJson items = OrderedJson::array();
     for (const Item& item : group.items) items.push_back(jsonOf(*group.topic, item, choice.texts));
     const std::string title = word(group.topic->title);
     rightToLeft = rightToLeft || hasRightToLeft(title);
@@ -152,23 +152,23 @@ std::string waybarLine(const Groups& groups, const LineChoice& choice) {
   }
   Level level = Level::normal;
   for (const Block& block : blocks) level = std::max(level, block.level);
-  Json json{{"text", escaped(joined(blocks, textOf))},
-            {"tooltip", "<tt>" + escaped(table) + "</tt>"},
-            {"class", nameOf(level)}};
+  OrderedJson json{{"text", escaped(joined(blocks, textOf))},
+                   {"tooltip", "<tt>" + escaped(table) + "</tt>"},
+                   {"class", nameOf(level)}};
   if (const std::optional<long> percentage = percentageOf(groups)) json["percentage"] = *percentage;
   return dumped(json);
 }
 
 // The bar itself keeps the room: it knows its font.
 std::string i3barLine(const Groups& groups, const LineChoice& choice) {
-  Json line = Json::array();
+  OrderedJson line = OrderedJson::array();
   for (const Group& group : groups) {
     for (const Item& item : group.items) {
       const Block block = blockOf(item, {choice.texts, false}, kSpace);
-      Json json{{"name", group.topic->name},
-                {"instance", item.id},
-                {"full_text", textOf(block)},
-                {"short_text", block.texts}};
+      OrderedJson json{{"name", group.topic->name},
+                       {"instance", item.id},
+                       {"full_text", textOf(block)},
+                       {"short_text", block.texts}};
       if (choice.constantWidth) {
         json["min_width"] = textOf(blockOf(item, choice, kSpace));
         json["align"] = "right";

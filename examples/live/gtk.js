@@ -103,7 +103,10 @@ class Panel {
 const application = new Gtk.Application({flags: Gio.ApplicationFlags.NON_UNIQUE});
 application.connect('activate', () => {
     const style = new Gtk.CssProvider();
-    style.load_from_data(new TextEncoder().encode(STYLE));
+    if (style.load_from_string)  // since GTK 4.12, where the other one asks for a length too
+        style.load_from_string(STYLE);
+    else
+        style.load_from_data(new TextEncoder().encode(STYLE));
     Gtk.StyleContext.add_provider_for_display(Gdk.Display.get_default(), style,
         Gtk.STYLE_PROVIDER_PRIORITY_APPLICATION);
     application.panel = new Panel(application);

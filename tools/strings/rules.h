@@ -3,11 +3,15 @@
 #define TOOLS_STRINGS_RULES_H
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "tools/strings/catalog.h"
 
 namespace kzm::strings {
+
+/// A key or a text within a message.
+[[nodiscard]] inline std::string inQuotes(std::string_view text) { return '"' + std::string(text) + '"'; }
 
 /// The faults found in one table. Those of rows that a layer has from its parent are the parent's.
 class Report {

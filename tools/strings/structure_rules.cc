@@ -9,8 +9,6 @@
 namespace kzm::strings {
 namespace {
 
-std::string inQuotes(std::string_view key) { return '"' + std::string(key) + '"'; }
-
 // The sources that are not a translator's name: docs/languages.md says what they are.
 constexpr std::string_view kSources[] = {"CLDR 42", "CLDR 41 names", "libgweather 4.2", "symbol", "own"};
 

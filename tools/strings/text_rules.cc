@@ -15,8 +15,6 @@ constexpr std::string_view kDirectionMarks[] = {"\u061C", "\u200E", "\u200F", "\
 constexpr std::string_view kFamilyThatIsStripped = "Sensors";
 constexpr std::string_view kStripped = ".,";
 
-std::string inQuotes(std::string_view text) { return '"' + std::string(text) + '"'; }
-
 bool contains(std::string_view text, std::string_view part) { return text.find(part) != std::string_view::npos; }
 
 void checkEntrySlots(const Entry& entry, std::string_view pattern, Report& report) {

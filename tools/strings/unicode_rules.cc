@@ -16,8 +16,6 @@
 namespace kzm::strings {
 namespace {
 
-std::string inQuotes(std::string_view text) { return '"' + std::string(text) + '"'; }
-
 icu::UnicodeString unicode(std::string_view text) {
   return icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
 }

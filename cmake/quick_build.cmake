@@ -1,9 +1,9 @@
-# Headers that many sources include, compiled once for all of them.
+# What makes a build quick: headers that many sources include are compiled once, and small sources several at a time.
 
 # kzm_precompiled_headers(NAME HEADER... [LIBRARIES ...]): a set of them, and the libraries that they belong to.
 function(kzm_precompiled_headers name)
   cmake_parse_arguments(ARG "" "" "LIBRARIES" ${ARGN})
-  if(KZM_PRECOMPILED_HEADERS)
+  if(KZM_QUICK_BUILD)
     set(source ${PROJECT_BINARY_DIR}/${name}.cc)
     file(CONFIGURE OUTPUT ${source} CONTENT "// Nothing but the headers.\n")
     add_library(${name} OBJECT ${source})
@@ -15,9 +15,17 @@ endfunction()
 
 # kzm_precompile(TARGET NAME): the target's sources use that set.
 function(kzm_precompile target name)
-  if(KZM_PRECOMPILED_HEADERS)
+  if(KZM_QUICK_BUILD)
     target_compile_options(${target} PRIVATE -pthread)  # as some of the libraries ask for: one set suits all targets
     target_precompile_headers(${target} REUSE_FROM ${name})
+  endif()
+endfunction()
+
+# kzm_compile_together(TARGET...): several sources of a target at a time. For what is not edited and measured all day:
+# each is still compiled by itself in the builds that check the sources.
+function(kzm_compile_together)
+  if(KZM_QUICK_BUILD)
+    set_target_properties(${ARGN} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
   endif()
 endfunction()
 
