@@ -29,5 +29,6 @@ int main(int count, char** arguments) {
   measureThreads();
   measureGrowth();
   measureFirstCalls(arguments[0]);
+  measurePrograms(arguments[0]);
   std::printf("\n%d out of reach\n", rowsOutOfReach());
 }
