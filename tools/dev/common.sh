@@ -18,8 +18,8 @@ packages_peers=(libfmt-dev libbytesize-dev qtbase5-dev libkf5coreaddons-dev libk
 packages_languages=(gobject-introspection libgirepository1.0-dev python3-gi gjs lua5.3 lua-lgi valac rustc clang)
 packages_all=("${packages_test[@]}" libpango1.0-dev fish zsh
     fonts-dejavu-core fonts-noto-ui-core fonts-wqy-microhei fonts-sil-abyssinica)
-packages_panels=(libgtk-4-dev gir1.2-gtk-4.0 qt6-base-dev qt6-declarative-dev qml6-module-qtquick
-    xvfb xauth scrot)
+packages_panels=(libgtk-4-dev gir1.2-gtk-4.0 qt6-base-dev qt6-declarative-dev
+    qml6-module-qtquick qml6-module-qtqml-workerscript xvfb xauth scrot)
 packages_docs=(doxygen python3)
 packages_check=("${packages_all[@]}" "${packages_panels[@]}" clang-format clang-tidy valgrind
     abigail-tools xz-utils)
