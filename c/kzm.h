@@ -14,8 +14,8 @@
  *              kzm_last_error says why. NULL and NaN are also what a call gives that has nothing to say; then
  *              kzm_last_error gives NULL.
  * Threads      Every function may be called from any thread at any time.
- * Languages    Numbers, units and texts follow the environment (LC_ALL, LC_NUMERIC, LC_MEASUREMENT, LANGUAGE, LANG), or
- *              what a host chooses with kzm_set_locale before the first text.
+ * Languages    Numbers, units and texts follow the environment (LC_ALL, LC_NUMERIC, LC_MEASUREMENT, LC_MESSAGES,
+ *              LANGUAGE, LANG), or what a host chooses with kzm_set_locale before the first text.
  */
 /* clang-format off */
 #ifndef KZM_H
