@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <string_view>
 
 #include "core/rows.h"
 #include "core/unit_table.h"
@@ -32,14 +31,7 @@ struct Unit {
   }
 };
 
-/// One text of a family, in the order in which it is looked up.
-struct UnitText {
-  Unit unit;
-  Spacing spacing;
-  std::string_view text;
-  const char* comment;
-};
-
+using UnitText = core::UnitText<Unit>;
 using UnitIndex = core::UnitIndex<kForms * kLevels>;
 
 /// Where the texts of each unit are. Every form that the family has goes through all of its levels.

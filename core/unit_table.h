@@ -38,8 +38,17 @@ class UnitRow {
   std::array<char, 30> key_{};
 };
 
-/// The texts of a family that is kept in the shared cache, in the order in which they are looked up. Each has a name of
-/// its own: what templates make of two of the same name, each in the unnamed namespace of its source, is one to g++ 14.
+/// One text of a family, in the order in which it is looked up, as the family's own table has it. Unit is the family's.
+template <class Unit>
+struct UnitText {
+  Unit unit;
+  Spacing spacing;
+  std::string_view text;
+  const char* comment;
+};
+
+/// The texts of a family that is kept in the shared cache, in the order in which they are looked up. Give each table a
+/// name of its own: g++ 14 merges template instances for equally named constants of two unnamed namespaces.
 struct UnitTable {
   std::string_view cacheKey;
   std::span<const UnitRow> rows;
@@ -48,12 +57,12 @@ struct UnitTable {
 /// The text of the row in the user's language, looked up now.
 [[nodiscard]] std::string localizedText(const UnitRow& row);
 
-/// The rows of a family's own table, whose rows have members `text` and `comment` among others.
-template <class Row, std::size_t N>
-constexpr std::array<UnitRow, N> unitRows(std::string_view keyPrefix, const Row (&rows)[N]) {
-  std::array<UnitRow, N> units;
-  for (std::size_t i = 0; i < N; ++i) units[i] = UnitRow(keyPrefix, rows[i].text, rows[i].comment);
-  return units;
+/// What is looked up for the family's texts.
+template <class Unit, std::size_t N>
+constexpr std::array<UnitRow, N> unitRows(std::string_view keyPrefix, const UnitText<Unit> (&texts)[N]) {
+  std::array<UnitRow, N> rows;
+  for (std::size_t i = 0; i < N; ++i) rows[i] = UnitRow(keyPrefix, texts[i].text, texts[i].comment);
+  return rows;
 }
 
 /// The row of each unit, by spacing. A unit that has one form only has it in both.
@@ -74,13 +83,13 @@ struct UnitIndex {
   }
 };
 
-/// Where each unit's rows are. Rows have members `spacing` and `unit`, whose number is below Units.
-template <std::size_t Units, class Row, std::size_t N>
-constexpr UnitIndex<Units> unitIndex(const Row (&rows)[N]) {
+/// Where each unit's rows are. The number of a unit is below Units.
+template <std::size_t Units, class Unit, std::size_t N>
+constexpr UnitIndex<Units> unitIndex(const UnitText<Unit> (&texts)[N]) {
   UnitIndex<Units> index{};
   for (auto& forms : index.rows) forms.fill(UnitIndex<Units>::kNone);
   for (std::size_t i = 0; i < N; ++i) {
-    auto& row = index.rows[static_cast<std::size_t>(rows[i].unit)][static_cast<std::size_t>(rows[i].spacing)];
+    auto& row = index.rows[static_cast<std::size_t>(texts[i].unit)][static_cast<std::size_t>(texts[i].spacing)];
     if (row != UnitIndex<Units>::kNone) throw "two texts for one unit and spacing";
     row = static_cast<std::uint8_t>(i);
   }
@@ -93,15 +102,15 @@ constexpr UnitIndex<Units> unitIndex(const Row (&rows)[N]) {
 
 /// For the build's own check of a family's table: no template is there twice, and each has one place for the number, or
 /// none.
-template <class Row, std::size_t N>
-consteval bool wellFormed(const Row (&rows)[N]) {
+template <class Unit, std::size_t N>
+consteval bool wellFormed(const UnitText<Unit> (&texts)[N]) {
   for (std::size_t i = 0; i < N; ++i) {
-    const std::string_view text = rows[i].text;
+    const std::string_view text = texts[i].text;
     const std::size_t place = text.find("%@");
     const std::string_view after = place == std::string_view::npos ? std::string_view() : text.substr(place + 2);
     if (after.find('%') != std::string_view::npos && after != "%%") return false;
     for (std::size_t j = 0; j < i; ++j) {
-      if (text == rows[j].text) return false;
+      if (text == texts[j].text) return false;
     }
   }
   return true;

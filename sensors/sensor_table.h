@@ -3,7 +3,6 @@
 #define KZM_SENSORS_SENSOR_TABLE_H
 
 #include <cstdint>
-#include <string_view>
 
 #include "core/rows.h"
 #include "core/unit_table.h"
@@ -32,46 +31,38 @@ enum class Unit : std::uint8_t {
   percent,  // the same in every language: not in the table
 };
 
-/// One text of the family, in the order in which it is looked up.
-struct UnitText {
-  std::string_view text;
-  const char* comment;
-  Unit unit;
-  Spacing spacing;
-};
-
 // clang-format off
-//   template   translator's hint  unit                    spacing
-inline constexpr UnitText kTexts[] = {
-    {"%@°",     nullptr,           Unit::degrees,          Spacing::tight},
-    {"%@ K",    "kelvin",          Unit::kelvin,           Spacing::spaced},
-    {"%@K",     "kelvin",          Unit::kelvin,           Spacing::tight},
-    {"Off",     nullptr,           Unit::off,              Spacing::tight},
-    {"%@ rpm",  nullptr,           Unit::rpm,              Spacing::spaced},
-    {"%@rpm",   nullptr,           Unit::rpm,              Spacing::tight},
-    {"%@ V",    "volts",           Unit::volts,            Spacing::spaced},
-    {"%@V",     "volts",           Unit::volts,            Spacing::tight},
-    {"%@ mV",   nullptr,           Unit::millivolts,       Spacing::spaced},
-    {"%@mV",    nullptr,           Unit::millivolts,       Spacing::tight},
-    {"%@ A",    "amps",            Unit::amperes,          Spacing::spaced},
-    {"%@A",     "amps",            Unit::amperes,          Spacing::tight},
-    {"%@ mA",   nullptr,           Unit::milliamperes,     Spacing::spaced},
-    {"%@mA",    nullptr,           Unit::milliamperes,     Spacing::tight},
-    {"%@ W",    "watts",           Unit::watts,            Spacing::spaced},
-    {"%@W",     "watts",           Unit::watts,            Spacing::tight},
-    {"%@ mW",   nullptr,           Unit::milliwatts,       Spacing::spaced},
-    {"%@mW",    nullptr,           Unit::milliwatts,       Spacing::tight},
-    {"%@ G",    "GHz",             Unit::gigahertzShort,   Spacing::spaced},
-    {"%@G",     "GHz",             Unit::gigahertzShort,   Spacing::tight},
-    {"%@ GHz",  nullptr,           Unit::gigahertz,        Spacing::spaced},
-    {"%@GHz",   nullptr,           Unit::gigahertz,        Spacing::tight},
-    {"%@ Lx",   nullptr,           Unit::luxShort,         Spacing::spaced},
-    {"%@Lx",    nullptr,           Unit::luxShort,         Spacing::tight},
-    {"%@ Lux",  nullptr,           Unit::lux,              Spacing::spaced},
-    {"%@Lux",   nullptr,           Unit::lux,              Spacing::tight},
-    {"%@ mAh",  nullptr,           Unit::milliampereHours, Spacing::spaced},
-    {"%@mAh",   nullptr,           Unit::milliampereHours, Spacing::tight},
-    {"%@x",     nullptr,           Unit::times,            Spacing::tight},
+//   unit                    spacing          template   translator's hint
+inline constexpr core::UnitText<Unit> kTexts[] = {
+    {Unit::degrees,          Spacing::tight,  "%@°",     nullptr},
+    {Unit::kelvin,           Spacing::spaced, "%@ K",    "kelvin"},
+    {Unit::kelvin,           Spacing::tight,  "%@K",     "kelvin"},
+    {Unit::off,              Spacing::tight,  "Off",     nullptr},
+    {Unit::rpm,              Spacing::spaced, "%@ rpm",  nullptr},
+    {Unit::rpm,              Spacing::tight,  "%@rpm",   nullptr},
+    {Unit::volts,            Spacing::spaced, "%@ V",    "volts"},
+    {Unit::volts,            Spacing::tight,  "%@V",     "volts"},
+    {Unit::millivolts,       Spacing::spaced, "%@ mV",   nullptr},
+    {Unit::millivolts,       Spacing::tight,  "%@mV",    nullptr},
+    {Unit::amperes,          Spacing::spaced, "%@ A",    "amps"},
+    {Unit::amperes,          Spacing::tight,  "%@A",     "amps"},
+    {Unit::milliamperes,     Spacing::spaced, "%@ mA",   nullptr},
+    {Unit::milliamperes,     Spacing::tight,  "%@mA",    nullptr},
+    {Unit::watts,            Spacing::spaced, "%@ W",    "watts"},
+    {Unit::watts,            Spacing::tight,  "%@W",     "watts"},
+    {Unit::milliwatts,       Spacing::spaced, "%@ mW",   nullptr},
+    {Unit::milliwatts,       Spacing::tight,  "%@mW",    nullptr},
+    {Unit::gigahertzShort,   Spacing::spaced, "%@ G",    "GHz"},
+    {Unit::gigahertzShort,   Spacing::tight,  "%@G",     "GHz"},
+    {Unit::gigahertz,        Spacing::spaced, "%@ GHz",  nullptr},
+    {Unit::gigahertz,        Spacing::tight,  "%@GHz",   nullptr},
+    {Unit::luxShort,         Spacing::spaced, "%@ Lx",   nullptr},
+    {Unit::luxShort,         Spacing::tight,  "%@Lx",    nullptr},
+    {Unit::lux,              Spacing::spaced, "%@ Lux",  nullptr},
+    {Unit::lux,              Spacing::tight,  "%@Lux",   nullptr},
+    {Unit::milliampereHours, Spacing::spaced, "%@ mAh",  nullptr},
+    {Unit::milliampereHours, Spacing::tight,  "%@mAh",   nullptr},
+    {Unit::times,            Spacing::tight,  "%@x",     nullptr},
 };
 // clang-format on
 inline constexpr auto kRows = core::unitRows("Units.Sensors.", kTexts);

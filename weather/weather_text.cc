@@ -1,22 +1,13 @@
 #include "weather/weather_text.h"
 
-#include <string_view>
-
 #include "core/rows.h"
 
 namespace kzm::weather {
 namespace {
 
-struct UnitText {
-  Unit unit;
-  Spacing spacing;
-  std::string_view text;
-  const char* comment;
-};
-
 // clang-format off
 //   unit                     spacing          template      translator's hint
-constexpr UnitText kTexts[] = {
+constexpr core::UnitText<Unit> kTexts[] = {
     {Unit::degrees,           Spacing::tight,  "%@°",        nullptr},
     {Unit::kelvin,            Spacing::tight,  "%@K",        "kelvin"},
     {Unit::knots,             Spacing::spaced, "%@ knots",   nullptr},

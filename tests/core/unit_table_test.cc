@@ -8,15 +8,14 @@
 namespace kzm::core {
 namespace {
 
-struct Text {
-  std::string_view text;
-  const char* comment = nullptr;
-};
-constexpr Text kOnePlaceOrNone[] = {{"%@ V"}, {"Off"}};
-constexpr Text kWithPercentSign[] = {{"%@%%"}, {"%@"}};
-constexpr Text kTwice[] = {{"%@ V"}, {"%@ V"}};
-constexpr Text kTwoPlaces[] = {{"%@ of %@"}, {"%@ V"}};
-constexpr Text kLonePercentSign[] = {{"%@%"}, {"%@ V"}};
+enum class Unit { volts, off };
+using Text = UnitText<Unit>;
+constexpr Text reading(std::string_view text) { return {Unit::off, Spacing::tight, text, nullptr}; }
+constexpr Text kOnePlaceOrNone[] = {reading("%@ V"), reading("Off")};
+constexpr Text kWithPercentSign[] = {reading("%@%%"), reading("%@")};
+constexpr Text kTwice[] = {reading("%@ V"), reading("%@ V")};
+constexpr Text kTwoPlaces[] = {reading("%@ of %@"), reading("%@ V")};
+constexpr Text kLonePercentSign[] = {reading("%@%"), reading("%@ V")};
 
 TEST(UnitTable, IsWellFormedWithOnePlaceForTheNumberOrNone) {
   EXPECT_TRUE(wellFormed(kOnePlaceOrNone));
@@ -26,16 +25,20 @@ TEST(UnitTable, IsWellFormedWithOnePlaceForTheNumberOrNone) {
   EXPECT_FALSE(wellFormed(kLonePercentSign));
 }
 
-enum class Unit { volts, off };
-struct Row {
-  Unit unit;
-  Spacing spacing;
+// clang-format off
+//   unit          spacing          template  translator's hint
+constexpr Text kTexts[] = {
+    {Unit::volts,  Spacing::spaced, "%@ V",   "volts"},
+    {Unit::volts,  Spacing::tight,  "%@V",    "volts"},
+    {Unit::off,    Spacing::tight,  "Off",    nullptr},
 };
-constexpr Row kRows[] = {{Unit::volts, Spacing::spaced}, {Unit::volts, Spacing::tight}, {Unit::off, Spacing::tight}};
-constexpr Row kWithoutOff[] = {{Unit::volts, Spacing::spaced}};
+constexpr Text kWithoutOff[] = {
+    {Unit::volts,  Spacing::spaced, "%@ V",   "volts"},
+};
+// clang-format on
 
 TEST(UnitTable, AUnitThatHasOneFormOnlyHasItInBothSpacings) {
-  constexpr auto kIndex = unitIndex<countEnumerators<Unit>()>(kRows);
+  constexpr auto kIndex = unitIndex<countEnumerators<Unit>()>(kTexts);
   EXPECT_EQ(kIndex.row(0, Spacing::spaced), 0U);
   EXPECT_EQ(kIndex.row(0, Spacing::tight), 1U);
   EXPECT_EQ(kIndex.row(1, Spacing::spaced), 2U);
@@ -44,6 +47,13 @@ TEST(UnitTable, AUnitThatHasOneFormOnlyHasItInBothSpacings) {
 }
 
 TEST(UnitTable, AUnitWithoutARowIsMissed) { EXPECT_FALSE(unitIndex<countEnumerators<Unit>()>(kWithoutOff).hasAll()); }
+
+TEST(UnitTable, RowsHaveTheKeysAndHintsOfTheTexts) {
+  constexpr auto kRows = unitRows("Units.Test.", kTexts);
+  EXPECT_EQ(kRows[1].key(), "Units.Test.%@V");
+  EXPECT_STREQ(kRows[1].comment(), "volts");
+  EXPECT_EQ(kRows[2].comment(), nullptr);
+}
 
 TEST(UnitTable, AKeyIsThePrefixAndTheText) {
   constexpr UnitRow kRow("Units.Test.", "%@ V", "volts");
