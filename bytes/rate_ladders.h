@@ -2,6 +2,8 @@
 #ifndef KZM_BYTES_RATE_LADDERS_H
 #define KZM_BYTES_RATE_LADDERS_H
 
+#include <span>
+
 #include <KZMUtilities/dictionary.h>
 
 #include "bytes/family.h"
@@ -21,10 +23,6 @@ inline constexpr Rung kBinaryRungs[] = {
     {Level::mega, Taken::notAtLeast, 1073741824.0, kToMega},
     {Level::giga, Taken::otherwise,  0.0,          kToGiga},
 };
-inline constexpr Rung kBinaryFromMegaRungs[] = {
-    {Level::mega, Taken::notAtLeast, 1073741824.0, kToMega},
-    {Level::giga, Taken::otherwise,  0.0,          kToGiga},
-};
 
 // Deliberate: an early upgrade moves the thresholds alone, the factors stay binary. 10^9 bytes show as 0.93 giga
 // (Bandwidth.AnEarlyUpgradeMovesTheThresholdsButNotTheFactors).
@@ -33,15 +31,12 @@ inline constexpr Rung kEarlyRungs[] = {
     {Level::mega, Taken::notAtLeast, 1000000000.0, kToMega},
     {Level::giga, Taken::otherwise,  0.0,          kToGiga},
 };
-inline constexpr Rung kEarlyFromMegaRungs[] = {
-    {Level::mega, Taken::notAtLeast, 1000000000.0, kToMega},
-    {Level::giga, Taken::otherwise,  0.0,          kToGiga},
-};
 // clang-format on
 
 // By whether the upgrade is early.
 inline constexpr Ladder kFromKilo[] = {Ladder(kBinaryRungs), Ladder(kEarlyRungs)};
-inline constexpr Ladder kFromMega[] = {Ladder(kBinaryFromMegaRungs), Ladder(kEarlyFromMegaRungs)};
+inline constexpr Ladder kFromMega[] = {Ladder(std::span(kBinaryRungs).subspan(1)),
+                                       Ladder(std::span(kEarlyRungs).subspan(1))};
 
 /// The ladder that the boolean option "early-upgrade" asks for; one that ends in mega has no kilo level.
 [[nodiscard]] inline const Ladder& rateLadder(const Dictionary& options, Level lowest) noexcept {
