@@ -4,14 +4,12 @@
 #include <iterator>
 #include <mutex>
 #include <span>
-#include <string_view>
 #include <utility>
 
 #include <KZMSettings/KZMSettings.h>
 #include <KZMUtilities/default_units.h>
 
 #include "core/option_values.h"
-#include "core/rows.h"
 #include "port/current_locale.h"
 #include "port/measurement_locale.h"
 #include "port/never_destroyed.h"
@@ -21,19 +19,7 @@
 namespace kzm::units {
 namespace {
 
-using Unit = MeasurementUnit;
 using Defaults = KZMUtilitiesDefaultUnits;
-
-// The keys of the preferred units, by Quantity.
-constexpr std::string_view kKeys[] = {"windspeed", "pressure", "temperature", "distance", "rain", "snow"};
-static_assert(std::size(kKeys) == kQuantities);
-
-// The units of each setting's codes, from 1 on.
-constexpr Unit kSpeeds[] = {Unit::metersPerSecond, Unit::kilometersPerHour, Unit::milesPerHour, Unit::knots};
-constexpr Unit kDistances[] = {Unit::kilometers, Unit::miles};
-constexpr Unit kPressures[] = {Unit::hectopascals, Unit::millibars, Unit::inchesOfMercury};
-constexpr Unit kRains[] = {Unit::millimeters, Unit::inches};
-constexpr Unit kSnows[] = {Unit::centimeters, Unit::inches};
 
 struct Choice {
   Quantity quantity;  // for which the region is asked when the user chose none of the units
@@ -45,7 +31,7 @@ struct Choice {
 // clang-format off
 //   quantity                setting: key path                     units          asked by
 constexpr Choice kChoices[] = {
-    {Quantity::windSpeed,   {"Weather.Global.Units.WindSpeed",     kSpeeds,       &Defaults::windSpeedUnit}},
+    {Quantity::windSpeed,   {"Weather.Global.Units.WindSpeed",     kWindSpeeds,   &Defaults::windSpeedUnit}},
     {Quantity::temperature, {"Sensors.Global.Degrees.Format",      kTemperatures, &Defaults::sensorsTemperatureUnit}},
     {Quantity::temperature, {"Weather.Global.Units.Degrees",       kTemperatures, &Defaults::weatherTemperatureUnit}},
     {Quantity::distance,    {"Weather.Global.Units.Distance",      kDistances,    &Defaults::distanceUnit}},
@@ -54,6 +40,7 @@ constexpr Choice kChoices[] = {
     {Quantity::snow,        {"Weather.Global.Units.Precipitation", kSnows,        &Defaults::snowUnit}},
 };
 // clang-format on
+static_assert(std::size(kRains) == std::size(kSnows), "a code of the shared setting means nothing for one of them");
 
 using Accessor = decltype(UnitSetting::unit);
 
@@ -72,7 +59,7 @@ constexpr auto kSettings = [] {
 PreferredUnits localePreferences() {
   const Preferences units = preferencesFrom(samplesIn(port::measurementLocaleOf(port::currentMeasurementLocale())));
   PreferredUnits named;
-  for (std::size_t i = 0; i < kQuantities; ++i) named.emplace(kKeys[i], units[i]);
+  for (std::size_t i = 0; i < kQuantities; ++i) named.emplace(kQuantityRows[i].key, units[i]);
   return named;
 }
 
@@ -126,8 +113,9 @@ void KZMUtilitiesDefaultUnits::setUnits(kzm::PreferredUnits units) {
   const std::lock_guard lock(state_->mutex);
   state_->units = std::move(units);
   for (std::size_t i = 0; i < kzm::units::kQuantities; ++i) {
-    const auto found = state_->units.find(kzm::units::kKeys[i]);
-    const MeasurementUnit unit = found != state_->units.end() ? found->second : kzm::units::kMetric[i];
+    const kzm::units::QuantityRow& row = kzm::units::kQuantityRows[i];
+    const auto found = state_->units.find(row.key);
+    const MeasurementUnit unit = found != state_->units.end() ? found->second : row.metric;
     state_->preferred[i].store(unit, std::memory_order_relaxed);
   }
 }

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include <KZMUtilities/default_units.h>
 
@@ -26,10 +27,32 @@ using Samples = std::array<std::string, kQuantities>;
 /// A unit for each quantity.
 using Preferences = std::array<MeasurementUnit, kQuantities>;
 
-/// What is preferred where nothing else is known.
-inline constexpr Preferences kMetric = {MeasurementUnit::kilometersPerHour, MeasurementUnit::hectopascals,
-                                        MeasurementUnit::celsius,           MeasurementUnit::kilometers,
-                                        MeasurementUnit::millimeters,       MeasurementUnit::centimeters};
+/// A kind of quantity: the key of its preferred unit, and what is preferred where nothing else is known.
+struct QuantityRow {
+  Quantity quantity;
+  std::string_view key;
+  MeasurementUnit metric;
+};
+
+// clang-format off
+//   quantity               key            metric unit
+inline constexpr QuantityRow kQuantityRows[] = {
+    {Quantity::windSpeed,   "windspeed",   MeasurementUnit::kilometersPerHour},
+    {Quantity::pressure,    "pressure",    MeasurementUnit::hectopascals},
+    {Quantity::temperature, "temperature", MeasurementUnit::celsius},
+    {Quantity::distance,    "distance",    MeasurementUnit::kilometers},
+    {Quantity::rain,        "rain",        MeasurementUnit::millimeters},
+    {Quantity::snow,        "snow",        MeasurementUnit::centimeters},
+};
+// clang-format on
+static_assert(core::areInOrder(kQuantityRows, &QuantityRow::quantity), "a quantity has no row, or not its place");
+
+/// The metric unit of each quantity.
+inline constexpr Preferences kMetric = [] {
+  Preferences units{};
+  for (std::size_t i = 0; i < kQuantities; ++i) units[i] = kQuantityRows[i].metric;
+  return units;
+}();
 
 /// The six samples as they read in the locale's units.
 [[nodiscard]] Samples samplesIn(const port::MeasurementLocale& locale);

@@ -9,9 +9,16 @@
 
 namespace kzm::units {
 
-/// The units of temperature, in the order of the settings' codes.
+// The units that the settings offer, in the order of their codes, which begin with 1.
+inline constexpr MeasurementUnit kWindSpeeds[] = {MeasurementUnit::metersPerSecond, MeasurementUnit::kilometersPerHour,
+                                                  MeasurementUnit::milesPerHour, MeasurementUnit::knots};
 inline constexpr MeasurementUnit kTemperatures[] = {MeasurementUnit::celsius, MeasurementUnit::fahrenheit,
                                                     MeasurementUnit::kelvin};
+inline constexpr MeasurementUnit kDistances[] = {MeasurementUnit::kilometers, MeasurementUnit::miles};
+inline constexpr MeasurementUnit kPressures[] = {MeasurementUnit::hectopascals, MeasurementUnit::millibars,
+                                                 MeasurementUnit::inchesOfMercury};
+inline constexpr MeasurementUnit kRains[] = {MeasurementUnit::millimeters, MeasurementUnit::inches};
+inline constexpr MeasurementUnit kSnows[] = {MeasurementUnit::centimeters, MeasurementUnit::inches};
 
 /// The unit's international symbol, such as "mph".
 [[nodiscard]] std::string_view symbolOf(MeasurementUnit unit) noexcept;

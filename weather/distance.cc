@@ -2,30 +2,26 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/weather.h>
 
+#include "units/measurement_unit.h"
 #include "weather/amounts.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
 namespace {
 
-struct DistanceRow {
-  MeasurementUnit unit;
-  Conversion fromKilometers;
-  Unit shown;
-};
-
 // clang-format off
 //   unit                         from km    shown in; the last row serves any other unit
-constexpr DistanceRow kDistances[] = {
+constexpr ChosenUnit kDistances[] = {
     {MeasurementUnit::miles,      KmToMiles, Unit::miles},
     {MeasurementUnit::kilometers, unchanged, Unit::kilometers},
 };
 // clang-format on
+static_assert(haveRows(units::kDistances, kDistances), "a unit has no row");
 
-const DistanceRow& distanceRow() { return rowFor(kDistances, KZMUtilitiesDefaultUnits::shared().distanceUnit()); }
+const ChosenUnit& distanceRow() { return rowFor(kDistances, KZMUtilitiesDefaultUnits::shared().distanceUnit()); }
 
-core::Amount amountOf(const DistanceRow& row, double kilometers) {
-  return {core::Digits::wholeByThrees, 0, row.fromKilometers(kilometers)};
+core::Amount amountOf(const ChosenUnit& row, double kilometers) {
+  return {core::Digits::wholeByThrees, 0, row.fromBase(kilometers)};
 }
 
 }  // namespace
@@ -36,7 +32,7 @@ core::Amount distanceAmount(double kilometers) { return amountOf(distanceRow(), 
 
 std::string KZMUtilitiesFormatWeatherDistance(double kilometers) {
   using namespace kzm::weather;
-  const DistanceRow& row = distanceRow();
+  const ChosenUnit& row = distanceRow();
   return text(row.shown, amountOf(row, kilometers));
 }
 

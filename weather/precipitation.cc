@@ -4,6 +4,7 @@
 #include <KZMUtilities/default_units.h>
 #include <KZMUtilities/weather.h>
 
+#include "units/measurement_unit.h"
 #include "weather/amounts.h"
 #include "weather/weather_text.h"
 
@@ -28,6 +29,8 @@ constexpr PrecipitationRow kSnow[] = {
     {MeasurementUnit::centimeters, mmToCm,    1,      Unit::centimeters},
 };
 // clang-format on
+static_assert(haveRows(units::kRains, kRain), "a unit has no row");
+static_assert(haveRows(units::kSnows, kSnow), "a unit has no row");
 
 // Deliberate: snow, too, follows the unit of rain (WeatherSnow.FollowsTheUnitOfRain).
 template <std::size_t N>

@@ -5,6 +5,7 @@
 
 #include "core/option_values.h"
 #include "units/factors.h"
+#include "units/measurement_unit.h"
 #include "weather/amounts.h"
 #include "weather/weather_text.h"
 
@@ -37,6 +38,7 @@ constexpr PressureRow kPressures[] = {
     {MeasurementUnit::hectopascals,    unchanged,            Showing::chosen,   Unit::hectopascals},
 };
 // clang-format on
+static_assert(haveRows(units::kPressures, kPressures), "a unit has no row");
 
 constexpr std::int64_t kInchDigits = 2;
 

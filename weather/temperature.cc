@@ -30,6 +30,7 @@ constexpr TemperatureRow kTemperatures[] = {
     {MeasurementUnit::celsius,    unchanged,           true,     Unit::degrees},
 };
 // clang-format on
+static_assert(haveRows(units::kTemperatures, kTemperatures), "a unit has no row");
 
 // Deliberate: made so that a rounded zero has no minus, this takes the minus off -0.4 too, wherever the locale writes
 // it as the ASCII sign next to an ASCII digit (WeatherTemperature.TheMinusBeforeAZeroIsDropped).

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include <KZMUtilities/default_units.h>
@@ -52,7 +53,21 @@ enum class Unit : std::uint8_t {
   return {core::Digits::atMostNow, decimals, value};
 }
 
-/// The row of the unit; the last row serves any other unit. Rows have a member `unit`.
+/// A conversion of the family's base unit.
+using Conversion = double (*)(double) noexcept;
+
+/// The conversion of quantities that are shown as they come.
+constexpr double unchanged(double value) noexcept { return value; }
+
+/// A unit that the user may choose, of quantities that differ in nothing else.
+struct ChosenUnit {
+  MeasurementUnit unit;
+  Conversion fromBase;
+  Unit shown;
+};
+
+/// The row of the unit; the last row serves any other unit, such as one that a host put among the preferred units. Rows
+/// have a member `unit`.
 template <class Row, std::size_t N>
 constexpr const Row& rowFor(const Row (&rows)[N], MeasurementUnit unit) noexcept {
   std::size_t row = 0;
@@ -60,11 +75,14 @@ constexpr const Row& rowFor(const Row (&rows)[N], MeasurementUnit unit) noexcept
   return rows[row];
 }
 
-/// A conversion of the family's base unit.
-using Conversion = double (*)(double) noexcept;
-
-/// The conversion of quantities that are shown as they come.
-constexpr double unchanged(double value) noexcept { return value; }
+/// For the build's own check: whether each unit that the setting offers has a row, and each row is of such a unit.
+template <class Row, std::size_t N>
+consteval bool haveRows(std::span<const MeasurementUnit> offered, const Row (&rows)[N]) {
+  for (const MeasurementUnit unit : offered) {
+    if (rowFor(rows, unit).unit != unit) return false;
+  }
+  return offered.size() == N;
+}
 
 }  // namespace kzm::weather
 

@@ -3,32 +3,28 @@
 #include <KZMUtilities/weather.h>
 
 #include "core/option_values.h"
+#include "units/measurement_unit.h"
 #include "weather/amounts.h"
 #include "weather/weather_text.h"
 
 namespace kzm::weather {
 namespace {
 
-struct WindRow {
-  MeasurementUnit unit;
-  Conversion fromMetersPerSecond;
-  Unit shown;
-};
-
 // clang-format off
 //   unit                                from m/s    shown in; the last row serves any other unit
-constexpr WindRow kWinds[] = {
+constexpr ChosenUnit kWinds[] = {
     {MeasurementUnit::knots,             mpsToKnots, Unit::knots},
     {MeasurementUnit::milesPerHour,      mpsToMph,   Unit::milesPerHour},
     {MeasurementUnit::kilometersPerHour, mpsToKph,   Unit::kilometersPerHour},
     {MeasurementUnit::metersPerSecond,   unchanged,  Unit::metersPerSecond},
 };
 // clang-format on
+static_assert(haveRows(units::kWindSpeeds, kWinds), "a unit has no row");
 
-const WindRow& windRow() { return rowFor(kWinds, KZMUtilitiesDefaultUnits::shared().windSpeedUnit()); }
+const ChosenUnit& windRow() { return rowFor(kWinds, KZMUtilitiesDefaultUnits::shared().windSpeedUnit()); }
 
-core::Amount amountOf(const WindRow& row, double metersPerSecond) {
-  return atMost(0, row.fromMetersPerSecond(metersPerSecond));
+core::Amount amountOf(const ChosenUnit& row, double metersPerSecond) {
+  return atMost(0, row.fromBase(metersPerSecond));
 }
 
 // A sector of the compass, 45 degrees wide, and the bearing at which the next one begins.
@@ -68,7 +64,7 @@ core::Amount windSpeedAmount(double metersPerSecond) { return amountOf(windRow()
 std::string KZMUtilitiesFormatWeatherWindSpeed(const kzm::Dictionary& options, double metersPerSecond) {
   using namespace kzm::weather;
   using namespace kzm::core;
-  const WindRow& row = windRow();
+  const ChosenUnit& row = windRow();
   const Amount amount = amountOf(row, metersPerSecond);
   return readBoolean(options.find(kUnits)) ? text(row.shown, readSpacing(options), amount) : text(amount);
 }

@@ -19,6 +19,18 @@
 namespace kzm::weather {
 namespace {
 
+TEST(WeatherUnits, AUnitThatASettingOffersWithoutARowIsMissed) {
+  constexpr MeasurementUnit kOffered[] = {MeasurementUnit::kilometers, MeasurementUnit::miles};
+  constexpr ChosenUnit kBoth[] = {{MeasurementUnit::miles, unchanged, Unit::miles},
+                                  {MeasurementUnit::kilometers, unchanged, Unit::kilometers}};
+  constexpr ChosenUnit kOne[] = {{MeasurementUnit::miles, unchanged, Unit::miles}};
+  constexpr ChosenUnit kAnother[] = {{MeasurementUnit::miles, unchanged, Unit::miles},
+                                     {MeasurementUnit::knots, unchanged, Unit::knots}};
+  EXPECT_TRUE(haveRows(kOffered, kBoth));
+  EXPECT_FALSE(haveRows(kOffered, kOne));
+  EXPECT_FALSE(haveRows(kOffered, kAnother));
+}
+
 TEST(WeatherTexts, EveryUnitThatCanBeChosenHasATextOfItsOwn) {
   struct Case {
     const char* keyPath;
