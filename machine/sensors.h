@@ -6,21 +6,23 @@
 #include <string>
 #include <vector>
 
+#include <KZMUtilities/sensors.h>
+
 #include "machine/files.h"
 
 namespace kzm::machine {
 
-/// The numbers of KZMUtilitiesSensorData, which shows the readings.
+/// What a sensor measures, by the numbers of KZMUtilitiesSensorData.
 enum class Kind : std::int64_t {
-  temperature = 1,  // degrees Celsius
-  percentage = 2,   // a fraction, 0 to 1
-  fan = 3,          // revolutions per minute
-  current = 4,      // amperes
-  power = 5,        // watts
-  voltage = 6,      // volts
-  light = 7,        // lux
-  frequency = 8,    // megahertz
-  capacity = 100,   // milliampere-hours
+  temperature = SensorType::temperature,  // degrees Celsius
+  percentage = SensorType::percentage,    // a fraction, 0 to 1
+  fan = SensorType::fan,                  // revolutions per minute
+  current = SensorType::current,          // amperes
+  power = SensorType::power,              // watts
+  voltage = SensorType::voltage,          // volts
+  light = SensorType::light,              // lux
+  frequency = SensorType::frequency,      // megahertz
+  capacity = SensorType::capacity,        // milliampere-hours
 };
 
 struct SensorReading {
