@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <string_view>
-#include <type_traits>
 
 namespace kzm::core {
 
@@ -26,13 +25,19 @@ consteval std::size_t countEnumerators() {
   }
 }
 
-/// Whether every enumerator has its row, and each row is at the position that its column names, so that the column's
-/// enumerator is the row's index.
+/// Whether each row is at the position that its column names, so that the column's enumerator is the row's index, and
+/// only the last enumerators, the given number of them, have none.
 template <class Row, std::size_t N, class Enum>
-consteval bool areInOrder(const Row (&rows)[N], Enum Row::*column) {
+consteval bool areInOrder(const Row (&rows)[N], Enum Row::*column, std::size_t withoutRow = 0) {
   for (std::size_t i = 0; i < N; ++i) {
     if (static_cast<std::size_t>(rows[i].*column) != i) return false;
   }
+  return N + withoutRow == countEnumerators<Enum>();
+}
+
+/// Whether every enumerator has its element, for lists whose elements have no column that names it.
+template <class Enum, class Element, std::size_t N>
+consteval bool haveAll(const Element (&/*elements*/)[N]) {
   return N == countEnumerators<Enum>();
 }
 

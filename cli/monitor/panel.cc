@@ -9,6 +9,7 @@
 #include "cli/monitor/graph.h"
 #include "cli/show/placing.h"
 #include "cli/words.h"
+#include "core/rows.h"
 
 namespace kzm::cli {
 namespace {
@@ -110,6 +111,7 @@ Level levelOf(const Item& item) {
 
 Color colorOf(Level level) {
   constexpr Color kColors[] = {Color::green, Color::yellow, Color::red};
+  static_assert(core::haveAll<Level>(kColors));
   return kColors[static_cast<std::size_t>(level)];
 }
 

@@ -10,6 +10,7 @@
 
 #include "cli/show/placing.h"
 #include "cli/words.h"
+#include "core/rows.h"
 
 namespace kzm::cli {
 namespace {
@@ -70,6 +71,7 @@ constexpr std::string_view kFigureSpace = "\u2007";  // as wide as a digit, and 
 
 std::string_view nameOf(Level level) {
   constexpr std::string_view kNames[] = {"normal", "warning", "critical"};
+  static_assert(core::haveAll<Level>(kNames));
   return kNames[static_cast<std::size_t>(level)];
 }
 

@@ -5,6 +5,8 @@
 #include <iterator>
 #include <limits>
 
+#include "core/rows.h"
+
 namespace kzm::cli {
 namespace {
 
@@ -38,12 +40,7 @@ constexpr QuantityRow kRows[] = {
     {Quantity::state,        "",     kNever, kNever},
 };
 // clang-format on
-static_assert([] {
-  for (std::size_t i = 0; i < std::size(kRows); ++i) {
-    if (static_cast<std::size_t>(kRows[i].quantity) != i) return false;
-  }
-  return std::size(kRows) == static_cast<std::size_t>(Quantity::state) + 1;
-}());
+static_assert(core::areInOrder(kRows, &QuantityRow::quantity), "a quantity has no row, or not its place");
 
 // How readings of one item are distinguished without words.
 struct Sign {

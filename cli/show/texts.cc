@@ -1,7 +1,6 @@
 #include "cli/show/texts.h"
 
 #include <cstddef>
-#include <iterator>
 #include <limits>
 #include <string>
 
@@ -12,6 +11,7 @@
 #include <KZMUtilities/widest_text.h>
 
 #include "cli/words.h"
+#include "core/rows.h"
 
 namespace kzm::cli {
 namespace {
@@ -140,12 +140,7 @@ constexpr WriterRow kWriters[] = {
     {Quantity::capacity,     sensorOptions, sensor<SensorType::capacity>,     TextFamily::sensorCapacity},
 };
 // clang-format on
-static_assert([] {
-  for (std::size_t i = 0; i < std::size(kWriters); ++i) {
-    if (static_cast<std::size_t>(kWriters[i].quantity) != i) return false;
-  }
-  return std::size(kWriters) == static_cast<std::size_t>(Quantity::state);
-}());
+static_assert(core::areInOrder(kWriters, &WriterRow::quantity, 1), "a quantity has no row, or not its place");
 
 const WriterRow& writerOf(Quantity quantity) { return kWriters[static_cast<std::size_t>(quantity)]; }
 

@@ -4,6 +4,8 @@
 
 #include <KZMUtilities/display_width.h>
 
+#include "core/rows.h"
+
 namespace kzm::cli {
 namespace {
 
@@ -18,6 +20,7 @@ std::string sequenceOf(const Style& style, Dress dress) {
   // clang-format off
   constexpr std::string_view kCodes[] = {"", ";31", ";32", ";33", ";34", ";35", ";36"};
   // clang-format on
+  static_assert(core::haveAll<Color>(kCodes));
   if (dress == Dress::colors) sequence += kCodes[static_cast<std::size_t>(style.color)];
   return sequence + "m";
 }

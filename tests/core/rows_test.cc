@@ -26,6 +26,21 @@ TEST(Rows, EveryEnumeratorHasItsRowAndEveryRowItsPlace) {
   EXPECT_FALSE(areInOrder(kWithOneTwice, &Row::wind));
 }
 
+TEST(Rows, TheLastEnumeratorsMayHaveNoRowWhenTheirNumberIsGiven) {
+  EXPECT_TRUE(areInOrder(kWithoutTheLast, &Row::wind, 1));
+  EXPECT_FALSE(areInOrder(kWithoutTheFirst, &Row::wind, 1));
+  EXPECT_FALSE(areInOrder(kAll, &Row::wind, 1));
+}
+
+TEST(Rows, AListHasAnElementForEachEnumerator) {
+  constexpr int kBeaufort[] = {0, 3, 10};
+  constexpr int kTooFew[] = {0, 3};
+  constexpr int kTooMany[] = {0, 3, 10, 12};
+  EXPECT_TRUE(haveAll<Wind>(kBeaufort));
+  EXPECT_FALSE(haveAll<Wind>(kTooFew));
+  EXPECT_FALSE(haveAll<Wind>(kTooMany));
+}
+
 TEST(Rows, EnumeratorsAreCountedFromZeroWithoutAGap) {
   EXPECT_EQ(countEnumerators<Wind>(), 3U);
   EXPECT_EQ(countEnumerators<Tide>(), 0U);
