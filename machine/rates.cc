@@ -1,12 +1,12 @@
 #include "machine/rates.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdint>
 #include <limits>
 #include <optional>
-#include <string>
 #include <vector>
+
+#include "port/clocks.h"
 
 namespace kzm::machine {
 namespace {
@@ -47,8 +47,6 @@ std::vector<Rate> ratesBetween(const Sample& earlier, const Sample& later) {
   return rates;
 }
 
-double secondsNow() {
-  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
-}
+double secondsNow() { return port::steadySeconds(); }
 
 }  // namespace kzm::machine

@@ -19,12 +19,32 @@ namespace kzm::port {
   return nanosecondsOf(now);
 }
 
-/// Milliseconds of a clock that nobody sets, some milliseconds late: reading it takes no call of the kernel.
-[[nodiscard]] inline std::int64_t coarseMilliseconds() noexcept {
-  constexpr std::int64_t kNanoseconds = 1'000'000;
+/// Seconds of a clock that nobody sets, to measure how long something took.
+[[nodiscard]] inline double steadySeconds() noexcept {
+  constexpr double kSecondsPerNanosecond = 1e-9;
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC, &now);
+  return static_cast<double>(nanosecondsOf(now)) * kSecondsPerNanosecond;
+}
+
+/// Nanoseconds of a clock that nobody sets, some milliseconds late: it costs a few nanoseconds, so it may be read in an
+/// inner loop.
+[[nodiscard]] inline std::int64_t coarseNanoseconds() noexcept {
   timespec now{};
   clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
-  return nanosecondsOf(now) / kNanoseconds;
+  return nanosecondsOf(now);
+}
+
+/// The same in milliseconds.
+[[nodiscard]] inline std::int64_t coarseMilliseconds() noexcept {
+  constexpr std::int64_t kNanosecondsPerMillisecond = 1'000'000;
+  return coarseNanoseconds() / kNanosecondsPerMillisecond;
+}
+
+/// Lets a millisecond pass, or less when a signal comes.
+inline void sleepAMillisecond() noexcept {
+  constexpr timespec kMillisecond{0, 1'000'000};
+  nanosleep(&kMillisecond, nullptr);
 }
 
 }  // namespace kzm::port

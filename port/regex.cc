@@ -1,13 +1,13 @@
 #include "port/regex.h"
 
 #include <cstdint>
-#include <ctime>
 #include <limits>
 #include <memory>
 #include <unicode/regex.h>
 #include <unicode/unistr.h>
 #include <utility>
 
+#include "port/clocks.h"
 #include "port/memory_watch.h"
 #include "port/per_thread.h"
 #include "port/regex_pattern.h"
@@ -34,20 +34,15 @@ static_assert(kLongestText < std::numeric_limits<std::int32_t>::max());
 class Deadline {
  public:
   Deadline(icu::RegexMatcher& matcher, std::size_t bytes, UErrorCode& status)
-      : end_(now() + kNanoseconds + static_cast<std::int64_t>(bytes) * kNanosecondsPerByte) {
+      : end_(coarseNanoseconds() + kNanoseconds + static_cast<std::int64_t>(bytes) * kNanosecondsPerByte) {
     matcher.setTimeLimit(kEngineUnits + static_cast<std::int32_t>(bytes / kBytesPerEngineUnit), status);
     matcher.setMatchCallback(&Deadline::afterSteps, this, status);
     matcher.setFindProgressCallback(&Deadline::atPosition, this, status);
   }
 
  private:
-  // The coarse clock costs a few nanoseconds, so it can be read at every place where a match is tried.
-  static std::int64_t now() {
-    timespec time{};
-    ::clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
-    return time.tv_sec * std::int64_t{1'000'000'000} + time.tv_nsec;
-  }
-  [[nodiscard]] UBool holds() const { return now() < end_ ? 1 : 0; }
+  // Asked at every place where a match is tried.
+  [[nodiscard]] UBool holds() const { return coarseNanoseconds() < end_ ? 1 : 0; }
 
   static UBool U_CALLCONV afterSteps(const void* context, std::int32_t /*steps*/) {
     return static_cast<const Deadline*>(context)->holds();

@@ -1,7 +1,6 @@
 #include "settings/file.h"
 
 #include <cerrno>
-#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -13,7 +12,6 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
-#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -176,15 +174,16 @@ Lock::Lock(const std::string& path) {
   const int descriptor = descriptor_.number();
   struct stat status {};
   if (fstat(descriptor, &status) == 0 && status.st_uid == 0) giveToOwnerOfParent(name, descriptor);
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(2);
+  constexpr double kPatienceSeconds = 2;
+  const double end = port::steadySeconds() + kPatienceSeconds;
   while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
-    const bool waits = (errno == EWOULDBLOCK || errno == EINTR) && std::chrono::steady_clock::now() < end;
+    const bool waits = (errno == EWOULDBLOCK || errno == EINTR) && port::steadySeconds() < end;
     if (!waits) {
       fault_ = name + ": " + (errno == EWOULDBLOCK ? "another process keeps it locked" : errorText(errno));
       descriptor_.close();
       return;
     }
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    port::sleepAMillisecond();
   }
 }
 
