@@ -1,5 +1,4 @@
 // The catalogue of time items: one row for each group heading, marker and item.
-#include <array>
 #include <string_view>
 #include <utility>
 

@@ -1,6 +1,5 @@
 // What of a device's text may reach a terminal.
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 

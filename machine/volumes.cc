@@ -1,7 +1,6 @@
 #include "machine/volumes.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>

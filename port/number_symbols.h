@@ -5,7 +5,6 @@
 #include <array>
 #include <cstddef>
 #include <string>
-#include <string_view>
 
 namespace kzm {
 

@@ -5,7 +5,6 @@
 #include <atomic>
 #include <cctz/civil_time.h>
 #include <cctz/time_zone.h>
-#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <functional>

@@ -1,6 +1,7 @@
 #include "sensors/sensor_data.h"
 
 #include <cmath>
+#include <utility>
 
 #include <KZMUtilities/conversions.h>
 #include <KZMUtilities/default_units.h>

@@ -1,9 +1,7 @@
 // The verbs `call` and `list`: every exported function, by name, for scripts and tests.
 #include <iostream>
-#include <stdexcept>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "catalogue/callables.h"
 #include "catalogue/companions.h"

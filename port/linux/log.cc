@@ -3,12 +3,10 @@
 
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <ctime>
 #include <glib.h>
-#include <memory>
 #include <string_view>
 #include <syslog.h>
 #include <unistd.h>
