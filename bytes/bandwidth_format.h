@@ -19,7 +19,7 @@ struct BandwidthFormat {
 };
 
 // By code.
-// Deliberate: the swap is one-way, 3 stays 3 and never turns back into 1; any other code turns into 3
+// Deliberate: "reverse-type" swaps one way only, 3 stays 3 and never turns back into 1; any other code turns into 3
 // (Bandwidth.TheReversedFormatIsOneWay).
 // clang-format off
 //   bits   lowest       reversed

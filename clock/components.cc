@@ -150,7 +150,7 @@ TimePoint dateFromComponents(CalendarUnits units) {
   return today.has_value() ? Selection(*today, units).timePoint() : std::nullopt;
 }
 
-// Deliberate: where there is no date, the interval is 0 (DateFromComponents.NoDateWhereNowHasNone).
+// Deliberate: timeIntervalFromComponents is 0 where there is no date (DateFromComponents.NoDateWhereNowHasNone).
 double timeIntervalFromComponents(CalendarUnits units) { return dateFromComponents(units).value_or(0.0); }
 
 }  // namespace kzm

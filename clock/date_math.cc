@@ -35,7 +35,7 @@ TimePoint dayStartWithTimezone(TimePoint t, TimeZone zone) {
   const std::optional<clock::Instant> instant = clock::instantOf(t);
   if (!instant.has_value()) return std::nullopt;
   clock::CivilDate date = clock::dateOfDay(clock::wallTime(instant->seconds, zone).day);
-  // Deliberate: year, month and day are taken without the era, so a day before Christ leads to one after
+  // Deliberate: day starts take year, month and day without the era, so a day before Christ leads to one after
   // (DayStart.DropsTheEra).
   if (date.year < 1) date.year = 1 - date.year;
   return clock::timePointOf({clock::instantAt({clock::dayOfDate(date), 0}, zone, clock::Occurrence::dayStart), 0.0});

@@ -19,7 +19,7 @@ TimePoint exchangeOffsets(TimePoint t, TimeZone removed, TimeZone added) {
 
 }  // namespace
 
-// Deliberate: this reads the default zone, while the two conversions below read the system zone
+// Deliberate: corrected reads the default zone, while converToTimezone and converFromTimezone read the system zone
 // (ZoneShift.CorrectedReadsAsTheLocalClockOfTheDefaultZone, ZoneShiftDeathTest.ConversionsUseTheSystemZone).
 TimePoint corrected(TimePoint t) {
   if (!clock::supported(t).has_value()) return std::nullopt;

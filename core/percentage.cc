@@ -7,7 +7,7 @@
 namespace kzm::core {
 namespace {
 
-// Deliberate: both end in one lone percent sign, which the format operation leaves as it is, in every language
+// Deliberate: percentages end in one lone percent sign, which the format operation leaves as it is, in every language
 // (Percentage.TextsInBothRenderings).
 constexpr Template kTight("%@%");
 constexpr Template kSpaced("%@ %");

@@ -96,12 +96,12 @@ void Child::killIfStillRunning() {
 
 void Child::cleanup() {
   KZMTryCatchBlock([this] {
-    // Deliberate: the guard ends the whole block without a word if the standard input is not a pipe
+    // Deliberate: cleanup does nothing at all, without a word, if the standard input is not a pipe
     // (ChildTest.CleanupEndsSilentlyIfTheInputIsNotAPipe).
     const Pipe input = inputPipe(configuration());
     input.readingEnd().close();
     input.writingEnd().close();
-    // Deliberate: the standard output is only cleared, not closed
+    // Deliberate: cleanup only clears the standard output, it does not close it
     // (ChildTest.CleanupOnlyClearsTheOutputAndDoesNotCloseIt).
     setConnection(&ChildConfiguration::standardOutput, NullStream{});
     setTerminationHandler(nullptr);

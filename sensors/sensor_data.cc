@@ -31,8 +31,8 @@ Converted temperature(const Dictionary& options, double celsius) {
   return {Unit::degrees, celsius};
 }
 
-// Deliberate: capped above only, -0.5 is -50; but exactly -1.0, which sources give for an unknown reading, is 0, and
-// NaN is 100 (SensorData.PercentageIsCappedAboveOnly).
+// Deliberate: a percentage is capped above only, -0.5 is -50; but exactly -1.0, which sources give for an unknown
+// reading, is 0, and NaN is 100 (SensorData.PercentageIsCappedAboveOnly).
 Converted percentage(const Dictionary& /*options*/, double fraction) {
   constexpr double kUnknown = -1.0;
   if (fraction == kUnknown) return {Unit::percent, 0.0};

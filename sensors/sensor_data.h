@@ -15,7 +15,7 @@
 namespace kzm::sensors {
 
 /// The row of a percentage: beyond the table.
-/// Deliberate: its text is not looked up (SensorData.ThePercentageIsNotLookedUp).
+/// Deliberate: the percent sign of a sensor is not looked up (SensorData.ThePercentageIsNotLookedUp).
 inline constexpr std::size_t kPercentRow = std::size(kTexts);
 
 /// What a reading is shown as. Nothing for a kind that does not exist, and for a unit that a host's own table lacks.

@@ -12,8 +12,8 @@ namespace {
 
 constexpr Key kStrip = "strip";
 
-// Deliberate: this runs on the finished text, so that spaces within the unit go too, and of the separators only those
-// that a locale writes as a comma or a point (SensorFormat.StripRunsOnTheFinishedText).
+// Deliberate: "strip" runs on the finished text, so that spaces within the unit go too, and of the separators only
+// those that a locale writes as a comma or a point (SensorFormat.StripRunsOnTheFinishedText).
 void strip(std::string& text, bool isWhole) {
   const std::string_view unwanted = isWhole ? " ,." : " ";
   std::erase_if(text, [unwanted](char c) { return unwanted.find(c) != std::string_view::npos; });

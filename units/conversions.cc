@@ -13,7 +13,8 @@ static_assert(kFiveNinths == 5.0 / 9.0);
 
 }  // namespace
 
-// Deliberate: the way back multiplies by another five ninths (Conversions.FahrenheitAndBackIsNotTheSame).
+// Deliberate: fahrenheitToCelcius multiplies by other five ninths than celciusToFahrenheit divides by
+// (Conversions.FahrenheitAndBackIsNotTheSame).
 double celciusToFahrenheit(double celsius) noexcept { return celsius / kFiveNinthsInSinglePrecision + 32.0; }
 double fahrenheitToCelcius(double fahrenheit) noexcept { return (fahrenheit - 32.0) * kFiveNinths; }
 double celciusToKelvin(double celsius) noexcept { return celsius + 273.15; }
@@ -23,7 +24,7 @@ double inchToCm(double inches) noexcept { return inches * 2.54; }
 double cmToInch(double centimeters) noexcept { return centimeters * 0.3937; }
 double inchToMm(double inches) noexcept { return inches * 25.4; }
 double mmToInch(double millimeters) noexcept { return millimeters * 0.03937; }
-// Deliberate: a division, which is not the multiplication by the rounded reciprocal
+// Deliberate: mmToCm divides, which is not the multiplication by the rounded reciprocal
 // (Conversions.MmToCmDividesByTenInsteadOfMultiplyingByATenth).
 double mmToCm(double millimeters) noexcept { return millimeters / 10.0; }
 double cmToMm(double centimeters) noexcept { return centimeters * 10.0; }
@@ -36,7 +37,7 @@ double mpsToMph(double metersPerSecond) noexcept { return metersPerSecond * 2.23
 double mphToMps(double milesPerHour) noexcept { return milesPerHour * 0.44704; }
 double mpsToKnots(double metersPerSecond) noexcept { return metersPerSecond * 1.94384; }
 
-// Deliberate: a division here, too (Conversions.InchToMillibarDivides).
+// Deliberate: inchToMillibar divides, too (Conversions.InchToMillibarDivides).
 double inchToMillibar(double inchesOfMercury) noexcept {
   return inchesOfMercury / kzm::units::kInchesOfMercuryInAMillibar;
 }

@@ -36,7 +36,7 @@ std::string KZMUtilitiesFormatWeatherDistance(double kilometers) {
   return text(row.shown, amountOf(row, kilometers));
 }
 
-// Deliberate: the number is neither converted nor grouped, only labeled with the unit of distances
+// Deliberate: a visibility is neither converted nor grouped, only labeled with the unit of distances
 // (WeatherVisibility.IsNeitherConvertedNorGrouped).
 std::string KZMUtilitiesFormatWeatherVisibility(double distance) {
   using namespace kzm::weather;

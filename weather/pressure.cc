@@ -42,7 +42,7 @@ static_assert(haveRows(units::kPressures, kPressures), "a unit has no row");
 
 constexpr std::int64_t kInchDigits = 2;
 
-// Deliberate: "decimals" is read as a boolean here: 5 means one digit (WeatherPressure.DecimalsAreABoolean).
+// Deliberate: "decimals" of a pressure is a boolean: 5 means one digit (WeatherPressure.DecimalsAreABoolean).
 std::int64_t digitsOf(const PressureRow& row, const Dictionary& options) noexcept {
   if (row.showing == Showing::complete) return kInchDigits;
   return core::readBoolean(options.find(core::kDecimals)) ? 1 : 0;

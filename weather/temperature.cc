@@ -32,8 +32,8 @@ constexpr TemperatureRow kTemperatures[] = {
 // clang-format on
 static_assert(haveRows(units::kTemperatures, kTemperatures), "a unit has no row");
 
-// Deliberate: made so that a rounded zero has no minus, this takes the minus off -0.4 too, wherever the locale writes
-// it as the ASCII sign next to an ASCII digit (WeatherTemperature.TheMinusBeforeAZeroIsDropped).
+// Deliberate: the clean-up that keeps a rounded zero from a minus takes it off -0.4 too, wherever the locale writes it
+// as the ASCII sign next to an ASCII digit (WeatherTemperature.TheMinusBeforeAZeroIsDropped).
 void dropMinusBeforeZero(std::string& text) {
   constexpr std::string_view kMinusZero = "-0";
   for (std::size_t i = text.find(kMinusZero); i != std::string::npos; i = text.find(kMinusZero, i + 1)) {

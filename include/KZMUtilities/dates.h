@@ -149,8 +149,8 @@ struct DateComponents {
 
 /// `dayStart` The start of the day that holds the time point in the default zone.
 ///
-/// Deliberate: the era is not looked at. A day before Christ gives the start of the day with the same year number,
-/// month and day after Christ; so do the other day starts (DayStart.DropsTheEra).
+/// Deliberate: day starts do not look at the era. A day before Christ gives the start of the day with the same year
+/// number, month and day after Christ (DayStart.DropsTheEra).
 ///
 /// Example (UTC):
 ///   dayStart(1700000000.0)  // 1699920000.0

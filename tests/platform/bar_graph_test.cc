@@ -131,7 +131,7 @@ TEST(BarGraph, HugeOnesShowWhatIsOnTheSurface) {
   EXPECT_TRUE(corner.isSound());
 }
 
-TEST(BarGraphBorder, LiesOnTheEdgeHalfOutside) {
+TEST(BarGraphBorder, IsOnTheEdgeHalfOutside) {
   const Canvas canvas(24, 24);
   outline(canvas, {{4, 6}, {16, 10}});
   for (const auto& [x, y] : {std::pair{12, 5}, {12, 6}, {12, 15}, {12, 16}, {3, 11}, {4, 11}, {19, 11}, {20, 11}}) {
