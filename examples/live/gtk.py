@@ -86,7 +86,8 @@ class Panel:
             title, readings = readings_of(frame, topic, name)
             words = [title] + [reading['label'] for reading in readings[:1] if reading['label']]
             label.set_text(' · '.join(f'\u2068{word}\u2069' for word in words))
-            value.set_text(text(OPTIONS, together(iter([reading['value'] for reading in readings]))) if readings else '–')
+            values = [reading['value'] for reading in readings]
+            value.set_text(text(OPTIONS, together(iter(values))) if readings else '–')
             self.keep_room(value, [reading['widest'] for reading in readings])
 
     def keep_room(self, label, texts):

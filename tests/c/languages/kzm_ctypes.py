@@ -2,7 +2,8 @@
 import ctypes
 import re
 
-_TYPES = {'double': ctypes.c_double, 'int64_t': ctypes.c_int64, 'const char*': ctypes.c_char_p, 'void*': ctypes.c_void_p}
+_TYPES = {'double': ctypes.c_double, 'int64_t': ctypes.c_int64, 'const char*': ctypes.c_char_p,
+          'void*': ctypes.c_void_p}
 _RESULTS = {**_TYPES, 'int': ctypes.c_int, 'void': None, 'char*': ctypes.c_void_p}  # a pointer, so that it can be freed
 
 
