@@ -5,7 +5,7 @@
 namespace kzm::c {
 namespace {
 
-// A plain buffer: telling of a failed allocation allocates nothing, and nothing is left when the thread ends.
+// A plain buffer: reporting a failed allocation allocates nothing, and nothing is left when the thread ends.
 constexpr std::size_t kRoom = 256;  // bytes
 constinit thread_local char errorText[kRoom];
 

@@ -15,7 +15,7 @@
 
 namespace kzm::catalogue {
 
-// Each is added at the end of the text, which grows at most: a result is written without a piece made on the way.
+// Each appends to the text, so that a result needs no intermediate string.
 void appendJson(std::string& text, const Json& json);
 void appendJson(std::string& text, const double& number);
 void appendJson(std::string& text, const std::string_view& string);

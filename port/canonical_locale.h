@@ -16,8 +16,8 @@ namespace kzm::port {
 inline constexpr std::size_t kLongestIdentifier = ULOC_FULLNAME_CAPACITY - 1;
 
 /// The canonical locale of that name, bogus when there is none. Once memory ran out while ICU read its tables of names,
-/// only names that it knows by heart give a locale: then this throws std::bad_alloc, so that nobody takes it for a name
-/// that is none.
+/// only names that it knows by heart give a locale: then this throws std::bad_alloc, so that a good name is never taken
+/// for an unknown one.
 [[nodiscard]] inline icu::Locale canonicalLocale(const std::string& name) {
   icu::Locale locale = icu::Locale::createCanonical(name.c_str());
   if (locale.isBogus() != 0 && icu::Locale::createCanonical("sr_ZZ").isBogus() != 0) throw std::bad_alloc();

@@ -30,17 +30,18 @@ class MainQueue {
   MainQueue& operator=(const MainQueue&) = delete;
   virtual ~MainQueue() = default;
 
-  /// Keeps the descriptor free that the queue opens for itself and without which it ends the host: none when it needs
-  /// none any more, closed when there is none left.
+  /// The queue opens a descriptor when it is first used, and ends the host when none is free. So its place is taken
+  /// beforehand, by a descriptor that `open` closes. None when the queue is open already; a closed one when the host
+  /// has no descriptor left.
   [[nodiscard]] virtual std::optional<FileHandle> keepPlace() { return std::nullopt; }
 
   /// Opens the queue in the place that was kept for it. Actions can be given to it from then on.
   virtual void open(const std::optional<FileHandle>& /*place*/) {}
 
-  /// Runs the action once, as soon as the nanoseconds have passed; with 0 on the next turn.
+  /// Runs the action once, as soon as the nanoseconds have passed; with 0 when the main loop next runs.
   virtual void after(std::int64_t nanoseconds, Action action) = 0;
 
-  /// Runs the action on each turn that finds the descriptor readable. The descriptor outlives the watch.
+  /// Runs the action each time the main loop finds the descriptor readable. The descriptor outlives the watch.
   [[nodiscard]] virtual std::unique_ptr<Watch> whenReadable(int descriptor, Action action) = 0;
 };
 

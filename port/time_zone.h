@@ -43,7 +43,7 @@ class Zone {
 };
 
 /// The zone of that name; null when the machine's zone files have none. A file is read at most once: what was found
-/// is kept, what was not found is not. A failed allocation throws std::bad_alloc and leaves nothing behind.
+/// is kept, what was not found is not. A failed allocation throws std::bad_alloc and keeps nothing.
 [[nodiscard]] const Zone* namedZone(std::string_view identifier);
 
 /// The folder of the machine's zone files.

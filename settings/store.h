@@ -28,7 +28,8 @@ struct Snapshot;
 class Store {
  public:
   /// An empty path means that there is no place for settings: there are none, and none can be stored.
-  /// lookEvery, in milliseconds, is how long a change by another process may stay unseen; 0: not over a read.
+  /// lookEvery, in milliseconds, is how long a change by another process may stay unseen. With 0 every read looks at
+  /// the file.
   explicit Store(std::string path, std::int64_t lookEvery = 300);
   Store(const Store&) = delete;
   Store& operator=(const Store&) = delete;

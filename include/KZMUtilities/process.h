@@ -102,7 +102,7 @@ struct ExitStatus {
   enum class Reason {
     exited,    ///< by itself, with an exit code of 0 to 255
     signaled,  ///< by a signal, with its number
-    unknown,   ///< unknown: the host ignores SIGCHLD, or something else in it collected the status; the code is 0
+    unknown,   ///< the host ignores SIGCHLD, or something else in it collected the status; the code is 0
   };
   Reason reason = Reason::unknown;
   int code = 0;

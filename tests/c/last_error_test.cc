@@ -27,7 +27,7 @@ TEST(LastError, IsCutBetweenCharacters) {
   }
 }
 
-TEST(LastError, TellsOfWhateverIsThrown) {
+TEST(LastError, ReportsWhateverIsThrown) {
   EXPECT_EQ(guarded(7, []() -> int { throw std::bad_alloc(); }), 7);
   EXPECT_STREQ(lastError, "out of memory");
   EXPECT_EQ(guarded(7, []() -> int { throw std::runtime_error("no"); }), 7);

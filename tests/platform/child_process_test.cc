@@ -48,7 +48,7 @@ class CaughtErrors {
 };
 
 template <typename Condition>
-void turnUntil(Condition condition) {
+void runUntil(Condition condition) {
   const auto deadline = Clock::now() + std::chrono::seconds(20);
   while (!condition() && Clock::now() < deadline)
     if (!g_main_context_iteration(nullptr, FALSE)) std::this_thread::sleep_for(std::chrono::milliseconds(1));
@@ -67,7 +67,7 @@ TEST(ChildProcess, AStubbornChildIsKilledAfterItsTimeAndTwoSecondsMore) {
   CaughtErrors errors;
   const auto start = Clock::now();
   std::thread([&] { child.launchWithTimeout(0.5); }).join();
-  turnUntil([&] { return ending.has_value(); });
+  runUntil([&] { return ending.has_value(); });
   const std::chrono::duration<double> seconds = Clock::now() - start;
   const std::string lines = errors.text();
   EXPECT_EQ(ending, (ExitStatus{ExitStatus::Reason::signaled, SIGKILL}));
@@ -86,7 +86,7 @@ TEST(ChildProcess, ABriefOneIsSilent) {
   child.launchWithTimeout(0.05);
   ASSERT_TRUE(awaitEnd(child.processIdentifier()));
   const auto end = Clock::now() + std::chrono::milliseconds(100);
-  turnUntil([&] { return Clock::now() > end; });
+  runUntil([&] { return Clock::now() > end; });
   EXPECT_EQ(errors.text(), "");
   EXPECT_FALSE(child.isRunning());
 }
@@ -128,7 +128,7 @@ TEST(ChildProcess, ABrokenStandardErrorNeitherEndsTheHostNorSparesTheChild) {
   broken.readingEnd().close();
   ChildProcess child({.executable = KZM_CHILD_HELPER, .arguments = {"block"}});
   child.launchWithTimeout(0.05);
-  turnUntil([&] { return !child.isRunning(); });
+  runUntil([&] { return !child.isRunning(); });
   ::dup2(saved, STDERR_FILENO);
   ::close(saved);
   EXPECT_EQ(child.exitStatus(), (ExitStatus{ExitStatus::Reason::signaled, SIGTERM}));

@@ -31,7 +31,7 @@ TEST(TimeoutNanoseconds, CutsTowardZero) {
       {"the part of a nanosecond is cut", 1.9e-9, 1},
       {"less than a nanosecond", 0.9e-9, 0},
       {"a day", 86400.0, 86'400'000'000'000},
-      {"zero: on the next turn", 0.0, 0},
+      {"zero: when the main loop next runs", 0.0, 0},
       {"minus zero", -0.0, 0},
       {"negative", -1.0, 0},
       {"minus infinity", -kInf, 0},
@@ -111,7 +111,7 @@ TEST_F(ChildTest, ATimeoutOfZeroFiresOnTheNextTurn) {
   const SharedChild child = helper({"block"});
   child->launchWithTimeout(0.0);
   EXPECT_TRUE(log_.lines.empty()) << "not before the queue runs";
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(log_.lines, Texts{kTerminating});
   finish(*child);
 }
@@ -172,7 +172,7 @@ TEST_F(ChildTest, CleanupClosesTheInputAndClearsOutputAndHandler) {
   EXPECT_TRUE(output.readingEnd().isOpen());
   EXPECT_TRUE(std::holds_alternative<NullStream>(child->configuration().standardOutput));
   finish(*child);
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(calls, 0);
 }
 
@@ -193,7 +193,7 @@ TEST_F(ChildTest, CleanupEndsSilentlyIfTheInputIsNotAPipe) {
   EXPECT_NO_THROW(child->cleanup());
   EXPECT_TRUE(std::holds_alternative<Pipe>(child->configuration().standardOutput));
   finish(*child);
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(calls, 1) << "the handler comes after the step that failed";
 }
 

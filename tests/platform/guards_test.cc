@@ -51,7 +51,7 @@ TEST(TryCatchBlock, LetsEveryOtherKindPass) {
 
 TEST(TryCatchBlock, AnEmptyBlockDoesNothing) { EXPECT_NO_THROW(KZMTryCatchBlock(nullptr)); }
 
-TEST(TryCatchBlockWithError, TellsSuccessByNull) {
+TEST(TryCatchBlockWithError, ReportsSuccessByNull) {
   Outcomes outcomes;
   int runs = 0;
   KZMTryCatchBlockWithError([&] { ++runs; }, outcomes.completion());

@@ -40,7 +40,7 @@ TEST(Image, AtAPointItCoversItsOwnSize) {
   EXPECT_EQ(canvas.area(), 256.0);
 }
 
-TEST(Image, StandsUprightInBothOrientations) {
+TEST(Image, IsUprightInBothOrientations) {
   const Canvas down(20, 20);
   {
     const auto current = GraphicsContext(down.cairo()).makeCurrent();

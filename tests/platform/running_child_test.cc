@@ -38,10 +38,10 @@ TEST_F(RunningChildTest, TheQueueNoticesTheEndByItself) {
   input.writingEnd().close();  // it ends now, and not before the start has returned
   ASSERT_TRUE(awaitEnd(child->processIdentifier()));
   EXPECT_TRUE(isZombie(child->processIdentifier()));
-  queue_.turn();
+  queue_.runDue();
   EXPECT_FALSE(isChild(child->processIdentifier()));
   EXPECT_EQ(endings, std::vector<ExitStatus>{(ExitStatus{Reason::exited, 5})});
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(endings.size(), 1U) << "called once";
 }
 
@@ -52,7 +52,7 @@ TEST_F(RunningChildTest, TheHandlerRunsOnTheQueueOnlyEvenIfSomebodyElseSawTheEnd
   ASSERT_TRUE(child->launch());
   finish(*child);
   EXPECT_EQ(ending, std::nullopt);
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(ending, (ExitStatus{Reason::signaled, SIGABRT}));
 }
 
@@ -63,7 +63,7 @@ TEST_F(RunningChildTest, TheHandlerMayBeChangedWhileTheChildRuns) {
   ASSERT_TRUE(child->launch());
   child->setTerminationHandler([&](const ExitStatus&) { calls += "second "; });
   finish(*child);
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(calls, "second ");
 }
 
@@ -74,7 +74,7 @@ TEST_F(RunningChildTest, AHandlerThatIsClearedBeforeItsTurnIsNotCalled) {
   ASSERT_TRUE(child->launch());
   finish(*child);
   child->setTerminationHandler(nullptr);
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(calls, 0);
 }
 
@@ -84,7 +84,7 @@ TEST_F(RunningChildTest, AHandlerThatComesTooLateIsNeitherCalledNorKept) {
   finish(*child);
   const auto held = std::make_shared<int>(0);
   child->setTerminationHandler([held](const ExitStatus&) { ++*held; });
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(*held, 0);
   EXPECT_EQ(held.use_count(), 1);
 }
@@ -97,7 +97,7 @@ TEST_F(RunningChildTest, AHandlerMayHoldItsOwnChild) {
   ASSERT_TRUE(awaitEnd(child->processIdentifier()));
   child.reset();
   EXPECT_FALSE(weak.expired());
-  queue_.turn();
+  queue_.runDue();
   EXPECT_TRUE(weak.expired());
 }
 
@@ -113,7 +113,7 @@ TEST_F(RunningChildTest, AReleasedChildGoesOnWithoutItsPipesAndIsCollected) {
   const int process = child->processIdentifier();
   child.reset();
   ASSERT_TRUE(awaitEnd(process)) << "the end of its input, for nobody holds the pipe any more";
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(ending, (ExitStatus{Reason::exited, 4})) << "the handler runs all the same";
   EXPECT_FALSE(isChild(process));
 }
@@ -169,7 +169,7 @@ TEST_F(RunningChildTest, AHostThatIgnoresSigchldLosesTheStatusButNotTheEnd) {
   queue_.advance(3 * kSecond);
   EXPECT_EQ(log_.lines.size(), 2U);
   finish(*child);
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(calls, 1);
   EXPECT_EQ(child->exitStatus(), (ExitStatus{Reason::unknown, 0}));
   for (int number = 0; number < 50; ++number) {  // some of these are gone before their start returns
@@ -206,7 +206,7 @@ TEST_F(RunningChildTest, ManyThreadsMaySeeOneEnd) {
     });
   }
   for (std::thread& thread : threads) thread.join();
-  queue_.turn();
+  queue_.runDue();
   EXPECT_EQ(calls, 1);
 }
 

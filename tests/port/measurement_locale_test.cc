@@ -5,7 +5,7 @@
 namespace kzm::port {
 namespace {
 
-TEST(MeasurementLocale, TellsTheRegionAndTheScale) {
+TEST(MeasurementLocale, NamesTheRegionAndTheScale) {
   struct Case {
     const char* why;
     const char* identifier;

@@ -6,7 +6,7 @@
 namespace kzm::port {
 namespace {
 
-TEST(RegexPattern, TellsBackReferences) {
+TEST(RegexPattern, FindsBackReferences) {
   struct Case {
     const char* why;
     std::string_view pattern;

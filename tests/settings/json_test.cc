@@ -21,7 +21,7 @@ Value nestedValue(int levels) {
   return value;
 }
 
-TEST(Json, TellsWhyATextHoldsNoSettings) {
+TEST(Json, SaysWhyATextHoldsNoSettings) {
   struct Case {
     const char* why;
     std::string text;

@@ -52,7 +52,7 @@ class FakeMainQueue final : public port::MainQueue {
   }
 
   /// Runs what is due now, and what waits for a descriptor that is readable now.
-  void turn() {
+  void runDue() {
     advance(0);
     for (const Action& action : readable()) action();
     advance(0);

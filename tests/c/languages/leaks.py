@@ -1,4 +1,4 @@
-"""No call leaves memory behind, whether it gives something or fails."""
+"""No call keeps memory, whether it gives something or fails."""
 import gi
 
 gi.require_version('Kzm', '1')
@@ -33,4 +33,4 @@ for why, call in CASES.items():
     grown = (resident() - before) / CALLS
     print(f'{why}: {grown:.2f} bytes a call')
     if grown > MOST:
-        raise SystemExit(f'{why} leaves memory behind')
+        raise SystemExit(f'{why} keeps memory')

@@ -15,7 +15,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-void turnAll() {
+void runAll() {
   while (g_main_context_iteration(nullptr, FALSE)) {
   }
 }
@@ -24,8 +24,8 @@ TEST(MainQueue, RunsOnTheNextTurnAndOnce) {
   int runs = 0;
   mainQueue().after(0, [&] { ++runs; });
   EXPECT_EQ(runs, 0);
-  turnAll();
-  turnAll();
+  runAll();
+  runAll();
   EXPECT_EQ(runs, 1);
 }
 
@@ -41,7 +41,7 @@ TEST(MainQueue, WaitsForTheFarthestTimes) {
   const auto held = std::make_shared<int>(0);
   mainQueue().after(9'200'000'000'000'000'000, [held] { ++*held; });
   mainQueue().after(std::numeric_limits<std::int64_t>::max(), [held] { ++*held; });
-  turnAll();
+  runAll();
   EXPECT_EQ(*held, 0);
   EXPECT_EQ(held.use_count(), 3);
 }
@@ -49,7 +49,7 @@ TEST(MainQueue, WaitsForTheFarthestTimes) {
 TEST(MainQueue, ReleasesAnActionThatHasRun) {
   const auto held = std::make_shared<int>(0);
   mainQueue().after(0, [held] { ++*held; });
-  turnAll();
+  runAll();
   EXPECT_EQ(*held, 1);
   EXPECT_EQ(held.use_count(), 1);
 }
@@ -61,11 +61,11 @@ TEST(MainQueue, WatchesADescriptorUntilTheWatchIsGone) {
   watch = mainQueue().whenReadable(pipe.readingEnd().descriptor(), [&] {
     if (++runs == 2) watch.reset();
   });
-  turnAll();
+  runAll();
   EXPECT_EQ(runs, 0);
   ASSERT_EQ(::write(pipe.writingEnd().descriptor(), "x", 1), 1);
-  turnAll();
-  EXPECT_EQ(runs, 2) << "on each turn that finds it readable";
+  runAll();
+  EXPECT_EQ(runs, 2) << "each time the main loop finds it readable";
 }
 
 TEST(MainQueue, AWatchMayGoBeforeAnythingHappens) {
@@ -74,7 +74,7 @@ TEST(MainQueue, AWatchMayGoBeforeAnythingHappens) {
   auto watch = mainQueue().whenReadable(pipe.readingEnd().descriptor(), [held] { ++*held; });
   ASSERT_EQ(::write(pipe.writingEnd().descriptor(), "x", 1), 1);
   watch.reset();
-  turnAll();
+  runAll();
   EXPECT_EQ(*held, 0);
   EXPECT_EQ(held.use_count(), 1);
 }
