@@ -1,4 +1,8 @@
 // The whole library in one include.
+//
+// "Never fails" in these headers means: every number has an answer, NaN and the infinities too, and so has every
+// Dictionary of options. The one exception, for every call that is not noexcept, is memory that runs out: then
+// std::bad_alloc is thrown, nothing is half-made, and the next call is right.
 #ifndef KZMUTILITIES_KZMUTILITIES_H
 #define KZMUTILITIES_KZMUTILITIES_H
 

@@ -8,8 +8,9 @@
 // {"value", "decimals"}: the first whose "value" is greater than the scaled number gives the count of fraction digits,
 // none gives 0. Attribute sets are passed on unread; null or absent means none.
 //
-// Every function takes any double, never fails, and may be called from any thread at any time. Numbers and texts follow
-// the locale in force when the first of them was made. Results are new and belong to the caller.
+// Every function takes any double, never fails, and may be called from any thread at any time. Negative quantities and
+// negative infinity are shown at the lowest level, positive infinity at the highest. Numbers and texts follow the
+// locale in force when the first of them was made. Results are new and belong to the caller.
 #ifndef KZMUTILITIES_BYTES_H
 #define KZMUTILITIES_BYTES_H
 

@@ -72,9 +72,10 @@ class KZM_EXPORT Locale final : public Object {
 // ---- The locale in force --------------------------------------------------------------------------------------------
 
 /// Chooses the locale of numbers and of default units for the whole process: an identifier such as "de_CH" or
-/// "hi_IN@numbers=deva", or a POSIX name such as "de_CH.UTF-8". To be called at start-up: formatters, unit texts and
-/// default units made before keep the locale they were made in. Texts are chosen by the localization library, which is
-/// to be given the same identifier: there are languages with texts, but without a number style of their own.
+/// "hi_IN@numbers=deva", or a POSIX name such as "de_CH.UTF-8". An empty or malformed one, and one that names no known
+/// language, gives grouped English numbers and metric units, as "C" does. To be called at start-up: formatters, unit
+/// texts and default units made before keep the locale they were made in. Texts are chosen by the localization library,
+/// which is to be given the same identifier: there are languages with texts, but without a number style of their own.
 ///
 /// Example:
 ///   setCurrentLocale("en_US.UTF-8");
@@ -122,7 +123,8 @@ KZM_EXPORT void setCurrentLocale(std::string_view identifier);
 /// The number alone, as text.
 ///
 /// options:
-///   "decimals"   integer   the most fraction digits
+///   "decimals"   integer   the most fraction digits; below 0 as 0, above 340 as 340
+/// value  any double; NaN and the infinities have the locale's symbols
 ///
 /// Example (English):
 ///   KZMUtilitiesFormatNumber({{"decimals", 1}}, 1234.56)  // "1,234.6"

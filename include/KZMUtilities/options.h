@@ -1,7 +1,8 @@
 // Options whose names the compiler checks: a misspelled one does not build. They are a Dictionary, to be passed
 // wherever one is.
 //
-// Like dictionary.h, this header needs no library: all of its code is here.
+// Like dictionary.h, this header needs no library: all of its code is here. Like any standard container, one object may
+// be read from many threads, or changed by one.
 #ifndef KZMUTILITIES_OPTIONS_H
 #define KZMUTILITIES_OPTIONS_H
 

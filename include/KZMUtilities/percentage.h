@@ -14,7 +14,7 @@
 /// A percentage as text, such as "42%". The value is in percent already: 0.5 is half a percent.
 ///
 /// options:
-///   "decimals"   integer   the most fraction digits
+///   "decimals"   integer   the most fraction digits; below 0 as 0, above 340 as 340
 ///   "space"      boolean   one space between number and sign
 ///
 /// Example (English):

@@ -142,8 +142,9 @@ class KZM_EXPORT ChildProcess {
   void setTerminationHandler(TerminationHandler handler);
 
   /// Starts the child. Returns false, and changes nothing, if that fails: the executable is missing, not a regular
-  /// file or not executable, a connection is closed, a text holds a zero byte, the child was started before, or the
-  /// host has fewer descriptors free than the start takes (five at most, of which one or two stay in use).
+  /// file or not executable, the working directory is missing, a connection is closed, a text holds a zero byte, the
+  /// name of a variable is empty or holds "=", the child was started before, or the host has fewer descriptors free
+  /// than the start takes (five at most, of which one or two stay in use).
   bool launch();
 
   /// `launchWithTimeout:` Starts the child and arms a watchdog, which calls forceCancel on the main queue after

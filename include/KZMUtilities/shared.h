@@ -45,7 +45,8 @@ class KZM_EXPORT Cache {
   /// The entry if `accepts` holds for it, else what `make` gives, which is stored first (null is not). `accepts` is
   /// asked with null about a key that is absent. When two threads make the same entry at once, the first to store it
   /// wins and both get it. An entry that takes the place of another one counts at the very next call of every thread,
-  /// as with `set`.
+  /// as with `set`. An empty function throws std::bad_function_call when it is needed, and what the functions throw
+  /// passes through; the cache stays as it was.
   Value findOrMake(std::string_view key, const std::function<bool(const Value&)>& accepts,
                    const std::function<Value()>& make);
 

@@ -22,7 +22,7 @@
 ///       "label"   string    where given: what a chooser shows; otherwise it shows the token or a rendering of it
 ///       "force"   boolean   where given: true, on the single-digit minute and second
 ///
-/// The array is new on each call. Nothing is localized, nothing depends on the date. Never fails.
+/// The array is new on each call. Nothing is localized, nothing depends on the date.
 ///
 /// Example:
 ///   *KZMUtilitiesTimeItems()[0].dictionary()->find("type")  // "hour"

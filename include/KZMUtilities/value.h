@@ -1,9 +1,9 @@
 // The values that options, results and settings are made of. Include dictionary.h, which completes this header.
 //
-// `Value` and `Dictionary` are plain types that need no library: the settings, localization and
-// utilities libraries all share them by this header alone. A Value is cheap to copy: strings are copied, arrays and
-// dictionaries are shared and never change once they are inside a Value. Like any standard container, one object may
-// be read from many threads, or changed by one.
+// `Value` and `Dictionary` are plain types that need no library: the settings, localization and utilities libraries all
+// share them by this header alone. Copying a Value copies a string, and shares an array or a dictionary, which never
+// change once they are inside a Value. Like any standard container, one object may be read from many threads, or
+// changed by one.
 #ifndef KZMUTILITIES_VALUE_H
 #define KZMUTILITIES_VALUE_H
 

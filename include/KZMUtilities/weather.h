@@ -21,7 +21,7 @@
 ///
 /// options:
 ///   "units"      boolean   the number with its unit; else the number alone
-///   "decimals"   integer   the most fraction digits, in Celsius only
+///   "decimals"   integer   the most fraction digits, in Celsius only; below 0 as 0, above 340 as 340
 ///   "reverse"    boolean   swaps Celsius and Fahrenheit; Kelvin stays
 ///
 /// Example (English, Celsius):
@@ -117,7 +117,7 @@
 /// An angle above the horizon, unchanged, always with the degree sign.
 ///
 /// options:
-///   "decimals"   integer   the most fraction digits
+///   "decimals"   integer   the most fraction digits; below 0 as 0, above 340 as 340
 ///
 /// Example (English):
 ///   KZMUtilitiesFormatWeatherAltitude({{"decimals", 1}}, 41.26)  // "41.3°"

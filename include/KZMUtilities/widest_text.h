@@ -1,7 +1,8 @@
 // The widest text that a family shows, so that a host can lay out its columns once and no reading ever moves them.
 //
 // Every function may be called from any thread at any time. The texts are those of this moment: when the user's units,
-// the language or the locale change, the widest text has to be asked for again.
+// the language or the locale change, the widest text has to be asked for again. A number that names no family counts as
+// the last one.
 #ifndef KZMUTILITIES_WIDEST_TEXT_H
 #define KZMUTILITIES_WIDEST_TEXT_H
 
@@ -66,7 +67,8 @@ struct ValueRange {
 [[nodiscard]] KZM_EXPORT ValueRange usualRange(TextFamily family) noexcept;
 
 /// How wide a text is: in pixels, say. Of two texts that differ in digits, the one with the wider digits has to be the
-/// wider one.
+/// wider one. An empty one throws std::bad_function_call when it is asked; NaN is wider than nothing and narrower than
+/// nothing, so a measure that gives it makes any text of the range the widest.
 using TextMeasure = std::function<double(std::string_view)>;
 
 /// The measure of terminals and status bars: displayWidth.

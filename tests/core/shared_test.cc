@@ -1,3 +1,4 @@
+#include <functional>
 #include <gtest/gtest.h>
 #include <limits>
 #include <memory>
@@ -215,6 +216,14 @@ TEST_F(SharedState, AnAbsentEntryIsShownToTheOneWhoAcceptsAsNull) {
   const auto takesNull = [](const Value& value) { return value.isNull(); };
   EXPECT_EQ(entries.findOrMake("key", takesNull, [] { return Value("made"); }), Value());
   EXPECT_EQ(entries.size(), 0U);
+}
+
+TEST_F(SharedState, AnEmptyFunctionThrowsAndLeavesTheCacheAsItWas) {
+  Cache cache;
+  const auto isThere = [](const Value& value) { return !value.isNull(); };
+  EXPECT_THROW(cache.findOrMake("a", {}, [] { return Value(1); }), std::bad_function_call);
+  EXPECT_THROW(cache.findOrMake("a", isThere, {}), std::bad_function_call);
+  EXPECT_EQ(cache.size(), 0U);
 }
 
 TEST_F(SharedState, AnEntryThatIsMadeInThePlaceOfAnotherCountsAtTheNextCall) {

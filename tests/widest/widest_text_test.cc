@@ -1,5 +1,8 @@
+#include <functional>
 #include <gtest/gtest.h>
 #include <limits>
+#include <string>
+#include <string_view>
 
 #include <KZMUtilities/widest_text.h>
 
@@ -67,6 +70,24 @@ TEST(WidestText, IsMeasuredAsTheHostDoes) {
   EXPECT_EQ(widestText(TextFamily::percentage, {{"decimals", 1}}, {0.0, 99.0}, narrowOnes), "88.8%");
   EXPECT_EQ(widestText(TextFamily::memory, {{"short", true}}, {0.0, 2e6}, [](std::string_view) { return 1.0; }), "0K")
       << "all alike: the first";
+}
+
+TEST(WidestText, AMeasureThatGivesNoNumberMakesAnyTextTheWidest) {
+  const auto noNumber = [](std::string_view /*text*/) { return std::numeric_limits<double>::quiet_NaN(); };
+  const std::string text = widestText(TextFamily::weatherUV, {}, {1.0, 2.0}, noNumber);
+  EXPECT_TRUE(text == "1" || text == "2") << text;
+}
+
+TEST(WidestText, AnEmptyMeasureThrowsWhenItIsAsked) {
+  EXPECT_THROW(static_cast<void>(widestText(TextFamily::weatherUV, {}, {1.0, 2.0}, TextMeasure())),
+               std::bad_function_call);
+  EXPECT_EQ(widestText(TextFamily::weatherUV, {}, {2.0, 1.0}, TextMeasure()), "");
+}
+
+TEST(WidestText, ANumberThatNamesNoFamilyCountsAsTheLastOne) {
+  constexpr auto kNone = static_cast<TextFamily>(200);
+  EXPECT_EQ(widestText(kNone, {{"units", true}}, {5.0, 5.0}), "5mAh");
+  EXPECT_EQ(usualRange(kNone).highest, usualRange(TextFamily::sensorCapacity).highest);
 }
 
 TEST(WidestText, HasAUsualRangeForEachFamily) {
