@@ -1,17 +1,16 @@
 // The current context of each thread, and the two colors that cairo, with its single source, does not keep.
+#include <memory>
 #include <utility>
 
 #include <KZMUtilities/drawing.h>
 
 #include "port/canvas.h"
+#include "port/per_thread.h"
 
 namespace kzm {
 namespace {
 
-std::unique_ptr<GraphicsContext>& currentContext() {
-  static thread_local std::unique_ptr<GraphicsContext> context;
-  return context;
-}
+std::unique_ptr<GraphicsContext>& currentContext() { return port::perThread<std::unique_ptr<GraphicsContext>>(); }
 
 }  // namespace
 
