@@ -1,4 +1,5 @@
-// What a family of byte quantities is made of. Everything in which the families differ is a value of these types.
+// What a family of byte quantities is made of: unit texts, the rungs of a ladder, scales. What is left to a family is
+// one function that reads its options.
 #ifndef KZM_BYTES_FAMILY_H
 #define KZM_BYTES_FAMILY_H
 

@@ -106,7 +106,7 @@ constexpr const KindRow* rowOf(std::int64_t type) {
   return nullptr;
 }
 
-// Every kind that is published has its row.
+// Every kind that is published has its row; published numbers are below 256.
 static_assert(
     []<std::size_t... type>(std::index_sequence<type...>) {
       return ((core::isEnumerator<static_cast<SensorType::Kind>(type)>() == (rowOf(type) != nullptr)) && ...);
