@@ -11,7 +11,7 @@
 
 #include "core/option_values.h"
 #include "port/current_locale.h"
-#include "port/measurement_locale.h"
+#include "port/measurement_habits.h"
 #include "port/never_destroyed.h"
 #include "units/locale_units.h"
 #include "units/measurement_unit.h"
@@ -57,7 +57,7 @@ constexpr auto kSettings = [] {
 }();
 
 PreferredUnits localePreferences() {
-  const Preferences units = preferencesFrom(samplesIn(port::measurementLocaleOf(port::currentMeasurementLocale())));
+  const Preferences units = preferencesFrom(samplesIn(port::measurementHabitsOf(port::currentMeasurementLocale())));
   PreferredUnits named;
   for (std::size_t i = 0; i < kQuantities; ++i) named.emplace(kQuantityRows[i].key, units[i]);
   return named;

@@ -76,10 +76,10 @@ Preferences unitsOfRegion(std::string_view region) {
 
 }  // namespace
 
-Samples samplesIn(const port::MeasurementLocale& locale) {
-  Preferences units = unitsOfRegion(locale.region);
+Samples samplesIn(const port::MeasurementHabits& habits) {
+  Preferences units = unitsOfRegion(habits.region);
   for (const MeasurementUnit scale : kTemperatures) {
-    if (locale.temperature == measurementUnitName(scale)) units[at(Quantity::temperature)] = scale;
+    if (habits.temperature == measurementUnitName(scale)) units[at(Quantity::temperature)] = scale;
   }
   Samples samples;
   for (std::size_t i = 0; i < kQuantities; ++i) samples[i] = sampleIn(units[i]);

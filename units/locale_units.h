@@ -14,7 +14,7 @@
 #include <KZMUtilities/default_units.h>
 
 #include "core/rows.h"
-#include "port/measurement_locale.h"
+#include "port/measurement_habits.h"
 
 namespace kzm::units {
 
@@ -55,7 +55,7 @@ inline constexpr Preferences kMetric = [] {
 }();
 
 /// The six samples as they read in the locale's units.
-[[nodiscard]] Samples samplesIn(const port::MeasurementLocale& locale);
+[[nodiscard]] Samples samplesIn(const port::MeasurementHabits& habits);
 
 /// The units whose symbols six texts contain, whatever the texts are.
 [[nodiscard]] Preferences preferencesFrom(const Samples& samples);

@@ -105,7 +105,7 @@ void addMarker(Level level, PanelLine& line) {
 
 Level levelOf(const Item& item) {
   Level level = Level::normal;
-  for (const Reading& reading : item.readings) level = std::max(level, levelOf(reading));
+  for (const Measured& reading : item.readings) level = std::max(level, levelOf(reading));
   return level;
 }
 
@@ -126,7 +126,7 @@ void addGraph(std::size_t column, std::size_t width, const Track& track, Quantit
   line.push_back({column, graph(track.values, width, top), {.color = color}});
 }
 
-void addBar(std::size_t column, std::size_t width, const Reading& reading, PanelLine& line) {
+void addBar(std::size_t column, std::size_t width, const Measured& reading, PanelLine& line) {
   const Bar bar = barOf(reading.value.value_or(0.0), width);
   line.push_back({column, bar.full, {.color = colorOf(levelOf(reading))}});
   line.push_back({column + displayWidth(bar.full), bar.empty, kFaint});
@@ -153,7 +153,7 @@ struct Trail {
     const std::size_t count = item.readings.size();
     const std::size_t width = (room - (count - 1) * kGap) / count - 1;
     for (std::size_t i = 0; i < count; ++i) {
-      const Reading& reading = item.readings[i];
+      const Measured& reading = item.readings[i];
       const std::size_t start = column + i * (width + 1 + kGap);
       line.push_back({start, std::string(signOf(reading.name)), kFaint});
       addGraph(start + 1, width, track(i), reading.quantity, kColors[i % 2], line);
@@ -162,7 +162,7 @@ struct Trail {
 
   // A part that is beside its amounts has its percentage in the trail.
   void addPart(std::size_t column, std::size_t room, PanelLine& line) const {
-    const Reading& part = item.readings.back();
+    const Measured& part = item.readings.back();
     const std::size_t before = grid.part + kGap;
     if (item.readings.size() > 1) addAtEnd(column + grid.part, scene.texts.cell(part), line);
     if (part.name == "busy") {
@@ -173,7 +173,7 @@ struct Trail {
   }
 
   void add(std::size_t column, std::size_t room, PanelLine& line) const {
-    const Reading& first = item.readings.front();
+    const Measured& first = item.readings.front();
     if (isRate(first.quantity)) {
       addRates(column, room, line);
     } else if (isPart(item.readings.back().quantity)) {
@@ -209,7 +209,7 @@ void addValues(const std::vector<Cell>& cells, const Topic& topic, const Grid& g
 // What the rates have come to since the program started.
 void addTotals(const Scene& scene, const Topic& topic, const Item& item, const Grid& grid, Block& block) {
   std::vector<Cell> cells;
-  for (const Reading& reading : item.readings) {
+  for (const Measured& reading : item.readings) {
     const double total = scene.tracks.of(topic, item, reading).total;
     cells.push_back({{scene.texts.text({"total", Quantity::space, total}), Emphasis::faint}});
   }

@@ -28,7 +28,7 @@ class Tracks {
   void add(const std::vector<Group>& groups, double seconds);
 
   /// The past of a reading, by its place among those that were added last.
-  [[nodiscard]] const Track& of(const Topic& topic, const Item& item, const Reading& reading) const;
+  [[nodiscard]] const Track& of(const Topic& topic, const Item& item, const Measured& reading) const;
 
  private:
   std::map<std::string, Track, std::less<>> tracks_;

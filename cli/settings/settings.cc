@@ -29,7 +29,8 @@ std::string described(const ListedSetting& setting) {
 
 std::string list(Words /*words*/) {
   std::string text;
-  for (const ListedSetting& setting : unitSettings()) text.append(text.empty() ? "" : "\n").append(described(setting));
+  for (const ListedSetting& setting : listedSettings())
+    text.append(text.empty() ? "" : "\n").append(described(setting));
   return text;
 }
 
@@ -89,7 +90,7 @@ Description describeSettings() {
   for (const Subverb& subverb : kSubverbs) {
     Choice choice{.name = subverb.name, .help = subverb.does};
     if (subverb.words > 0) {
-      for (const ListedSetting& setting : unitSettings()) choice.operands.push_back(setting.keyPath);
+      for (const ListedSetting& setting : listedSettings()) choice.operands.push_back(setting.keyPath);
     }
     verb.usage.push_back(subverb.usage);
     verb.choices.push_back(std::move(choice));

@@ -32,17 +32,17 @@ constexpr Listed kListed[] = {
 // clang-format on
 
 // The library's settings, each once. One that is not listed above comes last, by its key path alone.
-std::vector<ListedSetting> listedSettings() {
+std::vector<ListedSetting> makeList() {
   std::vector<ListedSetting> settings;
   const auto add = [&](std::string_view keyPath, std::string_view what) {
-    for (const UnitSetting& setting : kzm::unitSettings()) {
+    for (const UnitSetting& setting : unitSettings()) {
       const auto isListed = [&](const ListedSetting& other) { return other.keyPath == setting.keyPath; };
       if (setting.keyPath != keyPath || std::ranges::any_of(settings, isListed)) continue;
       settings.push_back({setting.keyPath, what, setting.units, setting.unit});
     }
   };
   for (const Listed& listed : kListed) add(listed.keyPath, listed.what);
-  for (const UnitSetting& setting : kzm::unitSettings()) add(setting.keyPath, "");
+  for (const UnitSetting& setting : unitSettings()) add(setting.keyPath, "");
   return settings;
 }
 
@@ -64,14 +64,14 @@ MeasurementUnit unitInRegionOf(const ListedSetting& setting, MeasurementUnit pre
 
 }  // namespace
 
-std::span<const ListedSetting> unitSettings() {
-  static const std::vector<ListedSetting> settings = listedSettings();
+std::span<const ListedSetting> listedSettings() {
+  static const std::vector<ListedSetting> settings = makeList();
   return settings;
 }
 
 const ListedSetting& settingAt(std::string_view keyPath) {
   std::string names;
-  for (const ListedSetting& setting : unitSettings()) {
+  for (const ListedSetting& setting : listedSettings()) {
     if (setting.keyPath == keyPath) return setting;
     addToList(names, setting.keyPath);
   }

@@ -22,7 +22,7 @@ struct ListedSetting {
   MeasurementUnit (KZMUtilitiesDefaultUnits::*unit)() const;  // the unit in force
 };
 
-[[nodiscard]] std::span<const ListedSetting> unitSettings();
+[[nodiscard]] std::span<const ListedSetting> listedSettings();
 
 /// The setting at the key path; an unknown one is an InputError that names those there are.
 [[nodiscard]] const ListedSetting& settingAt(std::string_view keyPath);

@@ -39,7 +39,7 @@ struct Block {
   Level level = Level::normal;
 };
 
-std::string shownIn(const Reading& reading, const LineChoice& choice, std::string_view space) {
+std::string shownIn(const Measured& reading, const LineChoice& choice, std::string_view space) {
   const std::string text = choice.texts.text(reading);
   const std::size_t columns = choice.constantWidth ? displayWidth(choice.texts.widest(reading)) : 0;
   return std::string(signOf(reading.name)) + inLine(padded(text, columns, space));
@@ -47,7 +47,7 @@ std::string shownIn(const Reading& reading, const LineChoice& choice, std::strin
 
 Block blockOf(const Item& item, const LineChoice& choice, std::string_view space) {
   Block block{inLine(item.name), {}, Level::normal};
-  for (const Reading& reading : item.readings) {
+  for (const Measured& reading : item.readings) {
     if (reading.name == kLeftOut) continue;
     block.texts += (block.texts.empty() ? "" : " ") + shownIn(reading, choice, space);
     block.level = std::max(block.level, levelOf(reading));
@@ -89,7 +89,7 @@ std::string labelOf(const Topic& topic, std::string_view reading) {
   return column == topic.columns.end() ? "" : word(*column);
 }
 
-OrderedJson jsonOf(const Topic& topic, const Reading& reading, const Texts& texts) {
+OrderedJson jsonOf(const Topic& topic, const Measured& reading, const Texts& texts) {
   const bool isKnown = reading.value.has_value() && std::isfinite(*reading.value);
   return {{"name", reading.name},
           {"label", labelOf(topic, reading.name)},
@@ -102,7 +102,7 @@ OrderedJson jsonOf(const Topic& topic, const Reading& reading, const Texts& text
 
 OrderedJson jsonOf(const Topic& topic, const Item& item, const Texts& texts) {
   OrderedJson readings = OrderedJson::array();
-  for (const Reading& reading : item.readings) readings.push_back(jsonOf(topic, reading, texts));
+  for (const Measured& reading : item.readings) readings.push_back(jsonOf(topic, reading, texts));
   return {{"id", item.id}, {"name", item.name}, {"readings", std::move(readings)}};
 }
 
@@ -137,7 +137,7 @@ std::optional<long> percentageOf(const Groups& groups) {
   constexpr double kPercent = 100.0;
   for (const Group& group : groups) {
     for (const Item& item : group.items) {
-      const Reading& last = item.readings.back();
+      const Measured& last = item.readings.back();
       if (isPart(last.quantity) && last.value.has_value())
         return std::lround(std::clamp(*last.value, 0.0, 1.0) * kPercent);
     }

@@ -59,7 +59,7 @@ bool isPart(Quantity quantity) { return quantity == Quantity::part || quantity =
 
 bool isRate(Quantity quantity) { return quantity == Quantity::bandwidth || quantity == Quantity::diskActivity; }
 
-Level levelOf(const Reading& reading) {
+Level levelOf(const Measured& reading) {
   const QuantityRow& row = rowOf(reading.quantity);
   if (!reading.value.has_value()) return Level::normal;
   const auto isAt = [&](double bound) {

@@ -34,20 +34,20 @@ enum class Quantity : std::uint8_t {
 enum class Level : std::uint8_t { normal, warning, critical };
 
 /// One reading.
-struct Reading {
+struct Measured {
   std::string_view name;  // what it is of its item: "received", "used"
   Quantity quantity;
   std::optional<double> value = {};  // nothing when it is not known, and for a state
   std::string word = {};             // of a state, in the user's language
 
-  friend bool operator==(const Reading&, const Reading&) = default;
+  friend bool operator==(const Measured&, const Measured&) = default;
 };
 
 /// What the readings are of: an interface, a disk, a sensor.
 struct Item {
   std::string id;    // the same in every language, and only once in its topic
   std::string name;  // in the user's language
-  std::vector<Reading> readings;
+  std::vector<Measured> readings;
 
   friend bool operator==(const Item&, const Item&) = default;
 };
@@ -62,7 +62,7 @@ struct Item {
 [[nodiscard]] bool isRate(Quantity quantity);
 
 /// The level of the value; what is not known is normal.
-[[nodiscard]] Level levelOf(const Reading& reading);
+[[nodiscard]] Level levelOf(const Measured& reading);
 
 /// An arrow for a reading that goes in or out, by its name; empty for all others.
 [[nodiscard]] std::string_view signOf(std::string_view name);

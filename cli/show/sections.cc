@@ -13,8 +13,8 @@ constexpr std::size_t kBarColumn = 3;
 
 Row rowOf(const Item& item, const Texts& texts) {
   Row row{item.name, {}};
-  for (const Reading& reading : item.readings) row.cells.push_back(texts.cell(reading));
-  const Reading& last = item.readings.back();
+  for (const Measured& reading : item.readings) row.cells.push_back(texts.cell(reading));
+  const Measured& last = item.readings.back();
   if (!isPart(last.quantity)) return row;
   row.cells.resize(kBarColumn);
   row.cells.push_back(bar(last.value.value_or(0.0)));

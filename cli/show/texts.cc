@@ -155,19 +155,19 @@ const Dictionary& Texts::optionsOf(Quantity quantity) const {
   return row.options == nullptr ? bandwidth_ : row.options();
 }
 
-Cell Texts::cell(const Reading& reading) const {
+Cell Texts::cell(const Measured& reading) const {
   if (reading.quantity == Quantity::state) return {{reading.word}};
   if (!reading.value.has_value()) return {{"–", Emphasis::faint}};
   return writerOf(reading.quantity).write(optionsOf(reading.quantity), *reading.value);
 }
 
-std::string Texts::text(const Reading& reading) const {
+std::string Texts::text(const Measured& reading) const {
   std::string text;
   for (const Piece& piece : cell(reading)) text += piece.text;
   return text;
 }
 
-std::string Texts::widest(const Reading& reading) const {
+std::string Texts::widest(const Measured& reading) const {
   if (reading.quantity == Quantity::state) return reading.word;
   std::string& widest = widest_[static_cast<std::size_t>(reading.quantity)];
   if (!widest.empty()) return widest;

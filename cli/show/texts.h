@@ -20,13 +20,13 @@ class Texts {
   explicit Texts(const Dictionary& bandwidth = {});
 
   /// The reading; what is not known is a faint dash.
-  [[nodiscard]] Cell cell(const Reading& reading) const;
+  [[nodiscard]] Cell cell(const Measured& reading) const;
 
   /// The text of the cell.
-  [[nodiscard]] std::string text(const Reading& reading) const;
+  [[nodiscard]] std::string text(const Measured& reading) const;
 
   /// The widest text that the reading can have: of a state, the one that it has.
-  [[nodiscard]] std::string widest(const Reading& reading) const;
+  [[nodiscard]] std::string widest(const Measured& reading) const;
 
  private:
   [[nodiscard]] const Dictionary& optionsOf(Quantity quantity) const;

@@ -61,7 +61,7 @@ Items diskItems(const Snapshot& snapshot, const RowChoice& choice) {
   return items;
 }
 
-std::vector<Reading> filling(Quantity quantity, double used, double free) {
+std::vector<Measured> filling(Quantity quantity, double used, double free) {
   const double all = used + free;
   const double part = all > 0 ? used / all : 0.0;
   return {{"used", quantity, used}, {"free", quantity, free}, {"part", Quantity::part, part}};
@@ -109,7 +109,7 @@ Items loadItems(const Snapshot& snapshot, const RowChoice& choice) {
   }
   constexpr int kMinutes[] = {1, 5, 15};
   for (std::size_t i = 0; snapshot.loadAverages.has_value() && i < std::size(kMinutes); ++i) {
-    const Reading average{"programs", Quantity::load, (*snapshot.loadAverages)[i]};
+    const Measured average{"programs", Quantity::load, (*snapshot.loadAverages)[i]};
     items.push_back({std::to_string(kMinutes[i]) + "min", minutesText(kMinutes[i]), {average}});
   }
   return items;
@@ -140,7 +140,7 @@ Quantity quantityOf(Kind kind) {
   return Quantity::state;  // no kind at all
 }
 
-Reading readingOf(std::string_view name, const machine::SensorReading& reading) {
+Measured readingOf(std::string_view name, const machine::SensorReading& reading) {
   return {name, quantityOf(reading.kind), reading.value};
 }
 
@@ -196,7 +196,7 @@ std::string batteryWord(const std::string& name) { return word("Battery." + name
 Items batteryItems(const Snapshot& snapshot, const RowChoice& /*choice*/) {
   Items items;
   for (const machine::Battery& battery : snapshot.batteries) {
-    const Reading state{"state", Quantity::state, {}, batteryWord(battery.status)};
+    const Measured state{"state", Quantity::state, {}, batteryWord(battery.status)};
     if (!battery.status.empty()) items.push_back({battery.name, battery.name, {state}});
     for (const machine::SensorReading& reading : battery.readings) {
       machine::SensorReading named = reading;

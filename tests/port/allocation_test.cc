@@ -6,7 +6,7 @@
 #include <string>
 
 #include "port/environment_locale.h"
-#include "port/measurement_locale.h"
+#include "port/measurement_habits.h"
 #include "port/number_symbols.h"
 #include "port/posix_variant.h"
 #include "port/regex.h"
@@ -53,8 +53,8 @@ TEST(FailingAllocation, IsNoOtherLocaleAndNoOtherZoneEverAfter) {
       {"digits of a language", [] { return numberSymbols("ar_EG").digits[1] == "١"; }},
       {"known language", [] { return usableLocale("de_DE.UTF-8") == "de_DE"; }},
       {"identifier", [] { return localeIdentifier("sr_RS@latin") == "sr_Latn_RS"; }},
-      {"measurement", [] { return measurementLocaleOf("en@rg=gbzzzz").region == "GB"; }},
-      {"likely region", [] { return measurementLocaleOf("sv").region == "SE"; }},
+      {"measurement", [] { return measurementHabitsOf("en@rg=gbzzzz").region == "GB"; }},
+      {"likely region", [] { return measurementHabitsOf("sv").region == "SE"; }},
       {"variant", [] { return takesPosixVariant("en_US"); }},
       {"zone",
        [] {

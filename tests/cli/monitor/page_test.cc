@@ -58,7 +58,7 @@ TEST(Page, EveryValueCanBeReadAtFortyColumns) {
   const Texts texts;
   for (const Group& group : machine().groups) {
     for (const Item& item : group.items) {
-      for (const Reading& reading : item.readings) {
+      for (const Measured& reading : item.readings) {
         EXPECT_NE(all.find(texts.text(reading)), std::string::npos) << item.id << ' ' << reading.name;
       }
     }
@@ -69,7 +69,7 @@ TEST(Page, ColumnsAreWhereTheyWereWithOtherNumbers) {
   tests::Example other = machine();
   for (Group& group : other.groups) {
     for (Item& item : group.items) {
-      for (Reading& reading : item.readings) {
+      for (Measured& reading : item.readings) {
         if (isRate(reading.quantity)) reading.value = 1.0;
       }
     }

@@ -1,4 +1,4 @@
-#include "port/measurement_locale.h"
+#include "port/measurement_habits.h"
 
 #include <string_view>
 
@@ -65,10 +65,10 @@ std::string regionOf(const icu::Locale& locale) {
 
 }  // namespace
 
-MeasurementLocale measurementLocaleOf(const std::string& identifier) {
+MeasurementHabits measurementHabitsOf(const std::string& identifier) {
   const MemoryWatch memory;
   const icu::Locale locale = canonicalLocale(identifier);
-  MeasurementLocale result;
+  MeasurementHabits result;
   if (!locale.isBogus()) result = {regionOf(locale), std::string(meaningOf(kTemperatures, keyword(locale, "mu")))};
   memory.demand();
   return result;

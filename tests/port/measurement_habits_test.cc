@@ -1,11 +1,11 @@
-#include "port/measurement_locale.h"
+#include "port/measurement_habits.h"
 
 #include <gtest/gtest.h>
 
 namespace kzm::port {
 namespace {
 
-TEST(MeasurementLocale, NamesTheRegionAndTheScale) {
+TEST(MeasurementHabits, NamesTheRegionAndTheScale) {
   struct Case {
     const char* why;
     const char* identifier;
@@ -47,17 +47,17 @@ TEST(MeasurementLocale, NamesTheRegionAndTheScale) {
       {"no such language", "xx", "", ""},
   };
   for (const Case& c : cases) {
-    const MeasurementLocale locale = measurementLocaleOf(c.identifier);
+    const MeasurementHabits locale = measurementHabitsOf(c.identifier);
     EXPECT_EQ(locale.region, c.region) << c.why << ": " << c.identifier;
     EXPECT_EQ(locale.temperature, c.temperature) << c.why << ": " << c.identifier;
   }
 }
 
-TEST(MeasurementLocale, TakesHostileIdentifiers) {
+TEST(MeasurementHabits, TakesHostileIdentifiers) {
   for (const std::string& identifier :
        {std::string(10000, 'a'), std::string("@"), std::string("@rg"), std::string("en_US@rg="),
         std::string("en_US@measure==;;"), std::string("\xFF\xFE"), std::string("../../x")}) {
-    EXPECT_LE(measurementLocaleOf(identifier).region.size(), 3U) << identifier.substr(0, 20);
+    EXPECT_LE(measurementHabitsOf(identifier).region.size(), 3U) << identifier.substr(0, 20);
   }
 }
 
