@@ -58,6 +58,8 @@ constexpr Form kFormsOfSize[][2] = {
     {Form::bytesPerSecond, Form::bitsPerSecond},
 };
 
+// Deliberate: bandwidth reads "short" by presence, so false counts too; other families read a boolean
+// (Bandwidth.UnitSizes).
 Form formOf(const Dictionary& options, bool bits) {
   static constexpr Key kUnitSize = "unitsize";
   constexpr std::int64_t kBrief = 1;

@@ -12,7 +12,7 @@ namespace {
 // clang-format off
 //   level        taken when         kilobytes        shown as
 constexpr Rung kRungs[] = {
-    {Level::kilo, Taken::atMost,     1024.0,          times(1.0)    },
+    {Level::kilo, Taken::atMost,     1024.0,          times(1.0)},
     {Level::mega, Taken::below,      1048576.0,       times(0x1p-10)},
     {Level::giga, Taken::below,      1073741824.0,    times(0x1p-20)},
     {Level::tera, Taken::below,      1099511627776.0, times(0x1p-30)},

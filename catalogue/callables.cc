@@ -26,6 +26,7 @@ constexpr Callable row(std::string_view name, std::string_view parameters, std::
   return {name, parameters, documentation, adapt<F>, kKinds<F>, kResultKind<F>};
 }
 
+// The function; its name, the names of its parameters, and a line of documentation.
 constexpr Callable kCallables[] = {
     row<KZMUtilitiesDecimalFormatterWithFractions>(
         "KZMUtilitiesDecimalFormatterWithFractions", "minimum maximum",

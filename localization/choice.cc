@@ -20,7 +20,7 @@
 namespace kzm::localization {
 namespace {
 
-/// A table for which a language was chosen.
+// A table for which a language was chosen.
 struct Choice {
   const ResourceBundle* bundle;
   std::string_view table;  // the table's own name: the one that was asked for may be gone after the call
@@ -28,8 +28,8 @@ struct Choice {
   const Choice* earlier;
 };
 
-/// Languages that are wanted, with the choices made for them. Neither lists that were replaced nor choices are ever
-/// removed: a reader may be inside.
+// Languages that are wanted, with the choices made for them. Neither lists that were replaced nor choices are ever
+// removed: a reader may be inside.
 struct Wanted {
   std::vector<icu::Locale> languages;
   std::forward_list<Choice> choices;
@@ -38,8 +38,8 @@ struct Wanted {
 
 std::string scriptOf(const icu::Locale& locale) { return port::inFull(locale).getScript(); }
 
-/// The locale with the characters that its readers expect: where Chinese is written in traditional ones, in Taiwan,
-/// Hong Kong and Macau, so are the other Chinese languages.
+// The locale with the characters that its readers expect: where Chinese is written in traditional ones, in Taiwan,
+// Hong Kong and Macau, so are the other Chinese languages.
 icu::Locale asRead(const icu::Locale& locale) {
   if (*locale.getScript() != '\0' || scriptOf(locale) != "Hans") return locale;
   UErrorCode status = U_ZERO_ERROR;
@@ -109,8 +109,8 @@ std::set<std::string> scriptsOf(const std::vector<icu::Locale>& languages) {
   return scripts;
 }
 
-/// The table of this very language: that of "de" for "de_DE". The matcher would choose it too, but it reads all that it
-/// knows of languages first, which takes longer than everything else at the start of a program.
+// The table of this very language: that of "de" for "de_DE". The matcher would choose it too, but it reads all that it
+// knows of languages first, which takes longer than everything else at the start of a program.
 const StringTable* tableOf(const icu::Locale& language, const std::vector<const StringTable*>& tables) {
   const icu::Locale wanted = port::inFull(language);
   for (const StringTable* table : tables) {
@@ -125,8 +125,8 @@ const StringTable* tableOf(const icu::Locale& language, const std::vector<const 
   return nullptr;
 }
 
-/// The table whose language serves the wanted ones best; null when none of them does. A nearest language serves only
-/// readers of its script: the matcher, left alone, gives Russian to readers of Latin letters.
+// The table whose language serves the wanted ones best; null when none of them does. A nearest language serves only
+// readers of its script: the matcher, left alone, gives Russian to readers of Latin letters.
 const StringTable* bestOf(const std::vector<const StringTable*>& tables, std::vector<icu::Locale> languages) {
   while (!languages.empty()) {
     if (const StringTable* same = tableOf(languages.front(), tables)) return same;

@@ -20,8 +20,8 @@ constexpr std::string_view kBeginnings[] = {kLeftToRight, kRightToLeft, kFirstSt
 
 bool isBeginning(std::string_view mark) { return std::ranges::find(kBeginnings, mark) != std::end(kBeginnings); }
 
-/// A first-strong isolate, but where that would take a mark of direction for the first letter: some locales have one in
-/// their minus sign, and the unit would change sides with the sign. Arabic digits alone are from right to left.
+// A first-strong isolate, but where that would take a mark of direction for the first letter: some locales have one in
+// their minus sign, and the unit would change sides with the sign. Arabic digits alone are from right to left.
 std::string_view beginningFor(std::string_view text) {
   using Letter = port::WritingDirection::Letter;
   const port::WritingDirection direction = port::writingDirectionOf(text);
@@ -30,7 +30,7 @@ std::string_view beginningFor(std::string_view text) {
   return direction.letter == Letter::leftToRight ? kLeftToRight : kRightToLeft;
 }
 
-/// The marks that make one isolate of a text.
+// The marks that make one isolate of a text.
 struct Marks {
   std::string before;
   std::string after;

@@ -38,7 +38,7 @@ constexpr bool isKeywordCharacter(char c) {
   return isAlphanumeric(c) || std::string_view("=;_-+/").find(c) != std::string_view::npos;
 }
 
-/// A language of two or three letters, then subtags of letters and digits, each after a separator.
+// A language of two or three letters, then subtags of letters and digits, each after a separator.
 bool isWellFormed(std::string_view head) {
   const auto language = static_cast<std::size_t>(std::ranges::find_if_not(head, isLetter) - head.begin());
   if (language != 2 && language != 3) return false;
@@ -76,7 +76,7 @@ std::string canonicalName(const std::string& name) {
   return locale.isBogus() || *locale.getLanguage() == '\0' ? std::string() : locale.getName();
 }
 
-/// Whether that holds for one of the locales that ICU has data for.
+// Whether that holds for one of the locales that ICU has data for.
 template <typename Predicate>
 bool holdsForAnyName(Predicate predicate) {
   UErrorCode status = U_ZERO_ERROR;
@@ -97,7 +97,7 @@ bool isLanguageKnown(const icu::Locale& locale) {
   return holdsForAnyName([&](const char* name) { return language == std::string_view(name, std::strcspn(name, "_")); });
 }
 
-/// Whether ICU has data for the language in the script that the locale names, if it names one.
+// Whether ICU has data for the language in the script that the locale names, if it names one.
 bool isScriptKnown(const icu::Locale& locale) {
   const std::string script = locale.getScript();
   return script.empty() || holdsForAnyName([&](const char* name) {
@@ -114,13 +114,13 @@ std::string withoutScript(const icu::Locale& locale) {
   return U_FAILURE(status) ? locale.getLanguage() : changed.getName();
 }
 
-/// The name of no language, with a codeset or without.
+// The name of no language, with a codeset or without.
 bool isPlain(std::string_view name) {
   const std::string_view head = name.substr(0, name.find_first_of(".@"));
   return name.empty() || head == "C" || head == "POSIX";
 }
 
-/// Where gettext too translates nothing. C.UTF-8 is a locale like others to it.
+// Where gettext too translates nothing. C.UTF-8 is a locale like others to it.
 bool isUntranslated(std::string_view name) {
   return isPlain(name) && name.find_first_of(".@") == std::string_view::npos;
 }

@@ -16,7 +16,7 @@ namespace {
 constexpr Key kOff = "off";
 constexpr Key kDecimalsFrequency = "decimals-frequency";
 
-/// What a kind makes of a value.
+// What a kind makes of a value.
 struct Converted {
   Unit unit;
   double value;
@@ -54,6 +54,8 @@ constexpr Thousandths kCurrent{Unit::amperes, Unit::milliamperes, "decimals-ampe
 constexpr Thousandths kPower{Unit::watts, Unit::milliwatts, "decimals-power"};
 constexpr Thousandths kVoltage{Unit::volts, Unit::millivolts, "decimals-voltage"};
 
+// Deliberate: a current, power or voltage of exactly 0 stays in the large unit and, without a rule, has no decimals,
+// where all others in that unit have one (SensorData.SmallCurrentsPowersAndVoltagesAreInThousandths).
 template <const Thousandths& quantity>
 Converted inThousandths(const Dictionary& options, double value) {
   Converted shown{quantity.base, value, value == 0.0 ? 0 : 1};
@@ -133,6 +135,7 @@ std::optional<kzm::Dictionary> KZMUtilitiesSensorData(std::int64_t type, const k
   using namespace kzm::core;
   const std::optional<Reading> reading = readingOf(type, options, value);
   if (!reading.has_value()) return std::nullopt;
+  // Deliberate: the result of a sensor has "format" last, that of bytes has it first (SensorData.KeysAreInTheirOrder).
   return reading->row == kPercentRow ? data(kPercent, reading->amount, FormatKey::last)
                                      : data<kTable>(*reading, FormatKey::last);
 }

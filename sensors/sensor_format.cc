@@ -33,6 +33,8 @@ std::string KZMUtilitiesFormatSensor(std::int64_t type, const kzm::Dictionary& o
   const std::optional<Reading> reading = readingOf(type, options, value);
   if (!reading.has_value()) return {};
   std::string text = textOf(*reading, readBoolean(options.find(kUnits)));
+  // Deliberate: "strip" takes separators for a count of decimals of exactly 0; -1, which shows none either, keeps them
+  // (SensorFormat.StripTakesSeparatorsOnlyWithoutDecimals).
   if (options.contains(kStrip)) strip(text, reading->amount.decimals == 0);
   return text;
 }

@@ -36,6 +36,7 @@ struct Sector {
 // Deliberate: bearings are not reduced to one turn. All below 22.5, the negative ones too, and all from 337.5 on are
 // north, and so is NaN (WeatherWindDirection.BearingsAreNotReducedToOneTurn).
 // clang-format off
+//   up to  direction
 constexpr Sector kSectors[] = {
     {22.5,  Unit::north},
     {67.5,  Unit::northEast},

@@ -69,6 +69,7 @@ consteval Family sensor(TextFamily name, ValueRange usual, std::span<const doubl
 
 using enum TextFamily;
 
+// The family's function and the amount that it shows; its name, its usual range, and values shown in their own way.
 // clang-format off
 constexpr Family kFamilies[] = {
     family<KZMUtilitiesFormatNumber, core::unitlessAmount>(number, {0.0, 1e6}),

@@ -84,7 +84,7 @@ TEST_F(SensorFormat, NumberAndUnit) {
       {"a capacity", SensorType::capacity, kSpaced, 5100.0, "5,100 mAh"},
       {"not a number", SensorType::voltage, kUnits, kNan, "NaNV"},
       {"infinite", SensorType::fan, kSpaced, kInfinity, "∞ rpm"},
-      {"infinite", SensorType::power, kUnits, -kInfinity, "-∞W"},
+      {"minus infinite", SensorType::power, kUnits, -kInfinity, "-∞W"},
   };
   for (const Case& c : cases) EXPECT_EQ(KZMUtilitiesFormatSensor(c.type, c.options, c.value), c.text) << c.why;
 }

@@ -25,7 +25,7 @@ TEST(WeatherWindSpeed, InTheUsersUnit) {
       {"meters, tight", kMetersPerSecond, kUnits, 10.0, "10m/s"},
       {"converted without unit", kKilometersPerHour, kNone, 10.0, "36"},
       {"half to even", kMetersPerSecond, kUnits, 2.5, "2m/s"},
-      {"half to even", kMetersPerSecond, kUnits, 3.5, "4m/s"},
+      {"half to even, up", kMetersPerSecond, kUnits, 3.5, "4m/s"},
       {"grouped", kMetersPerSecond, kSpaced, 1234.0, "1,234 m/s"},
       {"decimals are not read", kMetersPerSecond, withDecimals(2), 1.25, "1m/s"},
       {"not a number", kKnots, kSpaced, kNan, "NaN knots"},
