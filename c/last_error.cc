@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "port/ascii.h"
+
 namespace kzm::c {
 namespace {
 
@@ -9,15 +11,13 @@ namespace {
 constexpr std::size_t kRoom = 256;  // bytes
 constinit thread_local char errorText[kRoom];
 
-bool continuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
-
 }  // namespace
 
 constinit thread_local const char* lastError = nullptr;
 
 void setError(std::string_view text) noexcept {
   std::size_t size = std::min(text.size(), kRoom - 1);
-  while (size > 0 && size < text.size() && continuesCharacter(text[size])) --size;
+  while (size > 0 && size < text.size() && port::continuesCharacter(text[size])) --size;
   errorText[std::copy_n(text.begin(), size, errorText) - errorText] = '\0';
   lastError = errorText;
 }

@@ -3,6 +3,8 @@
 
 #include <KZMUtilities/attributed_string.h>
 
+#include "port/ascii.h"
+
 namespace kzm {
 namespace {
 
@@ -11,9 +13,8 @@ constexpr std::size_t kUsualParts = 3;  // the number, and what is before and af
 // Whether a character of several bytes goes on at the offset. A byte that only looks like it, after an ASCII character,
 // is text of its own.
 bool isInCharacter(std::string_view text, std::size_t offset) {
-  const auto byteAt = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   if (offset == 0 || offset >= text.size()) return false;
-  return (byteAt(offset) & 0xC0U) == 0x80U && byteAt(offset - 1) >= 0x80U;
+  return port::continuesCharacter(text[offset]) && static_cast<unsigned char>(text[offset - 1]) >= 0x80U;
 }
 
 // The byte offsets of a range that is inside the text and splits no character.

@@ -1,7 +1,6 @@
 #include "machine/files.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -19,6 +18,7 @@
 #include <vector>
 
 #include "port/descriptor.h"
+#include "port/read_all.h"
 #include "port/retried.h"
 
 namespace kzm::machine {
@@ -33,25 +33,14 @@ bool isRegular(int descriptor) {
   return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 
-// An error in the middle, such as a sensor that does not answer, leaves nothing.
-std::string readAll(int descriptor) {
-  std::string text;
-  std::array<char, 4096> part{};
-  while (text.size() < kMostBytes) {
-    const ssize_t count = port::retried([&] { return read(descriptor, part.data(), part.size()); });
-    if (count < 0) return {};
-    if (count == 0) break;
-    text.append(part.data(), static_cast<std::size_t>(count));
-  }
-  return text;
-}
-
 }  // namespace
 
 std::string readText(const std::string& path) {
   const port::Descriptor file(
       port::retried([&] { return open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
-  return file.isOpen() && isRegular(file.number()) ? readAll(file.number()) : std::string();
+  if (!file.isOpen() || !isRegular(file.number())) return {};
+  // An error in the middle, such as a sensor that does not answer, leaves nothing.
+  return port::readAll(file.number(), kMostBytes).value_or("");
 }
 
 std::string readLabel(const std::string& path) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "machine/files.h"
+#include "port/ascii.h"
 
 namespace kzm::machine {
 namespace {
@@ -32,9 +33,8 @@ Character firstOf(std::string_view text) {
   if (length == 0 || length > text.size()) return {0, 0};
   char32_t code = length == 1 ? lead : lead & (0x7FU >> length);
   for (std::size_t i = 1; i < length; ++i) {
-    const auto next = static_cast<unsigned char>(text[i]);
-    if ((next & 0xC0U) != 0x80U) return {0, 0};
-    code = code << 6U | (next & 0x3FU);
+    if (!port::continuesCharacter(text[i])) return {0, 0};
+    code = code << 6U | (static_cast<unsigned char>(text[i]) & 0x3FU);
   }
   return isCharacter(code, length) ? Character{code, length} : Character{0, 0};
 }

@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "port/clocks.h"
+#include "port/read_all.h"
 #include "port/retried.h"
 
 namespace kzm::settings {
@@ -35,21 +36,6 @@ bool isAbsent(int error) { return error == ENOENT || error == ENOTDIR; }
 Content unreadable(const std::string& path, std::string fault) { return {{}, std::move(fault), identityOf(path)}; }
 
 std::string errorText(int error) { return std::generic_category().message(error); }
-
-// Up to one byte more than is allowed, which shows that the file is too large.
-std::optional<std::string> readAll(int descriptor) {
-  std::string text(kMostBytes + 1, '\0');
-  std::size_t length = 0;
-  while (length < text.size()) {
-    const ssize_t count = retried([&] { return ::read(descriptor, text.data() + length, text.size() - length); });
-    if (count < 0) return std::nullopt;
-    if (count == 0) break;
-    length += static_cast<std::size_t>(count);
-  }
-  text.resize(length);
-  text.shrink_to_fit();
-  return text;
-}
 
 bool writeAll(int descriptor, std::string_view text) {
   while (!text.empty()) {
@@ -138,7 +124,8 @@ Content read(const std::string& path) {
   struct stat status {};
   if (fstat(file.number(), &status) != 0) return unreadable(path, errorText(errno));
   if (!S_ISREG(status.st_mode)) return unreadable(path, "it is not a regular file");
-  std::optional<std::string> text = readAll(file.number());
+  // One byte more than is allowed shows that the file is too large.
+  std::optional<std::string> text = port::readAll(file.number(), kMostBytes + 1);
   if (!text) return unreadable(path, errorText(errno));
   if (text->size() > kMostBytes) return unreadable(path, "it is larger than " + std::to_string(kMostBytes) + " bytes");
   return {std::move(text), {}, identityFrom(status)};
