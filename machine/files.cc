@@ -14,7 +14,6 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 #include <vector>
 
 #include "port/descriptor.h"
