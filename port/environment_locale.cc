@@ -10,6 +10,7 @@
 
 #include "port/ascii.h"
 #include "port/canonical_locale.h"
+#include "port/locale_form.h"
 #include "port/memory_watch.h"
 
 namespace kzm::port {
@@ -31,26 +32,8 @@ constexpr Modifier kModifiers[] = {
 };
 // clang-format on
 
-constexpr std::size_t kMaximumSubtag = 8;
-
-constexpr bool isSeparator(char c) { return c == '_' || c == '-'; }
 constexpr bool isKeywordCharacter(char c) {
   return isAlphanumeric(c) || std::string_view("=;_-+/").find(c) != std::string_view::npos;
-}
-
-// A language of two or three letters, then subtags of letters and digits, each after a separator.
-bool isWellFormed(std::string_view head) {
-  const auto language = static_cast<std::size_t>(std::ranges::find_if_not(head, isLetter) - head.begin());
-  if (language != 2 && language != 3) return false;
-  std::size_t subtag = 0;
-  for (const char c : head.substr(language)) {
-    if (isSeparator(c)) {
-      subtag = 0;
-    } else if (!isAlphanumeric(c) || ++subtag > kMaximumSubtag) {
-      return false;
-    }
-  }
-  return head.size() == language || (isSeparator(head[language]) && !isSeparator(head.back()));
 }
 
 std::string joined(std::string_view language, std::string_view script, std::string_view region,
@@ -147,7 +130,7 @@ std::string identifierOf(std::string_view name) {
   if (isPlain(name) || name.size() > kLongestIdentifier) return {};
   const std::size_t at = name.find('@');
   const std::string head(name.substr(0, std::min(name.find('.'), at)));
-  if (!isWellFormed(head)) return {};
+  if (!isLocaleHead(head)) return {};
   const std::string_view modifier = at == std::string_view::npos ? std::string_view() : name.substr(at + 1);
   if (modifier.find('=') == std::string_view::npos) return canonicalName(withModifier(canonicalLocale(head), modifier));
   if (!std::ranges::all_of(modifier, isKeywordCharacter)) return {};
