@@ -19,7 +19,7 @@ void measureFirstCalls(const char* program);
 /// In that process: prints the microseconds that the call takes.
 void makeFirstCall(std::size_t number);
 
-/// The program, which lies beside this one, in processes of its own.
+/// The program, which is beside this one, in processes of its own.
 void measurePrograms(const char* program);
 
 /// Makes every call for a counter of instructions, and prints their names in the order in which they are made.
