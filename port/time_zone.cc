@@ -53,7 +53,7 @@ bool isOtherFile(std::string_view identifier) {
 }
 
 // Only names that can be a zone's: no way leads out of the folder of zone files, and cctz's own prefixes have a colon.
-bool isWellFormed(std::string_view identifier) {
+bool isZoneName(std::string_view identifier) {
   constexpr std::size_t kLongestName = 64;  // The longest zone name has about half of that.
   static constexpr std::string_view kOther = "_+-/";
   const auto isAllowed = [](char c) { return isAlphanumeric(c) || kOther.find(c) != std::string_view::npos; };
@@ -87,7 +87,7 @@ std::optional<cctz::time_zone> loadFile(const std::string& path) {
 
 std::unique_ptr<const Zone> loadZone(std::string_view identifier) {
   constinit static std::atomic<std::size_t> failures{0};
-  if (!isWellFormed(identifier)) return nullptr;
+  if (!isZoneName(identifier)) return nullptr;
   try {
     const std::optional<cctz::time_zone> zone = loadFile(pathOf(identifier, failures.load(std::memory_order_relaxed)));
     return zone ? std::make_unique<const NamedZone>(std::string(identifier), *zone) : nullptr;
