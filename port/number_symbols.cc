@@ -1,6 +1,7 @@
 #include "port/number_symbols.h"
 
 #include <memory>
+#include <new>
 #include <optional>
 #include <unicode/dcfmtsym.h>
 #include <unicode/decimfmt.h>
@@ -83,11 +84,16 @@ NumberSymbols numberSymbols(const std::string& localeIdentifier) {
   const icu::Locale locale(localeIdentifier.c_str());
   const icu::Locale candidates[] = {locale, icu::Locale(locale.getBaseName()), icu::Locale(kFallbackLocale.data())};
   memory.demand();  // at once: what follows opens files, and may leave another error
+  bool isDataMissing = false;
   for (const icu::Locale& candidate : candidates) {
     UErrorCode status = U_ZERO_ERROR;
     std::optional<NumberSymbols> symbols = symbolsOf(candidate, status);
     memory.demand(status);
+    // Where one locale has data, all have: what another one misses, ICU lost when memory ran out, and looks for no
+    // more.
+    if (symbols && isDataMissing) throw std::bad_alloc();
     if (symbols) return *std::move(symbols);
+    isDataMissing = isDataMissing || status == U_MISSING_RESOURCE_ERROR;
   }
   // Only a machine without any locale data comes here.
   NumberSymbols english = plainSymbols();

@@ -50,6 +50,7 @@ struct Cold {
 TEST(FailingAllocation, IsNoOtherLocaleAndNoOtherZoneEverAfter) {
   const Cold calls[] = {
       {"number style", [] { return numberSymbols("de_DE").groupSeparator == "."; }},
+      {"number style of a region", [] { return numberSymbols("de_CH").groupSeparator == "’"; }},
       {"digits of a language", [] { return numberSymbols("ar_EG").digits[1] == "١"; }},
       {"known language", [] { return usableLocale("de_DE.UTF-8") == "de_DE"; }},
       {"identifier", [] { return localeIdentifier("sr_RS@latin") == "sr_Latn_RS"; }},
