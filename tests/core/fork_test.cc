@@ -1,33 +1,22 @@
 // What a process may call that was forked off a host.
 #include <atomic>
 #include <csignal>
-#include <functional>
 #include <gtest/gtest.h>
 #include <mutex>
 #include <string>
-#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
 
 #include <KZMUtilities/KZMUtilities.h>
 
+#include "tests/support/processes.h"
 #include "tests/support/settings.h"
 
 namespace kzm {
 namespace {
 
-// The end of a forked child: its exit code, or minus the signal. One that waits for a lock that nobody holds is ended.
-int endOf(const std::function<int()>& act) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    ::alarm(30);
-    ::_exit(act());
-  }
-  int status = -1;
-  if (child < 0 || ::waitpid(child, &status, 0) != child) return -1000;
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
+using tests::endOf;
 
 bool formatsRight() {
   return KZMUtilitiesFormatMemory({{"space", true}}, 1073741824.0) == "1 GB" &&

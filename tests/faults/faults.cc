@@ -18,58 +18,21 @@
 #include <stdexcept>
 #include <string>
 #include <sys/mman.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "catalogue/callables.h"
-#include "catalogue/errors.h"
 #include "tests/faults/failing_allocator.h"
+#include "tests/support/processes.h"
+#include "tests/support/sample_calls.h"
 
 namespace kzm::tests {
 namespace {
 
 using catalogue::Callable;
 using catalogue::Json;
-using catalogue::Parameter;
 
 constexpr std::size_t kMostColdPoints = 2000;
 constexpr unsigned kMostSeconds = 60;
-
-// What each parameter gets, by its name or, after those, by its kind.
-// clang-format off
-constexpr struct Sample { std::string_view what; const char* json; } kSamples[] = {
-    {"pattern",          R"("(\\d+) and [a-z]+ more than a string has room for|\\d+")"},
-    {"key",              R"("Units.Weather.North")"},
-    {"table",            R"("Localizations-Units-Weather")"},
-    {"target",           R"("%@")"},
-    {"type",             "0"},
-    {"minimum",          "1"},
-    {"maximum",          "3"},
-    {"day",              "3"},
-    {"dictionary",       R"({"bandwidthformat": 2, "space": true, "units": true, "decimals": 1,
-                             "decimals-mb": [{"value": 10.0, "decimals": 2}, {"value": 1000.0, "decimals": 1}],
-                             "attributes-main": "bold", "attributes-units": "gray"})"},
-    {"double",           "123456789.125"},
-    {"integer",          "3"},
-    {"string",           R"("12 and more than a string has room for, in %@")"},
-    {"string|null",      R"("north")"},
-    {"locale",           R"("ar_EG")"},
-    {"time|null",        "1700000000.5"},
-    {"timezone",         R"("America/New_York")"},
-    {"units",            "1048575"},
-    {"attributes",       R"({"weight": "bold"})"},
-    {"attributedstring", R"({"runs": [{"text": "12 %@ and more than a string has room for", "attributes": "bold"},
-                                      {"text": " and so on", "attributes": null}]})"},
-};
-// clang-format on
-
-Json sampleOf(const Parameter& parameter) {
-  for (const std::string_view what : {parameter.name, parameter.kind}) {
-    const auto* sample = std::ranges::find(kSamples, what, &Sample::what);
-    if (sample != std::end(kSamples)) return Json::parse(sample->json);
-  }
-  throw std::invalid_argument("no sample for a parameter of kind " + std::string(parameter.kind));
-}
 
 // How a call went, and those after it.
 enum class Went : int { failed, right, failsOn, wrong, noSuchPoint, ended, count };
@@ -100,14 +63,18 @@ extern "C" void noteEnd(int signal) {
   ::raise(signal);
 }
 
+Went wrong(std::string_view answer) {
+  store(shared().answer, answer);
+  return Went::wrong;
+}
+
 // An exception that is no failed allocation is a wrong answer.
 template <class Body>
 Went resultOf(const Body& body) {
   try {
     return body();
   } catch (const std::exception& error) {
-    store(shared().file, error.what());
-    return Went::wrong;
+    return wrong(error.what());
   }
 }
 
@@ -115,19 +82,15 @@ Went resultOf(const Body& body) {
 template <class Body>
 Went inProcess(const Body& body) {
   store(shared().file, {});
-  const pid_t child = ::fork();
-  if (child == 0) {
-    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-    ::dup2(nowhere, STDERR_FILENO);
-    for (const int signal : {SIGABRT, SIGSEGV, SIGBUS, SIGTRAP, SIGILL, SIGFPE}) ::signal(signal, noteEnd);
-    ::alarm(kMostSeconds);
-    ::_exit(static_cast<int>(resultOf(body)));
-  }
-  int status = 0;
-  if (child < 0 || ::waitpid(child, &status, 0) != child) throw std::runtime_error("no process can be started");
-  return WIFEXITED(status) && WEXITSTATUS(status) < static_cast<int>(Went::count)
-             ? static_cast<Went>(WEXITSTATUS(status))
-             : Went::ended;
+  const int end = endOf(
+      [&] {
+        const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+        ::dup2(nowhere, STDERR_FILENO);
+        for (const int signal : {SIGABRT, SIGSEGV, SIGBUS, SIGTRAP, SIGILL, SIGFPE}) ::signal(signal, noteEnd);
+        return static_cast<int>(resultOf(body));
+      },
+      kMostSeconds);
+  return end >= 0 && end < static_cast<int>(Went::count) ? static_cast<Went>(end) : Went::ended;
 }
 
 // How the points of a call went.
@@ -144,8 +107,7 @@ bool isTheirs(std::string_view file) { return file.starts_with("libicu") || file
 
 class Trial {
  public:
-  explicit Trial(const Callable& callable) : callable_(callable) {
-    for (const Parameter& parameter : catalogue::parametersOf(callable)) arguments_.push_back(sampleOf(parameter));
+  explicit Trial(const Callable& callable) : callable_(callable), arguments_(sampleArguments(callable)) {
     const Went went = inProcess([&] {
       store(shared().answer, answer());
       return Went::right;
@@ -162,6 +124,10 @@ class Trial {
       ++tally[went];
       if (went == Went::ended) ++tally.ends[shared().file.data()];
       if (went == Went::failsOn) ++tally.remembered[shared().file.data()];
+      if (went == Went::wrong) {
+        std::fprintf(stderr, "%s, %s, allocation %zu, made by %s: %s\n", std::string(callable_.name).c_str(),
+                     warm ? "warm" : "cold", point, shared().file.data(), shared().answer.data());
+      }
     }
     return tally;
   }
@@ -180,10 +146,10 @@ class Trial {
       result.reset();
     }
     if (!stopFailing()) return Went::noSuchPoint;
-    if (result.has_value() && *result != expected_) return Went::wrong;
+    if (result.has_value() && *result != expected_) return wrong(*result);
     for (int times = 0; times < 2; ++times) {
       try {
-        if (answer() != expected_) return Went::wrong;
+        if (const std::string again = answer(); again != expected_) return wrong(again);
       } catch (const std::bad_alloc&) {
         return Went::failsOn;
       }
@@ -192,7 +158,7 @@ class Trial {
   }
 
   const Callable& callable_;
-  Json arguments_ = Json::array();
+  Json arguments_;
   std::string expected_;
 };
 

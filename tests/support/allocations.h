@@ -5,9 +5,8 @@
 
 #include <cstddef>
 #include <new>
-#include <sys/types.h>
-#include <sys/wait.h>
-#include <unistd.h>
+
+#include "tests/support/processes.h"
 
 namespace kzm::tests {
 
@@ -54,15 +53,13 @@ ColdCall judged(Check isRight) {
 /// Makes the call in a child process with that one allocation failing, and then asks whether all is right.
 template <class Call, class Check>
 ColdCall coldCallWithFailure(Heap heap, std::size_t number, Call call, Check isRight) {
-  const pid_t process = ::fork();
-  if (process == 0) {
-    ::alarm(2);
-    const bool failed = callWithFailure(heap, number, call);
-    ::_exit(static_cast<int>(failed ? judged(isRight) : ColdCall::noSuchAllocation));
-  }
-  int status = 0;
-  if (process < 0 || ::waitpid(process, &status, 0) != process || !WIFEXITED(status)) return ColdCall::ended;
-  const auto went = static_cast<ColdCall>(WEXITSTATUS(status));
+  const int end = endOf(
+      [&] {
+        const bool failed = callWithFailure(heap, number, call);
+        return static_cast<int>(failed ? judged(isRight) : ColdCall::noSuchAllocation);
+      },
+      2);
+  const auto went = static_cast<ColdCall>(end);
   return went >= ColdCall::right && went < ColdCall::ended ? went : ColdCall::ended;
 }
 

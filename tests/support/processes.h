@@ -1,4 +1,5 @@
-// What tests look up about processes, past the library: descriptors and children of this one, and the end of another.
+// What tests do with processes, past the library: they look up descriptors and children of this one, start one of their
+// own, and wait for the end of another.
 #ifndef KZM_TESTS_SUPPORT_PROCESSES_H
 #define KZM_TESTS_SUPPORT_PROCESSES_H
 
@@ -6,7 +7,9 @@
 #include <cerrno>
 #include <chrono>
 #include <fcntl.h>
+#include <functional>
 #include <poll.h>
+#include <stdexcept>
 #include <string>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -49,6 +52,19 @@ inline bool awaitEnd(int process) {
   const int ready = ::poll(&entry, 1, kPatienceMilliseconds);
   ::close(descriptor);
   return ready == 1;
+}
+
+/// Runs the body in a process that is forked off this one: its exit code, or minus the signal that ended it. One that
+/// takes longer than the given seconds, as one that waits for a lock that nobody holds, is ended by SIGALRM.
+inline int endOf(const std::function<int()>& body, unsigned seconds = 30) {
+  const pid_t process = ::fork();
+  if (process == 0) {
+    ::alarm(seconds);
+    ::_exit(body());
+  }
+  int status = 0;
+  if (process < 0 || ::waitpid(process, &status, 0) != process) throw std::runtime_error("no process can be started");
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 
 /// Reads to the end, when every writer has closed.
