@@ -32,7 +32,7 @@ using catalogue::Callable;
 using catalogue::Json;
 
 constexpr std::size_t kMostColdPoints = 2000;
-constexpr unsigned kMostSeconds = 60;
+constexpr unsigned kMostSeconds = 10;
 
 // How a call went, and those after it.
 enum class Went : int { failed, right, failsOn, wrong, noSuchPoint, ended, count };
