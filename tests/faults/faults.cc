@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <map>
 #include <new>
+#include <numeric>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -162,19 +163,20 @@ class Trial {
   std::string expected_;
 };
 
+// Each library and how often: "libicuuc 3".
 std::string listOf(const std::map<std::string, std::size_t>& files) {
   std::string list;
   for (const auto& [file, count] : files) {
-    list +=
-        (list.empty() ? "" : ", ") + (file.empty() ? std::string("without end") : file) + " " + std::to_string(count);
+    list += (list.empty() ? "" : ", ") + file.substr(0, file.find('.')) + " " + std::to_string(count);
   }
   return list;
 }
 
-// Four cells of the table, and whether all is well.
+// Five cells of the table, and whether all is well.
 bool report(Tally& tally) {
-  std::printf(" | %zu | %zu | %s | %s", tally[Went::failed], tally[Went::right], listOf(tally.remembered).c_str(),
-              listOf(tally.ends).c_str());
+  const std::size_t points = std::accumulate(tally.count.begin(), tally.count.end(), std::size_t{0});
+  std::printf(" | %zu | %zu | %zu | %s | %s", points, tally[Went::failed], tally[Went::right],
+              listOf(tally.remembered).c_str(), listOf(tally.ends).c_str());
   if (tally[Went::wrong] > 0) std::printf(" **%zu WRONG**", tally[Went::wrong]);
   const auto areTheirs = [](const auto& files) {
     return std::ranges::all_of(files, [](const auto& row) { return isTheirs(row.first); });
