@@ -39,7 +39,7 @@ int differences(const Answers& expected, std::mt19937_64& random) {
 
 TEST(FirstCalls, MayComeInAnyOrderFromAnyThread) {
   const Answers expected = answersOfAnotherProcess({});
-  forDraws(200, 10, [&](Input& input) {
+  forDraws(50, 10, [&](Input& input) {
     std::mt19937_64 random(input.take<std::uint64_t>());
     EXPECT_EQ(endOf([&] { return differences(expected, random); }), 0);
   });
