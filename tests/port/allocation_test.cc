@@ -11,7 +11,6 @@
 #include "port/posix_variant.h"
 #include "port/regex.h"
 #include "port/time_zone.h"
-#include "port/week_rules.h"
 #include "tests/support/allocations.h"
 #include "tests/support/sweeps.h"
 
@@ -57,11 +56,6 @@ TEST(FailingAllocation, IsNoOtherLocaleAndNoOtherZoneEverAfter) {
       {"identifier", [] { return localeIdentifier("sr_RS@latin") == "sr_Latn_RS"; }},
       {"measurement", [] { return measurementHabitsOf("en@rg=gbzzzz").region == "GB"; }},
       {"likely region", [] { return measurementHabitsOf("sv").region == "SE"; }},
-      {"first day of the week",
-       [] {
-         const WeekRules rules = weekRulesOf("de_CH");
-         return rules.firstWeekday == 2 && rules.daysInFirstWeek == 4;
-       }},
       {"variant", [] { return takesPosixVariant("en_US"); }},
       {"zone",
        [] {

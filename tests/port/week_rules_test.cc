@@ -14,8 +14,17 @@ TEST(WeekRules, AreThoseOfTheRegion) {
     int daysInFirstWeek;
   };
   const Case cases[] = {
-      {"en_US", 1, 1},  {"de_DE", 2, 4}, {"fr_FR", 2, 4}, {"en_GB", 2, 4},          {"ar_EG", 7, 1}, {"th_TH", 1, 1},
-      {"en_001", 2, 1}, {"pt_PT", 1, 4}, {"de", 2, 4},    {"en_US@rg=gbsct", 2, 4}, {"en_ZZ", 2, 1},
+      {"en_US", 1, 1},
+      {"de_DE", 2, 4},
+      {"fr_FR", 2, 4},
+      {"en_GB", 2, 4},
+      {"ar_EG", 7, 1},
+      {"th_TH", 1, 1},
+      {"en_001", 2, 1},
+      {"pt_PT", 1, 4},
+      {"de", 2, 4},
+      {"en_ZZ", 2, 1},
+      {"en_US@calendar=iso8601", 2, 4},
   };
   for (const Case& c : cases) {
     EXPECT_EQ(weekRulesOf(c.locale).firstWeekday, c.firstWeekday) << c.locale;
