@@ -3,6 +3,9 @@
 
 jobs=$(nproc)
 
+# The folders whose code is in the libraries, and what reads the machine for their users.
+library_folders=(core units bytes weather sensors clock platform port settings localization catalogue c widest machine)
+
 say() { printf '\033[1m==>\033[0m %s\n' "$*" >&2; }
 fail() { printf 'dev: %s\n' "$*" >&2; exit 1; }
 refuse() { printf 'dev: %s\n' "$*" >&2; exit 2; }
