@@ -6,6 +6,7 @@
 
 #include <KZMUtilities/process.h>
 
+#include "tests/support/long_runs.h"
 #include "tests/support/processes.h"
 #include "tests/support/sweeps.h"
 
@@ -43,16 +44,19 @@ void runningTheQueue(ChildProcess& child) {
 
 template <typename AwaitEnd>
 void expectNothingLeft(const char* how, AwaitEnd awaitEndOf) {
-  const int launches = inSweep(5000, 200);
+  const int launches = static_cast<int>(inSoak("KZM_SOAK_LAUNCHES", inSweep<std::size_t>(5000, 200)));
   g_main_context_default();  // opens a descriptor when it is first needed, and keeps it
+  launchMany(20, awaitEndOf);
+  const std::size_t memory = heldMemory();
   const std::ptrdiff_t before = openDescriptors();
   const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(launchMany(launches, awaitEndOf), launches);
   const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
   const std::ptrdiff_t after = openDescriptors();
-  std::printf("%s: %d launches in %.1f s, descriptors before %td after %td, children left: %s\n", how, launches,
-              seconds.count(), before, after, hasChildren() ? "yes" : "none");
+  std::printf("%s: %d launches in %.1f s, descriptors before %td after %td, memory before %zu after %zu\n", how,
+              launches, seconds.count(), before, after, memory, heldMemory());
   EXPECT_EQ(after, before);
+  EXPECT_LE(heldMemory(), memory + kCachedMemory);
   EXPECT_FALSE(hasChildren());
 }
 
