@@ -78,6 +78,45 @@ TEST(NumberText, RoundsHalfToEvenOnTheShortestDecimal) {
   }
 }
 
+// The numbers of a monitor take the quick way.
+TEST(NumberText, ShortNumbersAreLaidOut) {
+  struct Case {
+    const char* why;
+    double value;
+    int digits;
+    bool isLaidOut;
+    std::size_t size;
+  };
+  const Case cases[] = {
+      {"zero", 0.0, 0, true, 1},
+      {"a fraction", 19.73, 1, true, 4},
+      {"below zero", -1234.0, 0, true, 6},
+      {"nine digits", 999999998.0, 0, true, 11},
+      {"the largest of nine", 999999999.0, 0, false, 0},
+      {"eight digits after the point", 1.23456781, 8, true, 10},
+      {"nine", 0.1, 9, false, 0},
+      {"a tie", 42.25, 1, false, 0},
+      {"as near to a tie as is in doubt", 42.2500999, 1, false, 0},
+      {"less near", 42.2501001, 1, true, 4},
+      {"NaN", kNaN, 0, false, 0},
+      {"infinity", kInfinity, 0, false, 0},
+  };
+  for (const Case& c : cases) {
+    const ShortNumber number(decimalStyle(symbolsOf("en_US"), c.digits, c.digits), c.value);
+    EXPECT_EQ(number.isLaidOut(), c.isLaidOut) << c.why;
+    EXPECT_EQ(number.size(), c.size) << c.why;
+  }
+}
+
+TEST(NumberText, CountsDigits) {
+  std::uint32_t power = 1;
+  for (int digits = 1; digits <= 9; ++digits, power *= 10) {
+    EXPECT_EQ(countDigits(power), digits);
+    EXPECT_EQ(countDigits(power * 10 - 1), digits);
+  }
+  EXPECT_EQ(countDigits(0), 1);
+}
+
 TEST(NumberText, DropsZerosDownToTheMinimum) {
   EXPECT_EQ(text("en_US", 0, 2, 3.0), "3");
   EXPECT_EQ(text("en_US", 0, 2, 3.14159), "3.14");

@@ -127,6 +127,17 @@ TEST(OptionValues, StringsReadAsWhatTheySpell) {
   }
 }
 
+TEST(OptionValues, StringsMayBeOfManyDigits) {
+  const std::string large(400, '9');
+  const std::string small = "0." + std::string(400, '0') + "1";
+  EXPECT_EQ(doubleFromText(large), kInfinity);
+  EXPECT_EQ(doubleFromText(large + "x-500"), kInfinity) << "that is no exponent";
+  EXPECT_EQ(doubleFromText(large + "e-400"), 1.0);
+  EXPECT_EQ(doubleFromText(small), 0.0);
+  EXPECT_EQ(doubleFromText(small + "x500"), 0.0);
+  EXPECT_EQ(doubleFromText(small + "e401"), 1.0);
+}
+
 Value rule(Value value, Value decimals) {
   return Dictionary{{"value", std::move(value)}, {"decimals", std::move(decimals)}};
 }

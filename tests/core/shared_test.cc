@@ -211,6 +211,17 @@ TEST_F(SharedState, AnEntryIsMadeOnlyWhenNoneIsAccepted) {
   EXPECT_EQ(entries.entries(), (Dictionary{{"key", "made"}}));
 }
 
+TEST_F(SharedState, WhatSomebodyElseHasMadeInTheMeantimeStays) {
+  Cache entries;
+  const auto isText = [](const Value& value) { return value.string() != nullptr; };
+  const auto make = [&entries] {
+    entries.set("key", "made before");
+    return Value("made");
+  };
+  EXPECT_EQ(entries.findOrMake("key", isText, make), Value("made before"));
+  EXPECT_EQ(entries.find("key"), Value("made before"));
+}
+
 TEST_F(SharedState, AnAbsentEntryIsShownToTheOneWhoAcceptsAsNull) {
   Cache entries;
   const auto takesNull = [](const Value& value) { return value.isNull(); };

@@ -59,5 +59,15 @@ TEST(Texts, ThousandsAreFound) {
   }
 }
 
+TEST(Texts, AreAsManyAsSixteenBitsCount) {
+  std::string keys;
+  for (int i = 0; i < 65536; ++i) keys.append(std::to_string(i)).push_back('\0');
+  Texts texts;
+  texts.add(table(keys, keys));
+  EXPECT_EQ(texts.find("0"), "0");
+  EXPECT_EQ(texts.find("65534"), "65534");
+  EXPECT_EQ(texts.find("65535"), std::nullopt) << "there is no room for it";
+}
+
 }  // namespace
 }  // namespace kzm::localization

@@ -14,6 +14,7 @@ TEST(RegexPattern, FindsBackReferences) {
   };
   const Case cases[] = {
       {"by number", R"((b)\1)", true},
+      {"by the last number", R"((b)\9)", true},
       {"by name", R"((?<n>b)\k<n>)", true},
       {"none", R"((b)\d1)", false},
       {"an escaped backslash before a digit", R"((b)\\1)", false},
@@ -52,6 +53,10 @@ TEST(RegexPattern, EstimatesWhatSetsTake) {
       {"a range beyond ASCII", "[a-\xf4\x8f\xbf\xbf]", kMost},
       {"word characters", R"([\w])", kLetters},
       {"all others", R"([\W])", kMost},
+      {"all but digits", R"([\D])", kMost},
+      {"all but spaces within a line", R"([\H])", kMost},
+      {"all but spaces", R"([\S])", kMost},
+      {"all but line ends", R"([\V])", kMost},
       {"twice in one set", R"([\W\D])", kMost},
       {"in two sets", R"([\W][\D])", 2 * kMost},
       {"after a bracket in the first place", R"([]\W])", kMost},

@@ -1,6 +1,10 @@
 #include "settings/location.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <string>
+#include <unistd.h>
 
 namespace kzm::settings {
 namespace {
@@ -22,6 +26,34 @@ TEST(Location, IsUnderTheConfigurationDirectoryElseUnderHome) {
       {"nothing known, no place", "", "", ""},
   };
   for (const Case& row : kCases) EXPECT_EQ(fileUnder(row.configuration, row.home), row.file) << row.why;
+}
+
+// In a process of its own, for it changes the environment.
+TEST(LocationDeathTest, WithoutAnEnvironmentHomeIsTheOneOfTheUserDatabase) {
+  const passwd* const user = getpwuid(geteuid());
+  if (user == nullptr) GTEST_SKIP() << "left out: this user is in no database";
+  EXPECT_EXIT(
+      {
+        unsetenv("XDG_CONFIG_HOME");
+        setenv("HOME", "relative", 1);
+        _exit(fileOfUser() == std::string(user->pw_dir) + "/.config/KZMUtilities/settings.json" ? 0 : 1);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
+TEST(LocationDeathTest, AnEnvironmentSaysIt) {
+  EXPECT_EXIT(
+      {
+        setenv("XDG_CONFIG_HOME", "/conf", 1);
+        setenv("HOME", "/home/me", 1);
+        const bool isConfigured = fileOfUser() == "/conf/KZMUtilities/settings.json";
+        unsetenv("HOME");
+        const bool needsNoHome = fileOfUser() == "/conf/KZMUtilities/settings.json";
+        setenv("HOME", "/home/me", 1);
+        unsetenv("XDG_CONFIG_HOME");
+        _exit(isConfigured && needsNoHome && fileOfUser() == "/home/me/.config/KZMUtilities/settings.json" ? 0 : 1);
+      },
+      testing::ExitedWithCode(0), "");
 }
 
 }  // namespace

@@ -92,6 +92,23 @@ TEST_F(SystemZone, ComesFromTheLinkWithoutAVariable) {
   EXPECT_EQ(findSystemZone(nullptr, folder_ / "copy")->identifier(), "localtime") << "a copied file: the C library's";
 }
 
+bool hasZone(const fs::path& folder, const std::string& name) {
+  fs::copy_file("/usr/share/zoneinfo/Europe/Paris", folder / name);
+  return namedZone(name) != nullptr;
+}
+
+TEST_F(SystemZone, FilesAreInTheFolderThatTheEnvironmentNames) {
+  EXPECT_EXIT(
+      {
+        setenv("TZDIR", "", 1);  // NOLINT(concurrency-mt-unsafe): no other thread runs here
+        const bool isTheSystems = zoneFolder() == "/usr/share/zoneinfo";
+        setenv("TZDIR", folder_.c_str(), 1);  // NOLINT(concurrency-mt-unsafe): no other thread runs here
+        const bool takesLongNames = hasZone(folder_, std::string(64, 'A')) && !hasZone(folder_, std::string(65, 'A'));
+        _exit(isTheSystems && takesLongNames && hasZone(folder_, "A") && !hasZone(folder_, "posixrules") ? 0 : 1);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
 // New York by its rule: what the C library makes of it must resolve local times as the zone file does.
 bool ruleAgreesWithFile() {
   constexpr const char* kRule = "EST5EDT,M3.2.0,M11.1.0";
