@@ -112,6 +112,25 @@ def are_rows(listed):
     return starts == {"{"} or (len(starts) == 1 and all(len(each) > 1 and each[1].text in "(<{" for each in listed))
 
 
+def exchanged(source, first, second):
+    """The source from the first of two lists of tokens to the second, with each in the place of the other."""
+    start, end, other, last = first[0].start, first[-1].end, second[0].start, second[-1].end
+    if source[start:end] == source[other:last]:
+        return None
+    return Change(start, last, source[other:last] + source[end:other] + source[start:end])
+
+
+def exchanged_rows(source, row, following):
+    """The first cells change places, or the rows where these are alike: in a table that is searched for the first cell,
+    the order of rows does not count."""
+    if row[0].text == "{":
+        cells = elements(row, 0), elements(following, 0)
+        change = all(cells) and exchanged(source, cells[0][0], cells[1][0])
+        if change:
+            return change
+    return exchanged(source, row, following)
+
+
 def rows(source, tokens):
     for opening, token in enumerate(tokens):
         if token.text != "{":
@@ -120,11 +139,10 @@ def rows(source, tokens):
         if not are_rows(listed):
             continue
         for row, following in zip(listed, listed[1:]):
-            first, between, second = (source[row[0].start:row[-1].end], source[row[-1].end:following[0].start],
-                                      source[following[0].start:following[-1].end])
             yield Change(row[0].start, following[0].start, "")
-            if first != second:
-                yield Change(row[0].start, following[-1].end, second + between + first)
+            change = exchanged_rows(source, row, following)
+            if change:
+                yield change
         yield Change(listed[-2][-1].end, listed[-1][-1].end, "")
 
 
