@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 namespace kzm::core {
 
@@ -23,6 +24,15 @@ consteval std::size_t countEnumerators() {
   } else {
     return count;
   }
+}
+
+/// How many enumerators there are below `end`, in an enumeration whose numbers are published and may have gaps.
+template <class Enum, std::size_t end = 256>
+consteval std::size_t countNamed() {
+  return []<std::size_t... number>(std::index_sequence<number...>) {
+    return (std::size_t{isEnumerator<static_cast<Enum>(number)>()} + ...);
+  }
+  (std::make_index_sequence<end>());
 }
 
 /// Whether each row is at the position that its column names, so that the column's enumerator is the row's index, and

@@ -1,6 +1,10 @@
+#include <algorithm>
+#include <string_view>
+
 #include <KZMUtilities/dates.h>
 #include <KZMUtilities/sensors.h>
 
+#include "core/rows.h"
 #include "tools/bindings/placeholders.h"
 
 namespace kzm::bindings {
@@ -43,6 +47,11 @@ constexpr Constant kConstants[] = {
     {"CALENDAR_UNIT_TIME_ZONE",             kCalendarUnitTimeZone,          "the zone's identifier, a text"},
 };
 // clang-format on
+static_assert(std::ranges::count_if(kConstants,
+                                    [](const Constant& row) {
+                                      return std::string_view(row.name).starts_with("SENSOR_");
+                                    }) == core::countNamed<SensorType::Kind>(),
+              "a kind of sensor has no constant");
 
 }  // namespace
 

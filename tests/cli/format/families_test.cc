@@ -13,15 +13,10 @@
 namespace kzm::cli {
 namespace {
 
-template <std::size_t... kind>
-std::size_t countSensorKinds(std::index_sequence<kind...> /*kinds*/) {
-  return (std::size_t{core::isEnumerator<static_cast<SensorType::Kind>(kind)>()} + ...);
-}
-
 TEST(Families, EverySensorKindHasItsRow) {
   const auto isSensor = [](const Family& family) { return family.name.starts_with("sensor "); };
   EXPECT_EQ(static_cast<std::size_t>(std::ranges::count_if(families(), isSensor)),
-            countSensorKinds(std::make_index_sequence<256>()));
+            core::countNamed<SensorType::Kind>());
 }
 
 TEST(Families, EveryCallThatFormatsANumberHasItsRow) {
