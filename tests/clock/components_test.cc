@@ -150,6 +150,26 @@ TEST(DateFromComponents, TakesTheNamedFieldsOfNow) {
   }
 }
 
+TEST(DateFromComponents, TheEraDecidesOnTheYear) {
+  const WithDefaultZone utc("UTC");
+  struct Case {
+    const char* why;
+    double now;
+    CalendarUnits units;
+    double t;
+  };
+  const Case cases[] = {
+      {"the first day of AD 1", -62135769600, 30, -62135769600},
+      {"the last day of 1 BC", -62135856000, 30, -62135856000},
+      {"the same without its era is in AD 1", -62135856000, 28, -62104320000},
+      {"the last day of 1 BC, with its era alone", -62135856000, 2, -62167392000},
+  };
+  for (const Case& c : cases) {
+    const WithNow now(c.now);
+    EXPECT_EQ(dateFromComponents(c.units), c.t) << c.why;
+  }
+}
+
 TEST(DateFromComponents, NoDateWhereNowHasNone) {
   const WithNow now(1e300);
   EXPECT_EQ(dateFromComponents(28), std::nullopt);

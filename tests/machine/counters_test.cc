@@ -52,9 +52,11 @@ TEST(Disks, AreWholeDisksWithAMedium) {
     scratch.write("sys/block/" + std::string(name) + "/size", "1000\n");
   }
   scratch.write("sys/block/nbd0/size", "0\n");
+  scratch.write("sys/block/sda/size", "1\n");
+  scratch.write("sys/block/vdb/stat", kStat);
   scratch.write("sys/block/sda/sda1/stat", kStat);
   EXPECT_EQ(textsOf(readDisks(Root(scratch.path("")), 0)),
-            (Texts{"nvme0n1 2048 3072", "sda 2048 3072", "sr0 2048 3072", "vda 2048 3072"}));
+            (Texts{"nvme0n1 2048 3072", "sda 2048 3072", "sr0 2048 3072", "vda 2048 3072", "vdb 2048 3072"}));
 }
 
 TEST(Disks, WithoutTheirDirectoryComeFromTheTableWithoutPartitions) {
@@ -69,9 +71,11 @@ TEST(Disks, WithoutTheirDirectoryComeFromTheTableWithoutPartitions) {
                 " 253       0 dm-0 1 0 10 0 1 0 20 0 0 0 0\n"
                 "   8      16 sdb 1 0 10\n"
                 "   8      32 sdc 1 0 18446744073709551615 0 1 0 20\n"
+                "   8      48 sdd 1 0 36028797018963968 0 1 0 20\n"
+                "   8      64 sde 1 0 36028797018963967 0 1 0 20\n"
                 "garbage\n");
   EXPECT_EQ(textsOf(readDisks(Root(scratch.path("")), 0)),
-            (Texts{"sda 5120 10240", "nvme0n1 512 1024", "nvme0n10 1536 2048"}));
+            (Texts{"sda 5120 10240", "nvme0n1 512 1024", "nvme0n10 1536 2048", "sde 18446744073709551104 10240"}));
 }
 
 }  // namespace

@@ -35,6 +35,12 @@ TEST(Files, NamesAreInOrderOfTheirNumbers) {
   EXPECT_EQ(namesIn(scratch.path("")), (std::vector<std::string>{"hwmon1", "hwmon2", "hwmon10"}));
 }
 
+TEST(Files, NamesAreAtMost4096) {
+  const tests::ScratchDirectory scratch;
+  for (int number = 0; number < 4097; ++number) scratch.write("many/" + std::to_string(number), "");
+  EXPECT_EQ(namesIn(scratch.path("many")).size(), 4096U);
+}
+
 TEST(Files, LinesAndFieldsSurviveAnyText) {
   EXPECT_TRUE(linesOf("").empty());
   EXPECT_EQ(linesOf("a\n\nb").size(), 3U);
@@ -107,6 +113,64 @@ TEST(Files, ShownTextHoldsNothingThatSteersATerminal) {
       {"nothing left", "\x1b\x07 ", ""},
   };
   for (const Case& row : kCases) EXPECT_EQ(shownText(row.text), row.shown) << row.why;
+}
+
+// The first and the last code of each range, and their neighbors.
+TEST(Files, ShownTextKeepsWhatIsBesideWhatItLeavesOut) {
+  constexpr struct {
+    const char* why;
+    const char* bytes;
+    bool isShown;
+  } kCases[] = {
+      {"U+0001", "\x01", false},
+      {"U+001F", "\x1f", false},
+      {"U+0020", " ", true},
+      {"U+007E", "\x7e", true},
+      {"U+007F", "\x7f", false},
+      {"U+0080", "\xc2\x80", false},
+      {"U+009F", "\xc2\x9f", false},
+      {"U+00A0", "\xc2\xa0", true},
+      {"U+061B", "\xd8\x9b", true},
+      {"U+061C", "\xd8\x9c", false},
+      {"U+061D", "\xd8\x9d", true},
+      {"U+07FF", "\xdf\xbf", true},
+      {"U+0800", "\xe0\xa0\x80", true},
+      {"U+200D", "\xe2\x80\x8d", true},
+      {"U+200E", "\xe2\x80\x8e", false},
+      {"U+200F", "\xe2\x80\x8f", false},
+      {"U+2010", "\xe2\x80\x90", true},
+      {"U+2027", "\xe2\x80\xa7", true},
+      {"U+2028", "\xe2\x80\xa8", false},
+      {"U+202E", "\xe2\x80\xae", false},
+      {"U+202F", "\xe2\x80\xaf", true},
+      {"U+2065", "\xe2\x81\xa5", true},
+      {"U+2066", "\xe2\x81\xa6", false},
+      {"U+2069", "\xe2\x81\xa9", false},
+      {"U+206A", "\xe2\x81\xaa", true},
+      {"U+D7FF", "\xed\x9f\xbf", true},
+      {"U+D800", "\xed\xa0\x80", false},
+      {"U+DFFF", "\xed\xbf\xbf", false},
+      {"U+E000", "\xee\x80\x80", true},
+      {"U+FEFE", "\xef\xbb\xbe", true},
+      {"U+FEFF", "\xef\xbb\xbf", false},
+      {"U+FF00", "\xef\xbc\x80", true},
+      {"U+FFFF", "\xef\xbf\xbf", true},
+      {"U+10000", "\xf0\x90\x80\x80", true},
+      {"U+10FFFF", "\xf4\x8f\xbf\xbf", true},
+      {"U+110000", "\xf4\x90\x80\x80", false},
+      {"a byte that follows none", "\x80", false},
+      {"the last of those", "\xbf", false},
+      {"two bytes for U+0041", "\xc1\x81", false},
+      {"three bytes for U+07FF", "\xe0\x9f\xbf", false},
+      {"four bytes for U+FFFF", "\xf0\x8f\xbf\xbf", false},
+      {"a lead byte of none", "\xf5\x80\x80\x80", false},
+      {"followed by a letter", "\xc2", false},
+      {"a byte short of four", "\xf0\x90\x80", false},
+  };
+  for (const auto& row : kCases) {
+    const std::string text = std::string("a") + row.bytes + "b";
+    EXPECT_EQ(shownText(text), row.isShown ? text : "ab") << row.why;
+  }
 }
 
 }  // namespace

@@ -19,14 +19,18 @@ TEST(Processor, CountsEveryTickOnceAndWaitingAsIdle) {
                 "cpu1 1 1 1\n"
                 "cpu2 1 x 1 1 1\n"
                 "cpu3 1 1 1 18446744073709551615 1\n"
+                "cpu4 1 1 1 281474976710657 1\n"
+                "cpu5 1 1 1 281474976710656 1\n"
                 "intr 1 2 3 4 5 6\n");
   const std::vector<ProcessorTime> times = readProcessor(Root(scratch.path("")));
-  ASSERT_EQ(times.size(), 2U);
+  ASSERT_EQ(times.size(), 3U);
   EXPECT_EQ(times[0].name, "cpu");
   EXPECT_EQ(times[0].idle, 90U);
   EXPECT_EQ(times[0].total, 117U);
   EXPECT_EQ(times[1].name, "cpu0");
   EXPECT_EQ(times[1].total, 4U);
+  EXPECT_EQ(times[2].name, "cpu5");
+  EXPECT_EQ(times[2].idle, 281474976710657U) << "the most that is believed";
 }
 
 TEST(Processor, LoadIsTheBusyPartOfTheTimeBetween) {
@@ -65,6 +69,8 @@ TEST(Processor, LoadAveragesAreThreeNumbersOrNothing) {
       {"0.25 1.50\n", {}},
       {"0.25 x 12.00", {}},
       {"0.25 -1 12.00", {}},
+      {"0.00 0.00 0.00", Averages{0, 0, 0}},
+      {"1 2 3", Averages{1, 2, 3}},
       {"nan inf 1", {}},
       {"", {}},
   };

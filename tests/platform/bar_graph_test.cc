@@ -195,6 +195,37 @@ TEST(BarGraph, AContextInAnErrorStateIsLeftAlone) {
   EXPECT_EQ(canvas.area(), 0.0);
 }
 
+// A bar of eight by eight pixels at the left upper corner, however large a point is and wherever the origin.
+double areaOfBar(double scaleX, double scaleY, double offsetX, double offsetY) {
+  const Canvas canvas(16, 16);
+  cairo_matrix_t matrix;
+  cairo_matrix_init(&matrix, scaleX, 0.0, 0.0, scaleY, offsetX, offsetY);
+  cairo_set_matrix(canvas.cairo(), &matrix);
+  fill(canvas, {{-offsetX / scaleX, -offsetY / scaleY}, {8.0 / scaleX, 8.0 / scaleY}});
+  EXPECT_TRUE(canvas.isSound());
+  return canvas.area();
+}
+
+TEST(BarGraph, ContextsBeyondMeasureShowNothing) {
+  constexpr struct {
+    const char* why;
+    double scaleX, scaleY, offsetX, offsetY;
+    bool isShown;
+  } kCases[] = {
+      {"the smallest points", 1e-6, 1e-6, 0, 0, true},     {"narrower ones", 0.9e-6, 2e-6, 0, 0, false},
+      {"lower ones", 2e-6, 0.9e-6, 0, 0, false},           {"the largest points", 1e6, 1e6, 0, 0, true},
+      {"wider ones", 1e6 + 0.5, 1, 0, 0, false},           {"higher ones", 1, 1e6 + 0.5, 0, 0, false},
+      {"the farthest origin", 1, 1, 1e9, 1e9, true},       {"the farthest before it", 1, 1, -1e9, -1e9, true},
+      {"farther to the right", 1, 1, 1e9 + 0.5, 0, false}, {"farther to the left", 1, 1, -1e9 - 0.5, 0, false},
+      {"farther below", 1, 1, 0, 1e9 + 0.5, false},        {"farther above", 1, 1, 0, -1e9 - 0.5, false},
+  };
+  for (const auto& row : kCases) {
+    const double area = areaOfBar(row.scaleX, row.scaleY, row.offsetX, row.offsetY);
+    EXPECT_EQ(area > 40.0, row.isShown) << row.why << ": " << area;
+    EXPECT_EQ(area == 0.0, !row.isShown) << row.why << ": " << area;
+  }
+}
+
 // Every magnitude, sign and kind of number, in contexts that are scaled, turned and moved in every way.
 TEST(BarGraph, NothingPutsTheContextIntoAnErrorState) {
   std::mt19937 random(20);

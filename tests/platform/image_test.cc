@@ -196,6 +196,39 @@ TEST(Image, WhatCannotBeIsEmpty) {
   EXPECT_EQ(canvas.area(), 0.0);
 }
 
+TEST(Image, CanBeAsLargeAndAsFineAsThis) {
+  constexpr struct {
+    const char* why;
+    Size size;
+    double scale;
+    bool isPossible;
+  } kCases[] = {
+      {"the widest", {32767, 1}, 1, true},
+      {"the highest", {1, 32767}, 1, true},
+      {"wider", {32767.5, 1}, 1, false},
+      {"higher", {1, 32767.5}, 1, false},
+      {"wider by its scale", {16384, 1}, 2, false},
+      {"a part of a pixel is one", {0.5, 0.25}, 1, true},
+      {"the coarsest", {1e6, 1e6}, 1e-6, true},
+      {"coarser", {1e6, 1e6}, 0.9e-6, false},
+      {"the finest", {1e-6, 1e-6}, 1e6, true},
+      {"finer", {1e-6, 1e-6}, 1e6 + 0.5, false},
+  };
+  for (const auto& row : kCases)
+    EXPECT_EQ(Image(row.size, row.scale).size(), row.isPossible ? row.size : Size{}) << row.why;
+}
+
+TEST(Image, ItsPixelsMayBeWiderThanHigh) {
+  const Canvas canvas(8, 8);
+  canvas.paint(6, 2, 2, 2, kRedPixel);
+  cairo_surface_set_device_scale(canvas.surface(), 1.0, 2.0);
+  const Image image = Image::fromSurface(canvas.surface());
+  EXPECT_EQ(image.size(), (Size{8, 4}));
+  EXPECT_EQ(pixelOf(image, 6, 1), kRedPixel);
+  EXPECT_EQ(pixelOf(image, 7, 1), kRedPixel);
+  for (const auto& [x, y] : {std::pair{5, 1}, {6, 0}, {6, 2}}) EXPECT_EQ(pixelOf(image, x, y), 0U) << x << ", " << y;
+}
+
 TEST(Image, GoesThroughAFile) {
   const std::string path = testing::TempDir() + "kzm_image.png";
   ASSERT_TRUE(redOverBlue(6, 4).writePNG(path));

@@ -36,7 +36,10 @@ TEST(MeasurementUnits, HaveNamesAndSymbols) {
     EXPECT_EQ(measurementUnitName(c.unit), c.name);
     EXPECT_EQ(symbolOf(c.unit), c.symbol);
   }
-  EXPECT_EQ(measurementUnitName(static_cast<Unit>(200)), "");
+  for (const int number : {15, 16, 200}) {
+    EXPECT_EQ(measurementUnitName(static_cast<Unit>(number)), "") << number;
+    EXPECT_EQ(symbolOf(static_cast<Unit>(number)), "") << number;
+  }
 }
 
 }  // namespace

@@ -90,13 +90,54 @@ TEST(WidestText, ANumberThatNamesNoFamilyCountsAsTheLastOne) {
   EXPECT_EQ(usualRange(kNone).highest, usualRange(TextFamily::sensorCapacity).highest);
 }
 
+// What a desktop may meet, each in the unit of the family's function.
 TEST(WidestText, HasAUsualRangeForEachFamily) {
-  for (int number = 0; number <= static_cast<int>(TextFamily::sensorCapacity); ++number) {
-    const auto family = static_cast<TextFamily>(number);
-    EXPECT_LT(usualRange(family).lowest, usualRange(family).highest) << number;
-    EXPECT_EQ(widestText(family, {{"units", true}}), widestText(family, {{"units", true}}, usualRange(family)));
-    EXPECT_NE(widestText(family, {{"units", true}}), "") << number;
+  constexpr struct {
+    TextFamily family;
+    ValueRange usual;
+  } kRanges[] = {
+      {TextFamily::number, {0.0, 1e6}},
+      {TextFamily::percentage, {0.0, 100.0}},
+      {TextFamily::bandwidth, {0.0, 1e12}},
+      {TextFamily::bandwidthWithAttributes, {0.0, 1e12}},
+      {TextFamily::diskActivity, {0.0, 1e12}},
+      {TextFamily::diskActivityWithAttributes, {0.0, 1e12}},
+      {TextFamily::space, {0.0, 1e15}},
+      {TextFamily::memory, {0.0, 1e13}},
+      {TextFamily::weatherTemperature, {-90.0, 60.0}},
+      {TextFamily::weatherWindSpeed, {0.0, 120.0}},
+      {TextFamily::weatherWindDirection, {0.0, 360.0}},
+      {TextFamily::weatherPressure, {850.0, 1100.0}},
+      {TextFamily::weatherDistance, {0.0, 20040.0}},
+      {TextFamily::weatherVisibility, {0.0, 300.0}},
+      {TextFamily::weatherRainAmount, {0.0, 2000.0}},
+      {TextFamily::weatherSnowAmount, {0.0, 20000.0}},
+      {TextFamily::weatherUV, {0.0, 20.0}},
+      {TextFamily::weatherHumidity, {0.0, 100.0}},
+      {TextFamily::weatherAltitude, {-90.0, 90.0}},
+      {TextFamily::weatherAzimuth, {0.0, 360.0}},
+      {TextFamily::weatherDays, {0.0, 366.0}},
+      {TextFamily::weatherIllumination, {0.0, 100.0}},
+      {TextFamily::sensorTemperature, {-50.0, 150.0}},
+      {TextFamily::sensorPercentage, {0.0, 1.0}},
+      {TextFamily::sensorFan, {0.0, 20000.0}},
+      {TextFamily::sensorCurrent, {-100.0, 100.0}},
+      {TextFamily::sensorPower, {-2000.0, 2000.0}},
+      {TextFamily::sensorVoltage, {-20.0, 400.0}},
+      {TextFamily::sensorLight, {0.0, 200000.0}},
+      {TextFamily::sensorFrequency, {0.0, 10000.0}},
+      {TextFamily::sensorMultiplier, {0.0, 100.0}},
+      {TextFamily::sensorCapacity, {0.0, 100000.0}},
+  };
+  int number = 0;
+  for (const auto& row : kRanges) {
+    EXPECT_EQ(static_cast<int>(row.family), number++) << "each family";
+    EXPECT_EQ(usualRange(row.family).lowest, row.usual.lowest) << number;
+    EXPECT_EQ(usualRange(row.family).highest, row.usual.highest) << number;
+    EXPECT_EQ(widestText(row.family, {{"units", true}}), widestText(row.family, {{"units", true}}, row.usual));
+    EXPECT_NE(widestText(row.family, {{"units", true}}), "") << number;
   }
+  EXPECT_EQ(number, static_cast<int>(TextFamily::sensorCapacity) + 1);
 }
 
 }  // namespace
