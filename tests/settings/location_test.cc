@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <optional>
 #include <pwd.h>
 #include <string>
 #include <unistd.h>
@@ -28,32 +29,52 @@ TEST(Location, IsUnderTheConfigurationDirectoryElseUnderHome) {
   for (const Case& row : kCases) EXPECT_EQ(fileUnder(row.configuration, row.home), row.file) << row.why;
 }
 
-// In a process of its own, for it changes the environment.
-TEST(LocationDeathTest, WithoutAnEnvironmentHomeIsTheOneOfTheUserDatabase) {
-  const passwd* const user = getpwuid(geteuid());
-  if (user == nullptr) GTEST_SKIP() << "left out: this user is in no database";
-  EXPECT_EXIT(
-      {
-        unsetenv("XDG_CONFIG_HOME");
-        setenv("HOME", "relative", 1);
-        _exit(fileOfUser() == std::string(user->pw_dir) + "/.config/KZMUtilities/settings.json" ? 0 : 1);
-      },
-      testing::ExitedWithCode(0), "");
-}
+// The variable, set or taken away until the end of the block.
+class WithVariable {
+ public:
+  WithVariable(const char* name, const char* text) : name_(name) {
+    const char* const former = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): tests have one thread here
+    if (former != nullptr) former_ = former;
+    assign(text);
+  }
+  ~WithVariable() { assign(former_ ? former_->c_str() : nullptr); }
+  WithVariable(const WithVariable&) = delete;
+  WithVariable& operator=(const WithVariable&) = delete;
 
-TEST(LocationDeathTest, AnEnvironmentSaysIt) {
-  EXPECT_EXIT(
-      {
-        setenv("XDG_CONFIG_HOME", "/conf", 1);
-        setenv("HOME", "/home/me", 1);
-        const bool isConfigured = fileOfUser() == "/conf/KZMUtilities/settings.json";
-        unsetenv("HOME");
-        const bool needsNoHome = fileOfUser() == "/conf/KZMUtilities/settings.json";
-        setenv("HOME", "/home/me", 1);
-        unsetenv("XDG_CONFIG_HOME");
-        _exit(isConfigured && needsNoHome && fileOfUser() == "/home/me/.config/KZMUtilities/settings.json" ? 0 : 1);
-      },
-      testing::ExitedWithCode(0), "");
+ private:
+  void assign(const char* text) const {
+    if (text != nullptr) {
+      ::setenv(name_, text, 1);  // NOLINT(concurrency-mt-unsafe): tests have one thread here
+    } else {
+      ::unsetenv(name_);  // NOLINT(concurrency-mt-unsafe): tests have one thread here
+    }
+  }
+
+  const char* name_;
+  std::optional<std::string> former_;
+};
+
+TEST(Location, OfTheUserComesFromTheEnvironmentElseFromTheUserDatabase) {
+  const passwd* const user = ::getpwuid(::geteuid());  // NOLINT(concurrency-mt-unsafe): tests have one thread here
+  const std::string fromDatabase = user != nullptr ? fileUnder("", user->pw_dir) : "";
+  struct Case {
+    const char* why;
+    const char* configuration;
+    const char* home;
+    std::string file;
+  };
+  const Case cases[] = {
+      {"both", "/conf", "/home/me", "/conf/KZMUtilities/settings.json"},
+      {"no home", "/conf", nullptr, "/conf/KZMUtilities/settings.json"},
+      {"no directory for configurations", nullptr, "/home/me", "/home/me/.config/KZMUtilities/settings.json"},
+      {"nothing", nullptr, nullptr, fromDatabase},
+      {"nothing that can be used", "", "relative", fromDatabase},
+  };
+  for (const Case& row : cases) {
+    const WithVariable configuration("XDG_CONFIG_HOME", row.configuration);
+    const WithVariable home("HOME", row.home);
+    EXPECT_EQ(fileOfUser(), row.file) << row.why;
+  }
 }
 
 }  // namespace
