@@ -31,6 +31,11 @@ TEST(Memory, WhatIsMissingOrGarbageIsNotThere) {
   EXPECT_FALSE(memory.total || memory.available || memory.swapTotal || memory.swapFree);
 }
 
+TEST(Memory, IsAsLargeAsSixtyFourBitsSay) {
+  EXPECT_EQ(memoryOf("MemTotal: 18014398509481983 kB\n").total, 18446744073709550592U);
+  EXPECT_FALSE(memoryOf("MemTotal: 18014398509481984 kB\n").total.has_value());
+}
+
 TEST(Memory, NoPartIsLargerThanTheWhole) {
   const Memory memory = memoryOf("MemTotal: 10 kB\nMemAvailable: 11 kB\nSwapTotal: 0 kB\nSwapFree: 5 kB\n");
   EXPECT_EQ(memory.available, 10240U);

@@ -137,9 +137,13 @@ TEST_F(Sensors, LightIsReadFinishedOrRaw) {
                                              {"in_illuminance0_scale", "0.5\n"}});
   record("sys/bus/iio/devices/iio:device2", {{"name", "accel\n"}, {"in_accel_x_raw", "5\n"}});
   record("sys/bus/iio/devices/iio:device3", {{"in_illuminance_raw", "-5\n"}});
+  record("sys/bus/iio/devices/iio:device4", {{"in_illuminance_raw", "0\n"}});
+  record("sys/bus/iio/devices/iio:device5", {{"in_illuminance_raw", "7\n"}});
   expectReadings(readLight(root_), {
                                        {Kind::light, 120.5, "als", "Ambient light"},
                                        {Kind::light, 21, "als2", "Ambient light"},
+                                       {Kind::light, 0, "", "Ambient light"},
+                                       {Kind::light, 7, "", "Ambient light"},
                                    });
 }
 
@@ -157,8 +161,14 @@ TEST_F(Sensors, OfBatteriesGiveLevelAndChargeFromChargeOrEnergy) {
                                          {"energy_full_design", "57000000\n"},
                                          {"voltage_min_design", "11400000\n"}});
   record("sys/class/power_supply/BAT2", {{"type", "Battery\n"}, {"energy_now", "1\n"}, {"voltage_now", "0\n"}});
+  record("sys/class/power_supply/BAT3", {{"type", "Battery\n"},
+                                         {"capacity", "-1\n"},
+                                         {"charge_now", "0\n"},
+                                         {"charge_full", "-1\n"},
+                                         {"energy_full_design", "2\n"},
+                                         {"voltage_now", "1\n"}});
   const std::vector<Battery> batteries = readBatteries(root_);
-  ASSERT_EQ(batteries.size(), 2U);
+  ASSERT_EQ(batteries.size(), 3U);
   EXPECT_EQ(batteries[0].status, "Discharging");
   EXPECT_EQ(batteries[1].status, "");
   expectReadings(batteries[0].readings, {
@@ -170,6 +180,11 @@ TEST_F(Sensors, OfBatteriesGiveLevelAndChargeFromChargeOrEnergy) {
                                             {Kind::percentage, 1, "BAT1", "Level"},
                                             {Kind::capacity, 2000, "BAT1", "Charge"},
                                             {Kind::capacity, 5000, "BAT1", "Design charge"},
+                                        });
+  expectReadings(batteries[2].readings, {
+                                            {Kind::percentage, 0, "BAT3", "Level"},
+                                            {Kind::capacity, 0, "BAT3", "Charge"},
+                                            {Kind::capacity, 2000, "BAT3", "Design charge"},
                                         });
 }
 

@@ -1,5 +1,6 @@
 #include "machine/volumes.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
@@ -25,6 +26,10 @@ struct Machine {
       if (directory == "/broken") return std::nullopt;
       if (directory == "/empty") return Space{0, 0, 0};
       if (directory == "/garbage") return Space{10, 11, 5};
+      if (directory == "/freer") return Space{10, 5, 11};
+      if (directory == "/full") return Space{10, 10, 0};
+      if (directory == "/free") return Space{10, 0, 10};
+      if (directory == "/tiny") return Space{1, 0, 1};
       return Space{100, 60, 30};
     };
     for (const Volume& volume : readVolumes(Root(scratch.path("")), spaceOf)) names.push_back(volume.name);
@@ -73,8 +78,20 @@ TEST(Volumes, AMountHidesTheOneBelow) {
 TEST(Volumes, WhatCannotBeMeasuredIsLeftOut) {
   Machine machine;
   EXPECT_EQ(machine.namesOf("/dev/a /broken ext4 rw 0 0\n/dev/b /empty ext4 rw 0 0\n/dev/c /garbage ext4 rw 0 0\n"
-                            "/dev/a /works ext4 rw 0 0\n"),
+                            "/dev/d /freer ext4 rw 0 0\n/dev/a /works ext4 rw 0 0\n"),
             (Names{"/works"}));
+}
+
+TEST(Volumes, AreMeasuredToTheLastByte) {
+  Machine machine;
+  EXPECT_EQ(machine.namesOf("/dev/a /full ext4 rw 0 0\n/dev/b /free ext4 rw 0 0\n/dev/c /tiny ext4 rw 0 0\n"),
+            (Names{"/full", "/free", "/tiny"}));
+}
+
+TEST(Volumes, EveryEscapedByteIsRead) {
+  Machine machine;
+  EXPECT_EQ(machine.namesOf("/dev/a /\\101\\077\\100 ext4\n/dev/b /\\303\\274 ext4\n/dev/c /\\400\\080 ext4\n"),
+            (Names{"/\u00fc", "/A?@", "/\\400\\080"}));
 }
 
 TEST(Volumes, OddLinesAndEscapesDoNoHarm) {
@@ -85,12 +102,29 @@ TEST(Volumes, OddLinesAndEscapesDoNoHarm) {
   EXPECT_EQ(machine.asked.back(), "/e\x1b[2J") << "it is measured under its own name";
 }
 
+// Others write at the same time, so a measurement counts that nothing was written around.
+TEST(Volumes, MeasuringGivesWhatIsUsedAndWhatIsFree) {
+  const tests::ScratchDirectory scratch;
+  for (int attempt = 0; attempt < 1000; ++attempt) {
+    const auto before = std::filesystem::space(scratch.path(""));
+    const std::optional<Space> space = measuredSpace(scratch.path(""));
+    const auto after = std::filesystem::space(scratch.path(""));
+    if (before.free != after.free || before.available != after.available) continue;
+    ASSERT_TRUE(space.has_value());
+    EXPECT_EQ(space->used, before.capacity - before.free);
+    EXPECT_EQ(space->free, before.available);
+    return;
+  }
+  GTEST_SKIP() << "something writes all the time";
+}
+
 TEST(Volumes, MeasuringGivesRoomThatAddsUp) {
   const tests::ScratchDirectory scratch;
   const std::optional<Space> space = measuredSpace(scratch.path(""));
   ASSERT_TRUE(space.has_value());
   EXPECT_GT(space->total, 0U);
   EXPECT_LE(space->used + space->free, space->total);
+  EXPECT_EQ(space->total, std::filesystem::space(scratch.path("")).capacity);
   EXPECT_FALSE(measuredSpace(scratch.path("missing")).has_value());
   EXPECT_FALSE(measuredSpace(scratch.write("file", "")).has_value()) << "a file that is mounted over is no volume";
 }
