@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "port/canonical_locale.h"
+
 namespace kzm::port {
 namespace {
 
@@ -96,6 +98,7 @@ const NameCase kNames[] = {
     {"not ASCII", "d\xC3\xA9_FR", "en_001"},
     {"not even UTF-8", "\xFF\xFE", "en_001"},
     {"percent directives", "%s%n", "en_001"},
+    {"the longest subtag", "de_DE_abcdefgh", "de_DE_ABCDEFGH"},
     {"over-long subtag", "de_DE_abcdefghi", "en_001"},
 };
 
@@ -108,6 +111,13 @@ TEST(EnvironmentLocale, OverlongNamesAndNullCharactersAreMalformed) {
   EXPECT_EQ(usableLocale(std::string(100000, 'd')), "en_001");
   EXPECT_EQ(usableLocale("de" + std::string(200, '_')), "en_001");
   EXPECT_EQ(usableLocale("de@numbers=" + std::string(300, 'a')), "en_001");
+}
+
+TEST(EnvironmentLocale, NamesMayBeAsLongAsAnIdentifier) {
+  const std::string name = "de_DE@currency=";
+  const std::string longest = name + std::string(kLongestIdentifier - name.size(), 'a');
+  EXPECT_EQ(localeIdentifier(longest).substr(0, 5), "de_DE");
+  EXPECT_EQ(localeIdentifier(longest + "a"), "");
 }
 
 TEST(EnvironmentLocale, IdentifiersNeedNoData) {

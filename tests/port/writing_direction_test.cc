@@ -29,6 +29,7 @@ TEST(WritingDirection, IsThatOfTheFirstLetter) {
       {"left-to-right mark",          "\u200E42",                    Letter::none,        true,  false},
       {"right-to-left mark",          "\u200F42 GB",                 Letter::leftToRight, true,  false},
       {"Arabic letter mark",          "\u061C٤٢ م",                  Letter::rightToLeft, true,  true},
+      {"one mark after another",      "\u200F\u200E42 م",            Letter::rightToLeft, true,  false},
       {"what comes after the letter", "a\u200F٤",                    Letter::leftToRight, false, false},
       {"the last byte looked at",     std::string(1023, ' ') + "a",  Letter::leftToRight, false, false},
       {"one byte too far",            std::string(1024, ' ') + "a",  Letter::none,        false, false},
