@@ -172,6 +172,13 @@ TEST(MatchForExpression, GivesUpAfterItsTime) {
   EXPECT_EQ(matchForExpression(longest, "(a*)\\1b"), std::nullopt) << "back-references in all that is searched";
 }
 
+TEST(MatchForExpression, TheBoundsAreThese) {
+  EXPECT_EQ(port::kLongestText, 1073741824U);
+  EXPECT_EQ(port::kLongestTextForBackReference, 16384U);
+  EXPECT_EQ(port::kLongestPattern, 65536U);
+  EXPECT_EQ(port::kAlwaysCompiled, 2048U);
+}
+
 std::string repeated(std::string_view text, std::size_t count) {
   std::string all;
   for (std::size_t i = 0; i < count; ++i) all += text;
