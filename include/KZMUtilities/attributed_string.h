@@ -93,18 +93,24 @@ class AttributedString::Runs {
     using difference_type = std::ptrdiff_t;
     using reference = Run;
 
+    Iterator() = default;
     [[nodiscard]] Run operator*() const { return (*runs_)[index_]; }
     Iterator& operator++() {
       ++index_;
       return *this;
+    }
+    Iterator operator++(int) {
+      const Iterator before = *this;
+      ++index_;
+      return before;
     }
     [[nodiscard]] bool operator==(const Iterator& other) const { return index_ == other.index_; }
 
    private:
     friend class Runs;
     Iterator(const Runs& runs, std::size_t index) : runs_(&runs), index_(index) {}
-    const Runs* runs_;
-    std::size_t index_;
+    const Runs* runs_ = nullptr;
+    std::size_t index_ = 0;
   };
 
   [[nodiscard]] std::size_t size() const noexcept { return text_->parts_.size(); }

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <iterator>
 #include <limits>
 #include <string>
 #include <vector>
@@ -17,6 +18,8 @@ AttributedString sample() {
   text.append(AttributedString(" Mb/s", "gray"));
   return text;
 }
+
+static_assert(std::input_iterator<AttributedString::Runs::Iterator>, "algorithms take the runs");
 
 TEST(AttributedString, ReplacesRangesAndKeepsTheRest) {
   constexpr std::size_t kEnd = std::numeric_limits<std::size_t>::max();
