@@ -175,8 +175,8 @@ constexpr Callable kCallables[] = {
 std::span<const Callable> callables() { return kCallables; }
 
 const Callable& callableNamed(std::string_view name, std::size_t arguments) {
-  const auto callable = std::find_if(std::begin(kCallables), std::end(kCallables),
-                                     [name](const Callable& candidate) { return candidate.name == name; });
+  const auto callable =
+      std::ranges::find_if(kCallables, [name](const Callable& candidate) { return candidate.name == name; });
   if (callable == std::end(kCallables)) throw InputError("no function is named \"" + std::string(name) + "\"");
   if (arguments != callable->kinds.size()) {
     throw InputError("wrong number of arguments (" + std::to_string(arguments) + ") for " + described(*callable));

@@ -52,7 +52,7 @@ std::optional<SensorReading> readSensor(const std::string& chip, const SensorRow
 
 // A chip may give the power of one sensor both at present and on average: the first row wins.
 bool holds(const std::vector<std::string>& files, const std::string& file) {
-  return std::find(files.begin(), files.end(), file) != files.end();
+  return std::ranges::find(files, file) != files.end();
 }
 
 void addReadings(const std::string& chip, const SensorRow& row, std::vector<SensorReading>& readings) {

@@ -36,7 +36,7 @@ bool isPartitionOf(std::string_view name, std::string_view disk) {
     if (!number.starts_with('p')) return false;
     number.remove_prefix(1);
   }
-  return !number.empty() && std::all_of(number.begin(), number.end(), port::isDigit);
+  return !number.empty() && std::ranges::all_of(number, port::isDigit);
 }
 
 std::optional<std::uint64_t> bytesIn(std::string_view sectors) {
@@ -67,7 +67,7 @@ void addFromTable(Sample& sample, const std::string& text) {
     const std::vector<std::string_view> fields = fieldsOf(line);
     if (fields.size() <= 3) continue;
     const bool isPart =
-        std::any_of(names.begin(), names.end(), [&](std::string_view disk) { return isPartitionOf(fields[2], disk); });
+        std::ranges::any_of(names, [&](std::string_view disk) { return isPartitionOf(fields[2], disk); });
     if (!isPart) add(sample, fields[2], fields, 3);
   }
 }

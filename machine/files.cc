@@ -58,8 +58,8 @@ std::vector<std::string> namesIn(const std::string& directory) {
        entry != nullptr && names.size() < kMostNames; entry = readdir(opened.get())) {  // NOLINT(concurrency-mt-unsafe)
     if (entry->d_name[0] != '.') names.emplace_back(entry->d_name);
   }
-  std::sort(names.begin(), names.end(),
-            [](const std::string& a, const std::string& b) { return strverscmp(a.c_str(), b.c_str()) < 0; });
+  std::ranges::sort(names,
+                    [](const std::string& a, const std::string& b) { return strverscmp(a.c_str(), b.c_str()) < 0; });
   return names;
 }
 

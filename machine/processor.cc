@@ -56,8 +56,8 @@ std::vector<ProcessorLoad> loadBetween(const std::vector<ProcessorTime>& earlier
                                        const std::vector<ProcessorTime>& later) {
   std::vector<ProcessorLoad> loads;
   for (const ProcessorTime& time : later) {
-    const auto before = std::find_if(earlier.begin(), earlier.end(),
-                                     [&time](const ProcessorTime& other) { return other.name == time.name; });
+    const auto before =
+        std::ranges::find_if(earlier, [&time](const ProcessorTime& other) { return other.name == time.name; });
     loads.push_back({time.name, before != earlier.end() ? busyBetween(*before, time) : std::nullopt});
   }
   return loads;

@@ -32,7 +32,7 @@ struct Mount {
 
 template <std::size_t n>
 bool isOneOf(const std::string_view (&types)[n], std::string_view type) {
-  return std::find(std::begin(types), std::end(types), type) != std::end(types);
+  return std::ranges::find(types, type) != std::end(types);
 }
 
 bool isLocal(const Mount& mount) {
@@ -46,7 +46,7 @@ std::string unescaped(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const std::string_view code = text.substr(i + 1, 3);
-    if (text[i] == '\\' && code.size() == 3 && code[0] <= '3' && std::all_of(code.begin(), code.end(), isOctal)) {
+    if (text[i] == '\\' && code.size() == 3 && code[0] <= '3' && std::ranges::all_of(code, isOctal)) {
       plain += static_cast<char>((code[0] - '0') * 64 + (code[1] - '0') * 8 + (code[2] - '0'));
       i += 3;
     } else {
@@ -97,7 +97,7 @@ std::vector<Volume> readVolumes(const Root& root, const SpaceOf& spaceOf) {
   std::vector<Volume> volumes;
   std::vector<std::string> devices;
   for (const Mount& mount : withoutRemote(mountsIn(readText(root.at("proc/self/mounts"))))) {
-    if (std::find(devices.begin(), devices.end(), mount.device) != devices.end()) continue;
+    if (std::ranges::find(devices, mount.device) != devices.end()) continue;
     const std::optional<Space> space = spaceOf(mount.point);
     if (!space || !isSane(*space)) continue;
     devices.push_back(mount.device);

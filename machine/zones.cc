@@ -17,7 +17,7 @@ std::string chipOf(std::string type) {
 }
 
 bool hasTemperature(const std::vector<SensorReading>& chips, const std::string& chip) {
-  return std::any_of(chips.begin(), chips.end(), [&chip](const SensorReading& reading) {
+  return std::ranges::any_of(chips, [&chip](const SensorReading& reading) {
     return reading.kind == Kind::temperature && reading.source == chip;
   });
 }

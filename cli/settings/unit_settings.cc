@@ -98,7 +98,7 @@ std::int64_t codeInForce(const ListedSetting& setting) {
   // the region decides.
   const MeasurementUnit unit = unitInRegionOf(setting, MeasurementUnit::knots);
   if (unit != unitInRegionOf(setting, MeasurementUnit::kelvin)) return kRegionsChoice;
-  return std::find(setting.meanings.begin(), setting.meanings.end(), unit) - setting.meanings.begin() + 1;
+  return std::ranges::find(setting.meanings, unit) - setting.meanings.begin() + 1;
 }
 
 }  // namespace kzm::cli

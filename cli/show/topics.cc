@@ -38,7 +38,7 @@ void readBatteries(const Root& root, Snapshot& snapshot) { snapshot.batteries = 
 
 bool isChosen(const Activity& activity, const RowChoice& choice) {
   if (choice.interfaces.empty()) return choice.all || activity.wasUsed;
-  return std::find(choice.interfaces.begin(), choice.interfaces.end(), activity.rate.name) != choice.interfaces.end();
+  return std::ranges::find(choice.interfaces, activity.rate.name) != choice.interfaces.end();
 }
 
 Items networkItems(const Snapshot& snapshot, const RowChoice& choice) {
