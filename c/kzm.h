@@ -10,9 +10,9 @@
  *              {"text": "1.5 MB", "runs": [{"text": "1.5", "attributes": ...}, ...]}. No JSON depends on the locale.
  * Time points  are seconds since 1970-01-01 00:00:00 UTC. NaN is none, as argument and as result.
  * Truth        is an int: 1 or 0.
- * Errors       Nothing throws and nothing ends the process. An argument that cannot be read gives NULL, NaN or 0, and
- *              kzm_last_error says why. NULL and NaN are also what a call gives that has nothing to say; then
- *              kzm_last_error gives NULL.
+ * Errors       Nothing throws, and no code of this library ends the process. An argument that cannot be read gives
+ *              NULL, NaN or 0, and kzm_last_error says why. NULL and NaN are also what a call gives that has nothing to
+ *              say; then kzm_last_error gives NULL.
  * Threads      Every function may be called from any thread at any time.
  * Languages    Numbers, units and texts follow the environment (LC_ALL, LC_NUMERIC, LC_MEASUREMENT, LC_MESSAGES,
  *              LANGUAGE, LANG), or what a host chooses with kzm_set_locale before the first text.

@@ -150,7 +150,8 @@ TimePoint dateFromComponents(CalendarUnits units) {
   return today.has_value() ? Selection(*today, units).timePoint() : std::nullopt;
 }
 
-// Deliberate: timeIntervalFromComponents is 0 where there is no date (DateFromComponents.NoDateWhereNowHasNone).
+// Deliberate: the call timeIntervalFromComponents gives 0 where there is no date
+// (DateFromComponents.NoDateWhereNowHasNone).
 double timeIntervalFromComponents(CalendarUnits units) { return dateFromComponents(units).value_or(0.0); }
 
 }  // namespace kzm

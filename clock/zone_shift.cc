@@ -19,8 +19,8 @@ TimePoint exchangeOffsets(TimePoint t, TimeZone removed, TimeZone added) {
 
 }  // namespace
 
-// Deliberate: corrected reads the default zone, while converToTimezone and converFromTimezone read the system zone
-// (ZoneShift.CorrectedReadsAsTheLocalClockOfTheDefaultZone, ZoneShiftDeathTest.ConversionsUseTheSystemZone).
+// Deliberate: the call corrected reads the default zone, while converToTimezone and converFromTimezone read the system
+// zone (ZoneShift.CorrectedReadsAsTheLocalClockOfTheDefaultZone, ZoneShiftDeathTest.ConversionsUseTheSystemZone).
 TimePoint corrected(TimePoint t) {
   if (!clock::supported(t).has_value()) return std::nullopt;
   return clock::supported(*t + offsetAt(*t, TimeZone::defaultZone()));

@@ -13,7 +13,7 @@ static_assert(kFiveNinths == 5.0 / 9.0);
 
 }  // namespace
 
-// Deliberate: fahrenheitToCelcius multiplies by other five ninths than celciusToFahrenheit divides by
+// Deliberate: the call fahrenheitToCelcius multiplies by other five ninths than celciusToFahrenheit divides by
 // (Conversions.FahrenheitAndBackIsNotTheSame).
 double celciusToFahrenheit(double celsius) noexcept { return celsius / kFiveNinthsInSinglePrecision + 32.0; }
 double fahrenheitToCelcius(double fahrenheit) noexcept { return (fahrenheit - 32.0) * kFiveNinths; }
@@ -24,7 +24,7 @@ double inchToCm(double inches) noexcept { return inches * 2.54; }
 double cmToInch(double centimeters) noexcept { return centimeters * 0.3937; }
 double inchToMm(double inches) noexcept { return inches * 25.4; }
 double mmToInch(double millimeters) noexcept { return millimeters * 0.03937; }
-// Deliberate: mmToCm divides, which is not the multiplication by the rounded reciprocal
+// Deliberate: the call mmToCm divides, which is not the multiplication by the rounded reciprocal
 // (Conversions.MmToCmDividesByTenInsteadOfMultiplyingByATenth).
 double mmToCm(double millimeters) noexcept { return millimeters / 10.0; }
 double cmToMm(double centimeters) noexcept { return centimeters * 10.0; }
@@ -37,7 +37,7 @@ double mpsToMph(double metersPerSecond) noexcept { return metersPerSecond * 2.23
 double mphToMps(double milesPerHour) noexcept { return milesPerHour * 0.44704; }
 double mpsToKnots(double metersPerSecond) noexcept { return metersPerSecond * 1.94384; }
 
-// Deliberate: inchToMillibar divides, too (Conversions.InchToMillibarDivides).
+// Deliberate: the call inchToMillibar divides, too (Conversions.InchToMillibarDivides).
 double inchToMillibar(double inchesOfMercury) noexcept {
   return inchesOfMercury / kzm::units::kInchesOfMercuryInAMillibar;
 }

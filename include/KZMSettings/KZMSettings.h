@@ -5,8 +5,9 @@
 // user's configuration directory (XDG_CONFIG_HOME, else ~/.config). A missing, broken or unreadable file means that
 // there are no settings; a broken or unreadable one is reported in one line on standard error.
 //
-// Every function may be called from any thread at any time, also while a thread or the process ends. A read takes no
-// lock unless the settings changed since the thread's last one, and reading a number does not allocate.
+// Every function may be called from any thread at any time, also while a thread or the process ends. A read waits
+// for no other thread unless the settings changed since the thread's last one, and reading a number does not allocate.
+// A few times a second one read looks whether the file is another, and waits for the disk.
 #ifndef KZMSETTINGS_H
 #define KZMSETTINGS_H
 
@@ -37,8 +38,8 @@
 /// All settings, key path to value.
 ///
 /// Example:
-///   KZMSettingsUseObjects({{"Weather.Global.Units.Pressure", 2}, {"Weather.Global.Units.Rain", 1}});
-///   KZMSettingsObjects().contains("Weather.Global.Units.Rain")  // true
+///   KZMSettingsUseObjects({{"Weather.Global.Units.Pressure", 2}, {"Weather.Global.Units.Precipitation", 1}});
+///   KZMSettingsObjects().contains("Weather.Global.Units.Precipitation")  // true
 [[nodiscard]] KZM_EXPORT kzm::Dictionary KZMSettingsObjects();
 
 /// From now on the settings are exactly these, held in memory: the stored ones are neither read nor written any more.

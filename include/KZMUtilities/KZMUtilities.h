@@ -1,8 +1,9 @@
 // The whole library in one include.
 //
 // "Never fails" in these headers means: every number has an answer, NaN and the infinities too, and so has every
-// Dictionary of options. The one exception, for every call that is not noexcept, is memory that runs out: then
-// std::bad_alloc is thrown, nothing is half-made, and the next call is right.
+// Dictionary of options. The one exception, for every call that is not noexcept, is memory that runs out: where this
+// library asked for it, std::bad_alloc is thrown, nothing is half-made, and the next call is right. What ICU and GLib
+// do then is in docs/reliability.md.
 #ifndef KZMUTILITIES_KZMUTILITIES_H
 #define KZMUTILITIES_KZMUTILITIES_H
 

@@ -39,7 +39,8 @@
 [[nodiscard]] KZM_EXPORT kzm::Dictionary KZMUtilitiesBandwidthData(const kzm::Dictionary& options,
                                                                    double bytesPerSecond);
 
-/// Renders a throughput with exactly the decimals that the rules give.
+/// Renders a throughput with exactly the decimals that the rules give. The options are those of the
+/// data call above.
 ///
 /// Example (English):
 ///   KZMUtilitiesFormatBandwidth({{"bandwidthformat", 2}, {"space", true}}, 1500000.0)  // "11 Mb/s"
@@ -75,7 +76,8 @@
 [[nodiscard]] KZM_EXPORT kzm::Dictionary KZMUtilitiesDiskActivityData(const kzm::Dictionary& options,
                                                                       double bytesPerSecond);
 
-/// Renders a disk's rate with exactly the decimals that the rules give.
+/// Renders a disk's rate with exactly the decimals that the rules give. The options are those of the
+/// data call above.
 ///
 /// Example (English):
 ///   KZMUtilitiesFormatDiskActivity({{"space", true}}, 3145728.0)  // "3 MB/s"
@@ -107,7 +109,8 @@
 ///   *KZMUtilitiesSpaceData({}, 250000000000.0).find("value")  // 250.0
 [[nodiscard]] KZM_EXPORT kzm::Dictionary KZMUtilitiesSpaceData(const kzm::Dictionary& options, double bytes);
 
-/// Renders a size with at most the decimals that the rules give; zeros at the end are dropped.
+/// Renders a size with at most the decimals that the rules give; zeros at the end are dropped. The options are those of
+/// the data call above.
 ///
 /// Example (English):
 ///   KZMUtilitiesFormatSpace({{"space", true}}, 250000000000.0)  // "250 GB"
@@ -133,7 +136,8 @@
 ///   *KZMUtilitiesMemoryData({{"space", true}}, 1073741824.0).find("format")  // "%@ GB"
 [[nodiscard]] KZM_EXPORT kzm::Dictionary KZMUtilitiesMemoryData(const kzm::Dictionary& options, double bytes);
 
-/// Renders a memory size with exactly the decimals that the rules give.
+/// Renders a memory size with exactly the decimals that the rules give. The options are those of the
+/// data call above.
 ///
 /// Example (English):
 ///   KZMUtilitiesFormatMemory({{"space", true}}, 1073741824.0)  // "1 GB"

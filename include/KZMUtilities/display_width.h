@@ -12,7 +12,7 @@
 namespace kzm {
 
 /// The columns that the UTF-8 text takes: none for marks that join the letter before and for marks of direction, two
-/// for ideographs, else one.
+/// for wide ones (ideographs, kana, Hangul, emoji), else one. Control characters and bytes that are no UTF-8 take one.
 ///
 /// Example:
 ///   displayWidth("℃ 東京")  // 6

@@ -72,8 +72,8 @@ struct DecimalsRule {
   std::int64_t decimals;
 };
 
-/// What the options "decimals-kb" and its like hold. The first rule whose bound is above the number counts; a number
-/// above all bounds has no fraction digits.
+/// What the options "decimals-kb" and its like hold. The first rule whose bound is above the number counts; above
+/// all bounds sizes and rates have no fraction digits, sensors those that they have without rules.
 ///
 /// Example (English): three digits, whatever the size
 ///   const Options options{{"decimals-mb", decimalsRules({{10.0, 2}, {100.0, 1}})}};

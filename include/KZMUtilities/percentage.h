@@ -9,6 +9,7 @@
 #include <string>
 
 #include <KZMUtilities/attributed_string.h>
+#include <KZMUtilities/dictionary.h>
 #include <KZMUtilities/export.h>
 
 /// A percentage as text, such as "42%". The value is in percent already: 0.5 is half a percent.

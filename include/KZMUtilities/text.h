@@ -45,9 +45,9 @@ KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::s
 
 /// The text between a first-strong isolate, U+2068, and its end, U+2069, so that it keeps its own order in a line of
 /// any direction, and does not change that of its neighbors. Where the sign of a number or its digits would mislead
-/// that, an isolate of the right direction, U+2066 or U+2067: a unit does not change sides when its number becomes
-/// negative. To be used for each reading and each name that goes into a longer line: in Arabic, Hebrew, Persian and
-/// Urdu "19.7 GB / 83.1 GB" would be seen as "GB / 83.1 GB 19.7".
+/// that, an isolate of one direction, U+2066 (left to right) or U+2067: a unit does not change sides when its number
+/// becomes negative. To be used for each reading and each name that goes into a longer line: in Arabic, Hebrew, Persian
+/// and Urdu "19.7 GB / 83.1 GB" would be seen as "GB / 83.1 GB 19.7".
 ///
 /// Isolates of the text that are open get their ends, and ends without a beginning get one. An empty text stays as it
 /// is, and so does one that is isolated as a whole. Not needed are isolates in a line whose direction and whose texts

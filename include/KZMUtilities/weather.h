@@ -123,7 +123,8 @@
 ///   KZMUtilitiesFormatWeatherAltitude({{"decimals", 1}}, 41.26)  // "41.3°"
 [[nodiscard]] KZM_EXPORT std::string KZMUtilitiesFormatWeatherAltitude(const kzm::Dictionary& options, double degrees);
 
-/// An angle along the horizon, shown as KZMUtilitiesFormatWeatherAltitude does; it is not reduced to one turn.
+/// An angle along the horizon, shown as KZMUtilitiesFormatWeatherAltitude does; it is not reduced to one turn. The
+/// options are the same.
 ///
 /// Example (English):
 ///   KZMUtilitiesFormatWeatherAzimuth({}, 725.0)  // "725°"
