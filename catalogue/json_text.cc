@@ -12,7 +12,9 @@ namespace {
 
 // Most texts are ASCII that needs no escape.
 bool isPlain(std::string_view string) {
-  return std::ranges::all_of(string, [](char c) { return c >= ' ' && c != '"' && c != '\\' && c != '\x7f'; });
+  // Not the one of std::ranges, which looks at one character a step instead of four.
+  return std::all_of(string.begin(), string.end(),
+                     [](char c) { return c >= ' ' && c != '"' && c != '\\' && c != '\x7f'; });
 }
 
 void appendInteger(std::string& text, std::int64_t integer) {
