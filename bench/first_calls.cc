@@ -53,8 +53,7 @@ void measureFirstCalls(const char* program) {
     const std::string command = std::string("'") + program + "' --first " + std::to_string(number);
     std::vector<double> times(kProcesses);
     for (double& time : times) time = microsecondsIn(command);
-    std::nth_element(times.begin(), times.begin() + kProcesses / 2, times.end());
-    printRow(kFirstCalls[number].name, times[kProcesses / 2] / 1e3, atMost(1.0));
+    printRow(kFirstCalls[number].name, middleOf(times) / 1e3, atMost(1.0));
   }
 }
 

@@ -1,6 +1,4 @@
 // The program from outside: how long it takes to start and end, and to format what comes in.
-#include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstdio>
 #include <fcntl.h>
@@ -12,6 +10,7 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include "bench/parts.h"
@@ -51,17 +50,15 @@ std::optional<Spent> spentBy(std::vector<std::string> words, const char* input) 
 }
 
 // The middle one of several runs.
-std::optional<double> middleOf(std::size_t runs, double Spent::*time, const std::vector<std::string>& words,
-                               const char* input) {
+std::optional<double> middleTimeOf(std::size_t runs, double Spent::*time, const std::vector<std::string>& words,
+                                   const char* input) {
   std::vector<double> times;
   while (times.size() < runs) {
     const std::optional<Spent> spent = spentBy(words, input);
     if (!spent) return {};
     times.push_back((*spent).*time);
   }
-  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(runs / 2);
-  std::nth_element(times.begin(), middle, times.end());
-  return *middle;
+  return middleOf(std::move(times));
 }
 
 // A million numbers of bytes, one on each line, in a file that is gone at the end.
@@ -92,15 +89,15 @@ void measurePrograms(const char* program) {
   const std::string kzmutil = std::filesystem::path(program).replace_filename("kzmutil");
   constexpr std::size_t kStarts = 101;
   printHeading("A program from start to exit", "ms");
-  const auto start = middleOf(kStarts, &Spent::wall, {kzmutil, "format", "memory", "1024"}, "/dev/null");
+  const auto start = middleTimeOf(kStarts, &Spent::wall, {kzmutil, "format", "memory", "1024"}, "/dev/null");
   if (start) printRow("kzmutil format", *start, atMost(2.5));
-  if (const auto least = middleOf(kStarts, &Spent::wall, {"true"}, "/dev/null")) printRow("true", *least);
+  if (const auto least = middleTimeOf(kStarts, &Spent::wall, {"true"}, "/dev/null")) printRow("true", *least);
 
   constexpr std::size_t kPasses = 5;
   const Lines lines;
   printHeading("A million lines", "x numfmt");
-  const auto ours = middleOf(kPasses, &Spent::processor, {kzmutil, "format", "memory"}, lines.path());
-  const auto theirs = middleOf(kPasses, &Spent::processor, {"numfmt", "--to=iec"}, lines.path());
+  const auto ours = middleTimeOf(kPasses, &Spent::processor, {kzmutil, "format", "memory"}, lines.path());
+  const auto theirs = middleTimeOf(kPasses, &Spent::processor, {"numfmt", "--to=iec"}, lines.path());
   if (ours && theirs) printRow("kzmutil format memory", *ours / *theirs, atMost(1.0));
 }
 

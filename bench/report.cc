@@ -1,6 +1,9 @@
 #include "bench/report.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
+#include <vector>
 
 namespace kzm::bench {
 namespace {
@@ -38,6 +41,12 @@ void printRow(std::string_view what, double measured, Reach reach, std::string_v
                 within ? "within" : "NOT");
   }
   std::printf(" %.*s\n", length(remark), remark.data());
+}
+
+double middleOf(std::vector<double> measures) {
+  const auto middle = measures.begin() + static_cast<std::ptrdiff_t>(measures.size() / 2);
+  std::ranges::nth_element(measures, middle);
+  return *middle;
 }
 
 int rowsOutOfReach() { return outOfReach; }

@@ -3,6 +3,7 @@
 #define KZM_BENCH_REPORT_H
 
 #include <string_view>
+#include <vector>
 
 namespace kzm::bench {
 
@@ -20,6 +21,9 @@ struct Reach {
 void printHeading(std::string_view what, std::string_view unit);
 /// One row of it.
 void printRow(std::string_view what, double measured, Reach reach = {}, std::string_view remark = {});
+
+/// The middle one of several measures.
+[[nodiscard]] double middleOf(std::vector<double> measures);
 
 /// How many rows were out of reach so far.
 [[nodiscard]] int rowsOutOfReach();

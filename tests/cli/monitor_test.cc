@@ -7,6 +7,7 @@
 
 #include "tests/cli/program.h"
 #include "tests/cli/terminal.h"
+#include "tests/support/kernel_files.h"
 
 namespace kzm::tests {
 namespace {
@@ -124,7 +125,7 @@ struct DressCase {
 };
 
 TEST_F(OnTerminal, ColorsAreTheUsersChoice) {
-  if (::access("/proc/stat", R_OK) != 0) GTEST_SKIP() << "left out: there is no load to color, as /proc is not mounted";
+  if (!kernelFilesAreThere()) GTEST_SKIP() << "left out: there is no load to color, as /proc is not mounted";
   const DressCase cases[] = {
       {{"load", "--count", "1"}, {}, true, true},
       {{"load", "--count", "1"}, {"NO_COLOR=1"}, false, true},

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <fcntl.h>
 #include <functional>
+#include <optional>
 #include <poll.h>
 #include <stdexcept>
 #include <string>
@@ -25,22 +26,24 @@ inline std::ptrdiff_t openDescriptors() {
   return count;
 }
 
-/// Whether this process has any child, running or not yet collected.
-inline bool hasChildren() {
+/// What there is to know of a child, or of any one: nothing when there is none that runs or is not collected yet. One
+/// that runs has the identifier 0.
+inline std::optional<siginfo_t> lookAtChild(idtype_t which, int process) {
   siginfo_t info{};
-  return ::waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
+  if (::waitid(which, static_cast<id_t>(process), &info, WEXITED | WNOHANG | WNOWAIT) != 0) return std::nullopt;
+  return info;
 }
 
+/// Whether this process has any child, running or not yet collected.
+inline bool hasChildren() { return lookAtChild(P_ALL, 0).has_value(); }
+
 /// Whether it is a child of this process that runs or is not collected yet.
-inline bool isChild(int process) {
-  siginfo_t info{};
-  return ::waitid(P_PID, static_cast<id_t>(process), &info, WEXITED | WNOHANG | WNOWAIT) == 0;
-}
+inline bool isChild(int process) { return lookAtChild(P_PID, process).has_value(); }
 
 /// Whether it is a child of this process that has ended and is not collected yet.
 inline bool isZombie(int process) {
-  siginfo_t info{};
-  return ::waitid(P_PID, static_cast<id_t>(process), &info, WEXITED | WNOHANG | WNOWAIT) == 0 && info.si_pid == process;
+  const std::optional<siginfo_t> info = lookAtChild(P_PID, process);
+  return info && info->si_pid == process;
 }
 
 /// Waits until the process has ended, and leaves it to its parent to notice.
