@@ -24,25 +24,42 @@ NumberStyle plainStyle() noexcept {
 // Writes digits of any script, with separators, from the last one to the first.
 void ShortNumber::putLocalDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits,
                                  int fractionDigits, int separators, char* end) noexcept {
+  const auto putBefore = [&](const std::string& text) {
+    end -= text.size();
+    putText(end, text);
+  };
   const auto putDigit = [&] {
-    end -= symbols.digitBytes;
-    std::memcpy(end, symbols.digits[digits % 10].data(), symbols.digitBytes);
+    putBefore(symbols.digits[digits % 10]);
     digits /= 10;
   };
-  const auto putSeparator = [&](const std::string& separator) {
-    end -= separator.size();
-    putText(end, separator);
-  };
   for (int i = 0; i < fractionDigits; ++i) putDigit();
-  if (fractionDigits > 0) putSeparator(symbols.decimalSeparator);
+  if (fractionDigits > 0) putBefore(symbols.decimalSeparator);
   int left = integerDigits;
   int group = symbols.primaryGroup;
   for (; separators > 0; --separators, group = symbols.secondaryGroup) {
     for (int i = 0; i < group; ++i) putDigit();
     left -= group;
-    putSeparator(symbols.groupSeparator);
+    putBefore(symbols.groupSeparator);
   }
   for (; left > 0; --left) putDigit();
+}
+
+// As ShortNumber::word, with digits of two bytes. The separator is written over what follows the integer part, and the
+// fraction once more after it.
+void ShortNumber::putPairs(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits, int fractionDigits,
+                           char* to) noexcept {
+  const auto putEight = [&](char* place, std::uint64_t eight) {
+    for (const std::uint64_t half : {eight & 0xffffffff, eight >> 32U}) {
+      const std::uint64_t apart = (half | half << 16U) & 0x0000ffff0000ffff;
+      putWord(place, symbols.pairs + (((apart | apart << 8U) & 0x000f000f000f000f) << 8U));
+      place += kWordBytes;
+    }
+  };
+  const std::uint64_t all = lastDigits(digits, integerDigits + fractionDigits);
+  putEight(to, all);
+  if (fractionDigits == 0) return;
+  char* const separator = to + std::ptrdiff_t{integerDigits} * 2;
+  putEight(putText(separator, symbols.decimalSeparator), all >> 8 * integerDigits);
 }
 
 // A computed NaN often has a sign, which means nothing.

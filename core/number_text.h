@@ -39,6 +39,9 @@ struct NumberStyle {
 /// As the formatter writes it.
 [[nodiscard]] NumberStyle styleOf(const NumberFormatter& formatter) noexcept;
 
+/// With so much room beyond it a number is written fastest: by words that cover more than its text.
+inline constexpr std::size_t kSpareRoom = 2 * kWordBytes;
+
 /// A number of at most nine digits, rounded and laid out. Nearly every number of a monitor is one: it is found by
 /// binary arithmetic, and its size is known before it is written.
 class ShortNumber {
@@ -48,26 +51,36 @@ class ShortNumber {
   [[nodiscard]] bool isLaidOut() const noexcept { return isLaidOut_; }
 
   /// Bytes of the text.
-  [[nodiscard]] std::size_t size() const noexcept { return size_; }
-  /// Writes the text, all its bytes, and gives the place after it.
-  [[gnu::always_inline]] char* writeTo(char* to) const noexcept;
+  [[nodiscard, gnu::always_inline]] std::size_t size() const noexcept;
+  /// Writes the text and gives the place after it. Up to the end of the room, anything may be written too.
+  [[gnu::always_inline]] char* writeTo(char* to, const char* roomEnd) const noexcept;
+
+  /// Whether the text is a word of bytes, without a sign.
+  [[nodiscard]] bool isWord() const noexcept { return isWord_ && !isNegative_; }
+  /// That word, the first byte in the lowest one, and how many bytes of it are the text.
+  [[nodiscard, gnu::always_inline]] std::uint64_t word() const noexcept;
+  [[nodiscard]] std::size_t wordSize() const noexcept {
+    return static_cast<std::size_t>(digitCount() + (fractionDigits_ > 0 ? 1 : 0));
+  }
 
  private:
   static constexpr std::int32_t kDoubtful = -1;
+  [[nodiscard]] int digitCount() const noexcept { return integerDigits_ + fractionDigits_; }
   [[gnu::always_inline]] static std::int32_t rounded(int most, double magnitude) noexcept;
-  [[gnu::always_inline]] void putPlainDigits(char* end) const noexcept;
-  // Takes no `this`, which would have to be in memory.
+  // These take no `this`, which would have to be in memory.
   static void putLocalDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits, int fractionDigits,
                              int separators, char* end) noexcept;
+  static void putPairs(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits, int fractionDigits,
+                       char* to) noexcept;
 
   const NumberSymbols& symbols_;
   bool isNegative_;
   bool isLaidOut_ = false;
+  bool isWord_ = false;
   std::uint32_t digits_ = 0;  // integer part and fraction together
   int integerDigits_ = 0;
   int fractionDigits_ = 0;
   int separators_ = 0;
-  std::size_t size_ = 0;
 };
 
 /// Any number, NaN and the infinities among them.
@@ -79,7 +92,7 @@ class LongNumber {
 
   /// Bytes of the text.
   [[nodiscard]] std::size_t size() const noexcept { return size_; }
-  /// Writes the text, all its bytes, and gives the place after it.
+  /// Writes the text and gives the place after it.
   char* writeTo(char* to) const noexcept;
 
  private:
@@ -100,16 +113,6 @@ class LongNumber {
   std::size_t size_ = 0;
   std::array<char, 1 + kMostIntegerDigits + kMostFractionDigits> room_;
 };
-
-/// "00", "01" and so on to "99".
-inline constexpr std::array<char, 200> kDigitPairs = [] {
-  std::array<char, 200> pairs{};
-  for (std::size_t i = 0; i < pairs.size(); ++i) {
-    const std::size_t digit = i % 2 == 0 ? i / 20 : i / 2 % 10;
-    pairs[i] = static_cast<char>('0' + digit);
-  }
-  return pairs;
-}();
 
 /// How many separators are in an integer part of the given length.
 [[nodiscard]] inline int countSeparators(const NumberSymbols& symbols, int integerDigits) noexcept {
@@ -137,10 +140,15 @@ inline ShortNumber::ShortNumber(NumberStyle style, double value) noexcept
   for (; fractionDigits_ > style.least && digits_ % 10 == 0; digits_ /= 10) --fractionDigits_;
   integerDigits_ = std::max(countDigits(digits_) - fractionDigits_, 1);
   separators_ = countSeparators(symbols_, integerDigits_);
-  size_ = static_cast<std::size_t>(integerDigits_ + fractionDigits_) * symbols_.digitBytes;
-  if (separators_ > 0) size_ += static_cast<std::size_t>(separators_) * symbols_.groupSeparator.size();
-  if (fractionDigits_ > 0) size_ += symbols_.decimalSeparator.size();
-  if (isNegative_) size_ += symbols_.negativePrefix.size() + symbols_.negativeSuffix.size();
+  isWord_ = symbols_.areBytes && separators_ == 0 && digitCount() < static_cast<int>(kWordBytes);
+}
+
+inline std::size_t ShortNumber::size() const noexcept {
+  std::size_t size = static_cast<std::size_t>(digitCount()) * symbols_.digitBytes;
+  if (separators_ > 0) size += static_cast<std::size_t>(separators_) * symbols_.groupSeparator.size();
+  if (fractionDigits_ > 0) size += symbols_.decimalSeparator.size();
+  if (isNegative_) size += symbols_.negativePrefix.size() + symbols_.negativeSuffix.size();
+  return size;
 }
 
 // Scales and rounds in binary. The product and the shortest decimal each differ from the true value by less than 2^-53
@@ -152,39 +160,53 @@ inline std::int32_t ShortNumber::rounded(int most, double magnitude) noexcept {
   if (most >= static_cast<int>(std::size(kPowersOfTen))) return kDoubtful;
   const double scaled = magnitude * kPowersOfTen[most];
   if (!(scaled < kLimit)) return kDoubtful;  // NaN too
-  const auto floor = static_cast<std::int32_t>(scaled);
-  const double rest = scaled - floor;
-  return std::abs(rest - 0.5) < kDoubt ? kDoubtful : floor + (rest > 0.5 ? 1 : 0);
+  const auto nearest = static_cast<std::int32_t>(scaled + 0.5);
+  return std::abs(scaled - nearest) > 0.5 - kDoubt ? kDoubtful : nearest;
 }
 
-// Writes digits in ASCII, without separators, from the last one to the first.
-inline void ShortNumber::putPlainDigits(char* end) const noexcept {
-  std::uint32_t rest = digits_;
-  for (int i = 0; i < fractionDigits_; ++i, rest /= 10) *--end = static_cast<char>('0' + rest % 10);
-  if (fractionDigits_ > 0) {
-    end -= symbols_.decimalSeparator.size();
-    putText(end, symbols_.decimalSeparator);
-  }
-  for (; rest >= 10; rest /= 100) {
-    end -= 2;
-    std::memcpy(end, &kDigitPairs[std::size_t{rest % 100} * 2], 2);
-  }
-  if (integerDigits_ % 2 != 0) *--end = static_cast<char>('0' + rest);
+/// "00", "01" and so on to "99", the first digit in the lower byte.
+inline constexpr std::array<std::uint16_t, 100> kDigitPairs = [] {
+  std::array<std::uint16_t, 100> pairs{};
+  for (std::uint16_t i = 0; i < 100; ++i) pairs[i] = static_cast<std::uint16_t>('0' + i / 10 + (('0' + i % 10) << 8U));
+  return pairs;
+}();
+
+/// The last digits of a number of at most eight, the first one in the lowest byte.
+[[nodiscard, gnu::always_inline]] inline std::uint64_t lastDigits(std::uint32_t number, int count) noexcept {
+  const auto pair = [](std::uint32_t below100) { return std::uint64_t{kDigitPairs[below100]}; };
+  const std::uint32_t high = number / 10000;
+  const std::uint32_t low = number % 10000;
+  const std::uint64_t eight =
+      pair(high / 100) | pair(high % 100) << 16U | pair(low / 100) << 32U | pair(low % 100) << 48U;
+  return eight >> 8 * (8 - count);
 }
 
-inline char* ShortNumber::writeTo(char* to) const noexcept {
-  char* const after = to + size_;
+// No branch depends on how many digits there are: a wrong guess of the processor costs more than all of this.
+inline std::uint64_t ShortNumber::word() const noexcept {
+  const std::uint64_t digits = lastDigits(digits_, digitCount());
+  const int separatorBit = 8 * integerDigits_;
+  const std::uint64_t integerBytes = (std::uint64_t{1} << separatorBit) - 1;
+  const auto separator = static_cast<unsigned char>(symbols_.decimalSeparator.front());
+  return (digits & integerBytes) | std::uint64_t{separator} << separatorBit | (digits & ~integerBytes) << 8;
+}
+
+inline char* ShortNumber::writeTo(char* to, const char* roomEnd) const noexcept {
+  const std::size_t size = this->size();
+  char* const after = to + size;
   char* end = after;
   if (isNegative_) {
-    putText(to, symbols_.negativePrefix);
+    to = putText(to, symbols_.negativePrefix);
     end -= symbols_.negativeSuffix.size();
-    putText(end, symbols_.negativeSuffix);
   }
-  if (symbols_.digitsAreAscii && separators_ == 0) [[likely]] {
-    putPlainDigits(end);
+  const auto room = static_cast<std::size_t>(roomEnd - to);
+  if (isWord_ && room >= kWordBytes) {
+    putWord(to, word());
+  } else if (symbols_.pairs != 0 && separators_ == 0 && digitCount() <= 8 && room >= size + kSpareRoom) {
+    putPairs(symbols_, digits_, integerDigits_, fractionDigits_, to);
   } else {
     putLocalDigits(symbols_, digits_, integerDigits_, fractionDigits_, separators_, end);
   }
+  if (isNegative_) putText(end, symbols_.negativeSuffix);
   return after;
 }
 

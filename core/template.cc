@@ -17,39 +17,53 @@ std::string unescaped(std::string_view text) {
   return result;
 }
 
-template <class Number>
-char* putPieces(char* to, std::string_view before, const Number& number, std::string_view after) {
-  if (!before.empty()) [[unlikely]]
-    to = putText(to, before);
-  return putText(number.writeTo(to), after);
+// The number is written by `write`, which takes its place and gives the place after it.
+template <class Write>
+void putPieces(char* to, const TemplatePieces& pieces, const Write& write) {
+  putText(write(putText(to, pieces.before)), pieces.after);
 }
 
-template <class Number>
-std::string longText(std::string_view before, const Number& number, std::string_view after, std::size_t& numberSize) {
-  numberSize = number.size();
-  std::string text(before.size() + numberSize + after.size(), '\0');
-  putPieces(text.data(), before, number, after);
+// A text of any length.
+template <class Write>
+std::string longText(const TemplatePieces& pieces, std::size_t numberSize, const Write& write) {
+  std::string text(pieces.before.size() + numberSize + pieces.after.size(), '\0');
+  putPieces(text.data(), pieces, write);
   return text;
 }
 
 // Any number at all.
-[[gnu::noinline]] std::string anyText(std::string_view before, NumberStyle style, double value, std::string_view after,
+[[gnu::noinline]] std::string anyText(const TemplatePieces& pieces, NumberStyle style, double value,
                                       std::size_t& numberSize) {
-  return longText(before, LongNumber(style, value), after, numberSize);
+  const LongNumber number(style, value);
+  numberSize = number.size();
+  return longText(pieces, numberSize, [&](char* to) { return number.writeTo(to); });
 }
 
-// The pieces with the number between them; says how long that is. Nearly every text fits a string's own room: the
-// number stays in registers then.
-[[gnu::always_inline]] inline std::string written(std::string_view before, NumberStyle style, double value,
-                                                  std::string_view after, std::size_t& numberSize) {
+// Room for a reading in any script, and what lets its digits be written by words.
+constexpr std::size_t kLineRoom = 63;
+
+// The pieces with the number between them; says how long that is. Nearly every text is two words, or fits a string's
+// own room at least: the number stays in registers then.
+[[gnu::always_inline]] inline std::string written(const TemplatePieces& pieces, NumberStyle style, double value,
+                                                  std::size_t& numberSize) {
   const ShortNumber number(style, value);
-  const std::size_t size = before.size() + number.size() + after.size();
-  if (!number.isLaidOut()) [[unlikely]]
-    return anyText(before, style, value, after, numberSize);
-  if (size > kOwnRoom) [[unlikely]]
-    return longText(before, number, after, numberSize);
+  if (pieces.isWord && number.isWord()) [[likely]] {
+    numberSize = number.wordSize();
+    return textWithin<kOwnRoom>(numberSize + pieces.after.size(), [&](char* to) {
+      putWord(to, number.word());
+      putWord(to + numberSize, pieces.afterWord);
+    });
+  }
+  if (!number.isLaidOut()) return anyText(pieces, style, value, numberSize);
   numberSize = number.size();
-  return shortText(size, [&](char* to) { putPieces(to, before, number, after); });
+  const std::size_t size = pieces.before.size() + numberSize + pieces.after.size();
+  const auto put = [&](std::size_t room) {
+    return
+        [&, room](char* text) { putPieces(text, pieces, [&](char* to) { return number.writeTo(to, text + room); }); };
+  };
+  if (size <= kOwnRoom) return textWithin<kOwnRoom>(size, put(kOwnRoom));
+  if (size <= kLineRoom - kSpareRoom) return textWithin<kLineRoom>(size, put(kLineRoom));
+  return longText(pieces, numberSize, [&](char* to) { return number.writeTo(to, to + numberSize); });
 }
 
 }  // namespace
@@ -57,27 +71,28 @@ std::string longText(std::string_view before, const Number& number, std::string_
 [[gnu::flatten]] std::string Template::filled(NumberStyle style, double value) const {
   std::size_t numberSize = 0;
   if (!hasEscapes_ && hasPlace_) [[likely]]
-    return written(before_, style, value, after_, numberSize);
+    return written(pieces_, style, value, numberSize);
   return filledSlowly(style, value);
 }
 
 [[gnu::noinline, gnu::cold]] std::string Template::filledSlowly(NumberStyle style, double value) const {
-  std::string text = unescaped(before_);
-  if (hasPlace_) text.append(numberAlone(style, value)).append(unescaped(after_));
+  std::string text = unescaped(pieces_.before);
+  if (hasPlace_) text.append(numberAlone(style, value)).append(unescaped(pieces_.after));
   return text;
 }
 
 [[gnu::flatten]] std::string numberAlone(NumberStyle style, double value) {
+  static constexpr TemplatePieces kNothing;
   std::size_t numberSize = 0;
-  return written({}, style, value, {}, numberSize);
+  return written(kNothing, style, value, numberSize);
 }
 
 [[gnu::flatten]] AttributedString Template::composed(NumberStyle style, double value, const Value& main,
                                                      const Value& units) const {
   if (hasPlace_ && !hasEscapes_ && !isPlaceNumbered_) [[likely]] {
     std::size_t numberSize = 0;
-    std::string text = written(before_, style, value, after_, numberSize);
-    return AttributedString(std::move(text), units, before_.size(), numberSize, main);
+    std::string text = written(pieces_, style, value, numberSize);
+    return AttributedString(std::move(text), units, pieces_.before.size(), numberSize, main);
   }
   AttributedString text(std::string(text_), units);
   text.replaceFirst(kPlace, AttributedString(numberAlone(style, value), main));

@@ -3,14 +3,31 @@
 #define KZM_CORE_TEMPLATE_H
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include <KZMUtilities/attributed_string.h>
 
 #include "core/number_text.h"
+#include "core/short_text.h"
 
 namespace kzm::core {
+
+/// What is around the number.
+struct TemplatePieces {
+  constexpr TemplatePieces() noexcept = default;
+  constexpr TemplatePieces(std::string_view textBefore, std::string_view textAfter) noexcept
+      : before(textBefore),
+        after(textAfter),
+        isWord(textBefore.empty() && textAfter.size() < kWordBytes),
+        afterWord(isWord ? wordOf(textAfter) : 0) {}
+
+  std::string_view before;
+  std::string_view after;
+  bool isWord = true;           // nothing before the number, and less than a word after it
+  std::uint64_t afterWord = 0;  // that, zeros after its end
+};
 
 /// A view of a template, taken apart so that filling in a number copies three pieces. Its text is data: it may hold
 /// anything.
@@ -36,8 +53,7 @@ class Template {
   [[nodiscard]] std::string filledSlowly(NumberStyle style, double value) const;
 
   std::string_view text_;
-  std::string_view before_;
-  std::string_view after_;
+  TemplatePieces pieces_;
   bool hasPlace_ = false;
   bool hasEscapes_ = false;       // "%%" in one of the two pieces
   bool isPlaceNumbered_ = false;  // "%1$@"
@@ -48,7 +64,7 @@ inline constexpr std::string_view kPlace = "%@";
 /// The number without a unit.
 [[nodiscard]] std::string numberAlone(NumberStyle style, double value);
 
-constexpr Template::Template(std::string_view text) noexcept : text_(text), before_(text) {
+constexpr Template::Template(std::string_view text) noexcept : text_(text), pieces_(text, {}) {
   constexpr std::string_view kNumberedPlace = "%1$@";
   for (std::size_t i = text.find('%'); i != std::string_view::npos; i = text.find('%', i + 1)) {
     const std::string_view rest = text.substr(i);
@@ -62,8 +78,7 @@ constexpr Template::Template(std::string_view text) noexcept : text_(text), befo
     const std::size_t size = isNumbered ? kNumberedPlace.size() : kPlace.size();
     hasPlace_ = true;
     isPlaceNumbered_ = isNumbered;
-    before_ = text.substr(0, i);
-    after_ = rest.substr(size);
+    pieces_ = {text.substr(0, i), rest.substr(size)};
     i += size - 1;
   }
 }

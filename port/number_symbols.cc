@@ -46,6 +46,17 @@ void readMinimumGrouping(const icu::number::LocalizedNumberFormatter& formatter,
   symbols.primaryGroup = 0;
 }
 
+// Four zeros in a word, when each digit is two bytes and the second one counts up.
+std::uint64_t pairsOf(const std::array<std::string, 10>& digits) {
+  for (std::size_t digit = 0; digit < digits.size(); ++digit) {
+    std::string counted = digits[0];
+    counted.back() = static_cast<char>(counted.back() + static_cast<char>(digit));
+    if (counted.size() != 2 || counted != digits[digit]) return 0;
+  }
+  constexpr std::uint64_t kFourTimes = 0x0001000100010001;
+  return kFourTimes * (static_cast<unsigned char>(digits[0][0]) + 256U * static_cast<unsigned char>(digits[0][1]));
+}
+
 std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale, UErrorCode& status) {
   using Symbol = icu::DecimalFormatSymbols;
   const std::unique_ptr<icu::NumberFormat> style(icu::NumberFormat::createInstance(locale, UNUM_DECIMAL, status));
@@ -63,6 +74,8 @@ std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale, UErrorCode& st
     if (text.empty() || text.size() != symbols.digitBytes) return std::nullopt;
   }
   symbols.decimalSeparator = utf8(source.getConstSymbol(Symbol::kDecimalSeparatorSymbol));
+  symbols.pairs = pairsOf(symbols.digits);
+  symbols.areBytes = symbols.digitsAreAscii && symbols.decimalSeparator.size() == 1;
   symbols.groupSeparator = utf8(source.getConstSymbol(Symbol::kGroupingSeparatorSymbol));
   symbols.notANumber = utf8(source.getConstSymbol(Symbol::kNaNSymbol));
   symbols.infinity = utf8(source.getConstSymbol(Symbol::kInfinitySymbol));

@@ -98,6 +98,49 @@ TEST(Template, ShortNumbersAreNoDifferent) {
   }
 }
 
+// Whatever is written by words, with room or without, in digits of one byte and of more.
+TEST(Template, TheRoomAroundANumberChangesNothing) {
+  constexpr double kValues[] = {0.0,      5.0,     -5.0,      0.05,       12.3,       999.94,
+                                -1023.26, 12345.6, 9999999.0, 12345678.0, 987654321.0};
+  for (const char* locale : {"en_US", "de_CH", "sv_SE", "hi_IN", "ar_EG", "fa_IR", "bn_BD", "mr_IN"}) {
+    const NumberSymbols symbols = port::numberSymbols(locale);
+    for (int most = 0; most <= 3; ++most) {
+      const NumberStyle style = decimalStyle(symbols, most / 2, most);
+      for (const double value : kValues) {
+        const std::string number = numberAlone(style, value);
+        for (std::size_t size = 0; size <= 70; ++size) {
+          const std::string unit(size, 'u');
+          ASSERT_EQ(Template("%@" + unit).filled(style, value), number + unit) << locale << ' ' << value;
+          ASSERT_EQ(Template(unit + "%@ u").filled(style, value), unit + number + " u") << locale << ' ' << value;
+        }
+      }
+    }
+  }
+}
+
+TEST(Template, DigitsOfTwoBytesAreNoDifferent) {
+  struct Case {
+    int digits;
+    double value;
+    const char* filled;
+  };
+  const Case cases[] = {
+      {0, 7.0, "٧ كيلوبايت/ث"},
+      {0, 121.0, "١٢١ كيلوبايت/ث"},
+      {0, 1023.0, "١٬٠٢٣ كيلوبايت/ث"},
+      {1, 45.6, "٤٥٫٦ كيلوبايت/ث"},
+      {2, 0.05, "٠٫٠٥ كيلوبايت/ث"},
+      {2, 987.65, "٩٨٧٫٦٥ كيلوبايت/ث"},
+      {5, 123.45678, "١٢٣٫٤٥٦٧٨ كيلوبايت/ث"},
+      {7, 12.3456789, "١٢٫٣٤٥٦٧٨٩ كيلوبايت/ث"},
+      {1, -2.5, "\u061c-٢٫٥ كيلوبايت/ث"},
+  };
+  const NumberSymbols symbols = port::numberSymbols("ar_EG");
+  for (const Case& c : cases) {
+    EXPECT_EQ(Template("%@ كيلوبايت/ث").filled(decimalStyle(symbols, c.digits, c.digits), c.value), c.filled);
+  }
+}
+
 TEST(Template, LongTextsAreNoDifferent) {
   const std::string unit(100000, 'u');
   EXPECT_EQ(filled("%@" + unit, "5"), "5" + unit);
