@@ -74,9 +74,10 @@ Form formOf(const Dictionary& options, bool bits) {
 core::Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
   constexpr double kBitsPerByte = 8.0;
   const BandwidthFormat& format = bandwidthFormat(options);
+  const Scaled rate =
+      scaled(rateLadder(options, format.lowest), options, format.bits ? bytesPerSecond * kBitsPerByte : bytesPerSecond);
   const UnitStyle style{formOf(options, format.bits), core::readSpacing(options)};
-  return scaled(rateLadder(options, format.lowest), kIndex, style, core::Digits::exactly, options,
-                format.bits ? bytesPerSecond * kBitsPerByte : bytesPerSecond);
+  return reading(rate, kIndex, style, core::Digits::exactly);
 }
 
 // Deliberate: two styles of one text differ when there are no decimals. The plain one groups thousands in the locale's

@@ -42,9 +42,8 @@ bool isHidden(const Dictionary& options, double bytesPerSecond) {
 }  // namespace
 
 core::Reading diskActivity(const Dictionary& options, double bytesPerSecond) {
-  const Ladder& ladder = rateLadder(options, Level::kilo);
-  const UnitStyle style = wholeUnitStyle(options, Form::bytesPerSecond);
-  return scaled(ladder, kIndex, style, core::Digits::exactly, options, bytesPerSecond);
+  const Scaled rate = scaled(rateLadder(options, Level::kilo), options, bytesPerSecond);
+  return reading(rate, kIndex, wholeUnitStyle(options, Form::bytesPerSecond), core::Digits::exactly);
 }
 
 }  // namespace kzm::bytes

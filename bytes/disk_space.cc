@@ -30,8 +30,8 @@ constexpr Scale kToKilobytes = over(1000.0);
 }  // namespace
 
 core::Reading diskSpace(const Dictionary& options, double bytes) {
-  const UnitStyle style = wholeUnitStyle(options, Form::bytes);
-  return scaled(kLadder, kSizeIndex, style, core::Digits::atMost, options, kToKilobytes(bytes));
+  const Scaled size = scaled(kLadder, options, kToKilobytes(bytes));
+  return reading(size, kSizeIndex, wholeUnitStyle(options, Form::bytes), core::Digits::atMost);
 }
 
 }  // namespace kzm::bytes

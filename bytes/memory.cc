@@ -28,8 +28,8 @@ constexpr Scale kToKilobytes = times(0x1p-10);
 }  // namespace
 
 core::Reading memory(const Dictionary& options, double bytes) {
-  const UnitStyle style = wholeUnitStyle(options, Form::bytes);
-  return scaled(kLadder, kSizeIndex, style, core::Digits::exactly, options, kToKilobytes(bytes));
+  const Scaled size = scaled(kLadder, options, kToKilobytes(bytes));
+  return reading(size, kSizeIndex, wholeUnitStyle(options, Form::bytes), core::Digits::exactly);
 }
 
 }  // namespace kzm::bytes

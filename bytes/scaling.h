@@ -1,4 +1,5 @@
-// From a raw quantity to the number, its decimals and its unit.
+// From a raw quantity to the number, its decimals and its unit. The number is looked for before the unit: the rules
+// take the processor the longest, and the options of the unit are read in the meantime.
 #ifndef KZM_BYTES_SCALING_H
 #define KZM_BYTES_SCALING_H
 
@@ -19,18 +20,29 @@ struct UnitStyle {
   Spacing spacing;
 };
 
+/// A value on the rung that it takes: the level reached, the number shown there and its decimals.
+struct Scaled {
+  Level level;
+  double number;
+  std::int64_t decimals;
+};
+
 /// Takes the rung for the value, which is in the ladder's unit, then the decimals rules under the key of the level
-/// reached, and the text by level and style.
-[[nodiscard, gnu::always_inline]] inline core::Reading scaled(const Ladder& ladder, const UnitIndex& index,
-                                                              UnitStyle style, core::Digits digits,
-                                                              const Dictionary& options, double value) {
+/// reached.
+[[nodiscard, gnu::always_inline]] inline Scaled scaled(const Ladder& ladder, const Dictionary& options, double value) {
   static constexpr Key kDecimalsKeys[kLevels] = {"decimals-kb", "decimals-mb", "decimals-gb", "decimals-tb",
                                                  "decimals-pb"};
   const Rung& rung = ladder.rungFor(value);
-  const double shown = rung.shown(value);
+  const double number = rung.shown(value);
   const Value* rules = options.find(kDecimalsKeys[static_cast<std::size_t>(rung.level)]);
-  const auto unit = static_cast<std::size_t>(Unit{style.form, rung.level});
-  return {index.row(unit, style.spacing), {digits, core::readDecimals(rules, shown), shown}};
+  return {rung.level, number, core::readDecimals(rules, number)};
+}
+
+/// The number with its unit text, by level and style.
+[[nodiscard, gnu::always_inline]] inline core::Reading reading(const Scaled& scaled, const UnitIndex& index,
+                                                               UnitStyle style, core::Digits digits) {
+  const auto unit = static_cast<std::size_t>(Unit{style.form, scaled.level});
+  return {index.row(unit, style.spacing), {digits, scaled.decimals, scaled.number}};
 }
 
 /// The style of the families with a boolean "short", which wins over "space": `full` is what they write else.

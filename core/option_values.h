@@ -66,15 +66,20 @@ namespace kzm::core {
 }
 
 /// Walks decimals rules, dictionaries of "value" and "decimals": the first whose "value" is greater than the number
-/// gives its "decimals". Without such a rule, or when `rules` is no array, `fallback`. NaN matches none.
+/// gives its "decimals". Without such a rule, or when `rules` is no array, `fallback`. NaN matches none. All rules are
+/// read, from the last to the first: which one matches is a wrong guess of the processor half of the time, and that
+/// costs more than the few rules that there are.
 [[nodiscard]] inline std::int64_t readDecimals(const Value* rules, double number, std::int64_t fallback = 0) noexcept {
   const Array* entries = rules != nullptr ? rules->array() : nullptr;
   if (entries == nullptr) return fallback;
-  for (const Value& entry : *entries) {
-    const Dictionary* rule = entry.dictionary();
-    if (rule != nullptr && readDouble(rule->find(kValue)) > number) return readInteger(rule->find(kDecimals));
+  std::int64_t decimals = fallback;
+  for (auto entry = entries->rbegin(); entry != entries->rend(); ++entry) {
+    const Dictionary* rule = entry->dictionary();
+    if (rule == nullptr) continue;
+    const std::int64_t own = readInteger(rule->find(kDecimals));
+    decimals = readDouble(rule->find(kValue)) > number ? own : decimals;
   }
-  return fallback;
+  return decimals;
 }
 
 }  // namespace kzm::core
