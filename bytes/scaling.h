@@ -27,7 +27,7 @@ struct UnitStyle {
   static constexpr Key kDecimalsKeys[kLevels] = {"decimals-kb", "decimals-mb", "decimals-gb", "decimals-tb",
                                                  "decimals-pb"};
   const Rung& rung = ladder.rungFor(value);
-  const double shown = rung.shown(value);
+  const double shown = rung.toShown(value);
   const Value* rules = options.find(kDecimalsKeys[static_cast<std::size_t>(rung.level)]);
   const auto unit = static_cast<std::size_t>(Unit{style.form, rung.level});
   return {index.row(unit, style.spacing), {digits, core::readDecimals(rules, shown), shown}};

@@ -58,10 +58,10 @@ constexpr Thousandths kVoltage{Unit::volts, Unit::millivolts, "decimals-voltage"
 // where all others in that unit have one (SensorData.SmallCurrentsPowersAndVoltagesAreInThousandths).
 template <const Thousandths& quantity>
 Converted inThousandths(const Dictionary& options, double value) {
-  Converted shown{quantity.base, value, value == 0.0 ? 0 : 1};
-  if (value != 0.0 && std::abs(value) < 1.0) shown = {quantity.milli, value * 1000.0, 0};
-  shown.decimals = core::readDecimals(options.find(quantity.decimals), shown.value, shown.decimals);
-  return shown;
+  Converted converted{quantity.base, value, value == 0.0 ? 0 : 1};
+  if (value != 0.0 && std::abs(value) < 1.0) converted = {quantity.milli, value * 1000.0, 0};
+  converted.decimals = core::readDecimals(options.find(quantity.decimals), converted.value, converted.decimals);
+  return converted;
 }
 
 Converted light(const Dictionary& options, double lux) {
@@ -121,10 +121,10 @@ std::optional<core::Reading> readingOf(std::int64_t type, const Dictionary& opti
   core::prepare<kTable>();
   const KindRow* kind = rowOf(type);
   if (kind == nullptr) return std::nullopt;
-  const Converted shown = kind->convert(options, value);
-  const core::Amount amount{core::Digits::atMost, shown.decimals, shown.value};
-  if (shown.unit == Unit::percent) return core::Reading{kPercentRow, amount};
-  const std::size_t row = kIndex.row(static_cast<std::size_t>(shown.unit), core::readSpacing(options));
+  const Converted converted = kind->convert(options, value);
+  const core::Amount amount{core::Digits::atMost, converted.decimals, converted.value};
+  if (converted.unit == Unit::percent) return core::Reading{kPercentRow, amount};
+  const std::size_t row = kIndex.row(static_cast<std::size_t>(converted.unit), core::readSpacing(options));
   return core::hasText<kTable>(row) ? std::optional(core::Reading{row, amount}) : std::nullopt;
 }
 
