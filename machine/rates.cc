@@ -35,8 +35,7 @@ std::vector<Rate> ratesBetween(const Sample& earlier, const Sample& later) {
   const double seconds = later.seconds - earlier.seconds;
   std::vector<Rate> rates;
   for (const Counter& counter : later.counters) {
-    const auto before =
-        std::ranges::find_if(earlier.counters, [&counter](const Counter& other) { return other.name == counter.name; });
+    const auto before = std::ranges::find(earlier.counters, counter.name, &Counter::name);
     Rate rate{counter.name, {}, {}};
     if (before != earlier.counters.end() && seconds > 0) {
       rate.in = rateOf(before->in, counter.in, seconds);
