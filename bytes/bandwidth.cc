@@ -60,13 +60,13 @@ constexpr Form kFormsOfSize[][2] = {
 
 // Deliberate: bandwidth reads "short" by presence, so false counts too; other families read a boolean
 // (Bandwidth.UnitSizes).
-Form formOf(const Dictionary& options, bool bits) {
+Form formOf(const Dictionary& options, bool countsBits) {
   static constexpr Key kUnitSize = "unitsize";
   constexpr std::int64_t kBrief = 1;
   constexpr std::int64_t kPerSecond = 3;
   std::int64_t size = options.contains(core::kShort) ? kBrief : core::readInteger(options.find(kUnitSize));
   if (size < kBrief || size > kPerSecond) size = kPerSecond;
-  return kFormsOfSize[size - 1][bits ? 1 : 0];
+  return kFormsOfSize[size - 1][countsBits ? 1 : 0];
 }
 
 }  // namespace
@@ -74,9 +74,9 @@ Form formOf(const Dictionary& options, bool bits) {
 core::Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
   constexpr double kBitsPerByte = 8.0;
   const BandwidthFormat& format = bandwidthFormat(options);
-  const Scaled rate =
-      scaled(rateLadder(options, format.lowest), options, format.bits ? bytesPerSecond * kBitsPerByte : bytesPerSecond);
-  const UnitStyle style{formOf(options, format.bits), core::readSpacing(options)};
+  const Scaled rate = scaled(rateLadder(options, format.lowest), options,
+                             format.countsBits ? bytesPerSecond * kBitsPerByte : bytesPerSecond);
+  const UnitStyle style{formOf(options, format.countsBits), core::readSpacing(options)};
   return reading(rate, kIndex, style, core::Digits::exactly);
 }
 

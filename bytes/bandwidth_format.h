@@ -13,7 +13,7 @@
 namespace kzm::bytes {
 
 struct BandwidthFormat {
-  bool bits;
+  bool countsBits;
   Level lowest;
   std::int64_t reversed;  // the code that "reverse-type" makes of this one
 };

@@ -73,7 +73,7 @@ struct Rung {
   Level level;
   Taken taken;
   double threshold;
-  Scale shown;
+  Scale toShown;
 };
 
 /// A walk up the rungs without branches: readings jump between levels, and a wrong guess of the processor costs more

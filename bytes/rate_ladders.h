@@ -38,7 +38,7 @@ inline constexpr Ladder kFromKilo[] = {Ladder(kBinaryRungs), Ladder(kEarlyRungs)
 inline constexpr Ladder kFromMega[] = {Ladder(std::span(kBinaryRungs).subspan(1)),
                                        Ladder(std::span(kEarlyRungs).subspan(1))};
 
-/// The ladder that the boolean option "early-upgrade" asks for; one that ends in mega has no kilo level.
+/// The ladder that the boolean option "early-upgrade" asks for; one whose lowest level is mega has no kilo level.
 [[nodiscard]] inline const Ladder& rateLadder(const Dictionary& options, Level lowest) noexcept {
   static constexpr Key kEarlyUpgrade = "early-upgrade";
   const bool early = core::readBoolean(options.find(kEarlyUpgrade));

@@ -33,7 +33,7 @@ struct Scaled {
   static constexpr Key kDecimalsKeys[kLevels] = {"decimals-kb", "decimals-mb", "decimals-gb", "decimals-tb",
                                                  "decimals-pb"};
   const Rung& rung = ladder.rungFor(value);
-  const double number = rung.shown(value);
+  const double number = rung.toShown(value);
   const Value* rules = options.find(kDecimalsKeys[static_cast<std::size_t>(rung.level)]);
   return {rung.level, number, core::readDecimals(rules, number)};
 }

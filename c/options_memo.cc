@@ -13,7 +13,7 @@ const Dictionary& OptionsMemo::readAnother(const char* text) {
   static const port::NeverDestroyed<Dictionary> none;
   if (text == nullptr) return *none;
   const std::string_view wanted(text);
-  const auto found = std::ranges::find_if(entries_, [wanted](const Entry& entry) { return entry.text == wanted; });
+  const auto found = std::ranges::find(entries_, wanted, &Entry::text);
   if (found != entries_.end()) {
     recent_ = &*found;
     return found->options;

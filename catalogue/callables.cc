@@ -175,8 +175,7 @@ constexpr Callable kCallables[] = {
 std::span<const Callable> callables() { return kCallables; }
 
 const Callable& callableNamed(std::string_view name, std::size_t arguments) {
-  const auto callable =
-      std::ranges::find_if(kCallables, [name](const Callable& candidate) { return candidate.name == name; });
+  const auto* callable = std::ranges::find(kCallables, name, &Callable::name);
   if (callable == std::end(kCallables)) throw InputError("no function is named \"" + std::string(name) + "\"");
   if (arguments != callable->kinds.size()) {
     throw InputError("wrong number of arguments (" + std::to_string(arguments) + ") for " + described(*callable));

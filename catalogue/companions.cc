@@ -36,7 +36,7 @@ void useSettings(Dictionary settings) {
 void storeSetting(const Value& value, std::string_view keyPath) {
   if (&KZMSettingsSetObjectForKeyPath == nullptr) failFor("store settings");
   if (!KZMSettingsSetObjectForKeyPath(value, keyPath)) {
-    throw std::runtime_error("settings: the settings file could not be written");
+    throw std::runtime_error("settings: the setting could not be stored");
   }
 }
 

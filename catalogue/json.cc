@@ -1,7 +1,9 @@
 #include "catalogue/json.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <memory>
 
@@ -65,10 +67,8 @@ Dictionary optionsFromJson(const Json& json) {
 }
 
 std::optional<double> namedDouble(std::string_view text) {
-  for (const NamedDouble& named : kNamedDoubles) {
-    if (named.name == text) return named.number;
-  }
-  return std::nullopt;
+  const auto* named = std::ranges::find(kNamedDoubles, text, &NamedDouble::name);
+  return named != std::end(kNamedDoubles) ? std::optional(named->number) : std::nullopt;
 }
 
 std::string_view nameOf(double number) {

@@ -10,7 +10,8 @@ namespace {
 
 // Counts so large that they lead out of the supported range from anywhere in it; below them no sum overflows.
 bool leadsOutside(std::int64_t count, std::int64_t secondsEach) {
-  constexpr auto kTwiceTheRange = static_cast<std::int64_t>(2.0 * (clock::kLatest - clock::kEarliest));
+  constexpr auto kTwiceTheRange =
+      static_cast<std::int64_t>(2.0 * (clock::kLatestTimePoint - clock::kEarliestTimePoint));
   return count > kTwiceTheRange / secondsEach || count < -kTwiceTheRange / secondsEach;
 }
 

@@ -8,7 +8,7 @@
 namespace kzm::clock {
 
 TimePoint supported(TimePoint t) noexcept {
-  return t.has_value() && *t >= kEarliest && *t <= kLatest ? t : std::nullopt;
+  return t.has_value() && *t >= kEarliestTimePoint && *t <= kLatestTimePoint ? t : std::nullopt;
 }
 
 std::optional<Instant> instantOf(TimePoint t) noexcept {

@@ -13,10 +13,10 @@ namespace kzm::clock {
 
 inline constexpr std::int64_t kSecondsInDay = 86400;
 
-/// The limits of calendar work: noon of 1 January 4713 BC, where Julian day numbers begin, and
+/// The limits of calendar work, in seconds since 1970: noon of 1 January 4713 BC, where Julian day numbers begin, and
 /// 7 February 506713.
-inline constexpr double kEarliest = -210866760000.0;
-inline constexpr double kLatest = 15928153804800.0;
+inline constexpr double kEarliestTimePoint = -210866760000.0;
+inline constexpr double kLatestTimePoint = 15928153804800.0;
 
 /// A time point in the supported range, cut into whole seconds and a fraction from 0 on.
 struct Instant {

@@ -36,7 +36,8 @@ TimeZone TimeZone::systemZone() { return TimeZone(port::systemZone()); }
 const std::string& TimeZone::identifier() const noexcept { return zone_->identifier(); }
 
 std::int64_t TimeZone::offsetFromGMT(double timePoint) const {
-  const double inside = std::isnan(timePoint) ? 0.0 : std::clamp(timePoint, clock::kEarliest, clock::kLatest);
+  const double inside =
+      std::isnan(timePoint) ? 0.0 : std::clamp(timePoint, clock::kEarliestTimePoint, clock::kLatestTimePoint);
   return zone_->offset(static_cast<std::int64_t>(std::floor(inside)));
 }
 

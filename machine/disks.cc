@@ -24,8 +24,7 @@ constexpr std::size_t kRead = 2;
 constexpr std::size_t kWritten = 6;
 
 bool isDisk(std::string_view name) {
-  return std::none_of(std::begin(kPassedOver), std::end(kPassedOver),
-                      [name](std::string_view prefix) { return name.starts_with(prefix); });
+  return std::ranges::none_of(kPassedOver, [name](std::string_view prefix) { return name.starts_with(prefix); });
 }
 
 // "sda1" of "sda", "nvme0n1p1" of "nvme0n1".

@@ -56,8 +56,7 @@ std::vector<ProcessorLoad> loadBetween(const std::vector<ProcessorTime>& earlier
                                        const std::vector<ProcessorTime>& later) {
   std::vector<ProcessorLoad> loads;
   for (const ProcessorTime& time : later) {
-    const auto before =
-        std::ranges::find_if(earlier, [&time](const ProcessorTime& other) { return other.name == time.name; });
+    const auto before = std::ranges::find(earlier, time.name, &ProcessorTime::name);
     loads.push_back({time.name, before != earlier.end() ? busyBetween(*before, time) : std::nullopt});
   }
   return loads;

@@ -10,8 +10,8 @@ namespace kzm::platform {
 namespace {
 
 constexpr double kNanosecondsPerSecond = 1'000'000'000.0;
-// The longest time-out that is armed, in seconds: a little less than 64 bits of nanoseconds hold.
-constexpr double kLongestTimeout = 9.2e9;
+// The longest time-out that is armed: a little less than 64 bits of nanoseconds hold.
+constexpr double kLongestTimeoutSeconds = 9.2e9;
 constexpr std::int64_t kGraceNanoseconds = 2'000'000'000;
 
 constexpr const char* kTerminating = "Task is still running, attempting to terminate.";
@@ -25,7 +25,7 @@ Pipe inputPipe(const ChildConfiguration& configuration) {
 }  // namespace
 
 std::optional<std::int64_t> timeoutNanoseconds(double seconds) {
-  if (seconds > kLongestTimeout) return std::nullopt;
+  if (seconds > kLongestTimeoutSeconds) return std::nullopt;
   if (!(seconds > 0.0)) return 0;  // NaN too
   return static_cast<std::int64_t>(seconds * kNanosecondsPerSecond);
 }

@@ -16,10 +16,10 @@ std::unique_ptr<GraphicsContext>& currentContext() { return port::perThread<std:
 
 struct GraphicsContext::State {
   State(cairo_t* context, bool yGrowsDown)
-      : cairo(context ? port::canvas().kept(context) : nullptr), flipped(yGrowsDown) {}
+      : cairo(context ? port::canvas().kept(context) : nullptr), isFlipped(yGrowsDown) {}
 
   port::Context cairo;
-  bool flipped;
+  bool isFlipped;
   Color fill;
   Color stroke;
 };
@@ -33,7 +33,7 @@ std::optional<GraphicsContext> GraphicsContext::current() {
 GraphicsContext::Current GraphicsContext::makeCurrent() const { return Current(*this); }
 
 cairo_t* GraphicsContext::cairo() const noexcept { return state_->cairo.get(); }
-bool GraphicsContext::isFlipped() const noexcept { return state_->flipped; }
+bool GraphicsContext::isFlipped() const noexcept { return state_->isFlipped; }
 Color GraphicsContext::fillColor() const noexcept { return state_->fill; }
 Color GraphicsContext::strokeColor() const noexcept { return state_->stroke; }
 void GraphicsContext::setFillColor(const Color& color) const noexcept { state_->fill = color; }

@@ -161,13 +161,13 @@ Mapping mapping(const Span& target, const Span& visible, double imageLength, dou
 
 Mapping mirror(const Mapping& upright, double imageLength) { return {-upright.scale, imageLength - upright.offset}; }
 
-cairo_matrix_t imageMatrix(cairo_t* cairo, const Size& size, const Rect& rect, const Rect& visible, bool mirrored) {
+cairo_matrix_t imageMatrix(cairo_t* cairo, const Size& size, const Rect& rect, const Rect& visible, bool isMirrored) {
   const Size pixels = pixelsPerPoint(cairo);
   const Mapping x =
       mapping({rect.origin.x, rect.size.width}, {visible.origin.x, visible.size.width}, size.width, pixels.width);
   Mapping y =
       mapping({rect.origin.y, rect.size.height}, {visible.origin.y, visible.size.height}, size.height, pixels.height);
-  if (mirrored) y = mirror(y, size.height);
+  if (isMirrored) y = mirror(y, size.height);
   cairo_matrix_t matrix;
   cairo_matrix_init(&matrix, x.scale, 0.0, 0.0, y.scale, x.offset, y.offset);
   return matrix;
@@ -242,21 +242,21 @@ class CairoCanvas final : public Canvas {
   }
 
   void drawSurface(cairo_t* cairo, cairo_surface_t* surface, const Size& size, const Rect& rect,
-                   bool mirrored) const override {
+                   bool isMirrored) const override {
     const std::optional<Rect> part = fillablePart(cairo, rect);
     if (!part) return;
     // An image that is drawn into itself is drawn as it was before.
     const Surface copy = cairo_get_target(cairo) == surface ? copySurface(surface) : nullptr;
-    paintSurface(cairo, copy ? copy.get() : surface, imageMatrix(cairo, size, rect, *part, mirrored), *part);
+    paintSurface(cairo, copy ? copy.get() : surface, imageMatrix(cairo, size, rect, *part, isMirrored), *part);
   }
 
   Surface makeSurface(const Size& size, double scale) const override {
     constexpr double kMostPixels = 32767.0;  // of a side; cairo has none larger
     const double width = std::ceil(size.width * scale);
     const double height = std::ceil(size.height * scale);
-    const bool possible = size.width > 0.0 && size.height > 0.0 && isWithin(scale, kSmallestScale, kLargestScale) &&
-                          isWithin(width, 1.0, kMostPixels) && isWithin(height, 1.0, kMostPixels);
-    return possible ? makePixels(static_cast<int>(width), static_cast<int>(height), scale, scale) : nullptr;
+    const bool isPossible = size.width > 0.0 && size.height > 0.0 && isWithin(scale, kSmallestScale, kLargestScale) &&
+                            isWithin(width, 1.0, kMostPixels) && isWithin(height, 1.0, kMostPixels);
+    return isPossible ? makePixels(static_cast<int>(width), static_cast<int>(height), scale, scale) : nullptr;
   }
 
   Surface copySurface(cairo_surface_t* original) const override {
@@ -269,11 +269,11 @@ class CairoCanvas final : public Canvas {
     cairo_surface_get_device_offset(original, &offsetX, &offsetY);
     Surface copy =
         makePixels(cairo_image_surface_get_width(original), cairo_image_surface_get_height(original), scaleX, scaleY);
-    const bool copied = copy && paintOver(copy.get(), CAIRO_OPERATOR_SOURCE, [&](cairo_t* cairo) {
-                          cairo_set_source_surface(cairo, original, offsetX / scaleX, offsetY / scaleY);
-                          cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
-                        });
-    return copied ? std::move(copy) : nullptr;
+    const bool isCopied = copy && paintOver(copy.get(), CAIRO_OPERATOR_SOURCE, [&](cairo_t* cairo) {
+                            cairo_set_source_surface(cairo, original, offsetX / scaleX, offsetY / scaleY);
+                            cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
+                          });
+    return isCopied ? std::move(copy) : nullptr;
   }
 
   Surface readPNG(const std::string& path) const override {

@@ -49,9 +49,9 @@ class Canvas {
                                  const Paint&) const {}
 
   /// The whole surface, `size` points large, scaled into the rectangle; upside down in the context's coordinates if
-  /// `mirrored`. Source-over, full opacity, borders as solid as the rest.
+  /// `isMirrored`. Source-over, full opacity, borders as solid as the rest.
   virtual void drawSurface(cairo_t* /*cairo*/, cairo_surface_t* /*surface*/, const Size& /*size*/, const Rect&,
-                           bool /*mirrored*/) const {}
+                           bool /*isMirrored*/) const {}
 
   /// A transparent image surface; null if there can be none of that size.
   [[nodiscard]] virtual Surface makeSurface(const Size& /*size*/, double /*scale*/) const { return nullptr; }

@@ -25,6 +25,9 @@ class Descriptor {
   [[nodiscard]] int number() const noexcept { return number_; }
   [[nodiscard]] bool isOpen() const noexcept { return number_ >= 0; }
 
+  /// Gives it to another owner.
+  [[nodiscard]] int release() noexcept { return std::exchange(number_, kNone); }
+
   /// Not repeated when interrupted: the number is free by then, and perhaps somebody else's.
   void close() noexcept {
     if (isOpen()) ::close(std::exchange(number_, kNone));

@@ -63,12 +63,11 @@ std::string canonicalName(const std::string& name) {
 template <typename Predicate>
 bool holdsForAnyName(Predicate predicate) {
   UErrorCode status = U_ZERO_ERROR;
-  UEnumeration* names = uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status);
+  const icu::LocalUEnumerationPointer names(uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status));
   bool holds = false;
-  for (const char* name = nullptr; !holds && (name = uenum_next(names, nullptr, &status)) != nullptr;) {
+  for (const char* name = nullptr; !holds && (name = uenum_next(names.getAlias(), nullptr, &status)) != nullptr;) {
     holds = predicate(name);
   }
-  uenum_close(names);
   demandMemory(status);
   return holds;
 }

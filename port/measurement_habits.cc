@@ -1,5 +1,7 @@
 #include "port/measurement_habits.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "port/ascii.h"
@@ -37,10 +39,8 @@ std::string keyword(const icu::Locale& locale, const char* name) {
 
 template <std::size_t N>
 std::string_view meaningOf(const Meaning (&meanings)[N], std::string_view value) {
-  for (const Meaning& row : meanings) {
-    if (row.value == value) return row.meaning;
-  }
-  return {};
+  const auto* row = std::ranges::find(meanings, value, &Meaning::value);
+  return row != std::end(meanings) ? row->meaning : std::string_view();
 }
 
 // The country of an "rg" value: two letters, and after them "zzzz" or the name of a part of the country.

@@ -14,7 +14,7 @@ namespace {
 bool isWellFormed(std::string_view identifier) {
   const auto isPart = [](char c) { return isAlphanumeric(c) || c == '_' || c == '-'; };
   return !identifier.empty() && isLetter(identifier.front()) && identifier.size() <= kLongestIdentifier &&
-         std::all_of(identifier.begin(), identifier.end(), isPart);
+         std::ranges::all_of(identifier, isPart);
 }
 
 }  // namespace

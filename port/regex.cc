@@ -22,11 +22,11 @@ constexpr std::size_t kBytesPerEngineUnit = 1250;
 
 // The engine counts backtracking only. What it does not count, such as the comparisons of a long literal at each
 // place of a long text, ends after this time, which is well above what the counted work takes.
-constexpr std::int64_t kNanoseconds = 1'000'000'000;
-constexpr std::int64_t kNanosecondsPerByte = 500;
+constexpr std::int64_t kLongestSearchNanoseconds = 1'000'000'000;
+constexpr std::int64_t kSearchNanosecondsPerByte = 500;
 
 // What all sets of a pattern may take to compile.
-constexpr double kSetMilliseconds = 250;
+constexpr double kLongestSetMilliseconds = 250;
 
 // The engine's own count is in 32 bits, of which UTF-16 takes up to one for each byte.
 static_assert(kLongestText < std::numeric_limits<std::int32_t>::max());
@@ -34,7 +34,8 @@ static_assert(kLongestText < std::numeric_limits<std::int32_t>::max());
 class Deadline {
  public:
   Deadline(icu::RegexMatcher& matcher, std::size_t bytes, UErrorCode& status)
-      : end_(coarseNanoseconds() + kNanoseconds + static_cast<std::int64_t>(bytes) * kNanosecondsPerByte) {
+      : end_(coarseNanoseconds() + kLongestSearchNanoseconds +
+             static_cast<std::int64_t>(bytes) * kSearchNanosecondsPerByte) {
     matcher.setTimeLimit(kEngineUnits + static_cast<std::int32_t>(bytes / kBytesPerEngineUnit), status);
     matcher.setMatchCallback(&Deadline::afterSteps, this, status);
     matcher.setFindProgressCallback(&Deadline::atPosition, this, status);
@@ -93,7 +94,7 @@ bool isTooLong(std::string_view text, std::string_view pattern) {
   if (text.size() <= kLongestTextForBackReference && pattern.size() <= kAlwaysCompiled) return false;
   const PatternWork work = workOf(pattern);
   return (text.size() > kLongestTextForBackReference && work.refersBack) ||
-         (pattern.size() > kAlwaysCompiled && work.setMilliseconds > kSetMilliseconds);
+         (pattern.size() > kAlwaysCompiled && work.setMilliseconds > kLongestSetMilliseconds);
 }
 
 // The matcher keeps a reference to the text.

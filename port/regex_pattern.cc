@@ -43,7 +43,7 @@ bool mayHoldComments(std::string_view pattern) {
 
 class Reader {
  public:
-  explicit Reader(std::string_view pattern) : rest_(pattern), comments_(mayHoldComments(pattern)) {}
+  explicit Reader(std::string_view pattern) : rest_(pattern), mayHoldComments_(mayHoldComments(pattern)) {}
 
   PatternWork read() {
     while (!rest_.empty()) readNext();
@@ -61,7 +61,7 @@ class Reader {
   };
 
   void readNext() {
-    if (takes("\\Q") && !comments_) return skipQuotation();
+    if (takes("\\Q") && !mayHoldComments_) return skipQuotation();
     if (rest_.front() == '\\') return readEscape();
     if (takes("[")) return openSet();
     if (takes("]")) return closeSet();
@@ -91,7 +91,7 @@ class Reader {
 
   void openSet() {
     const bool negated = takes("^");
-    sets_.push_back({.cost = comments_ ? kMostCharacters : 0.0, .negated = negated});
+    sets_.push_back({.cost = mayHoldComments_ ? kMostCharacters : 0.0, .negated = negated});
     if (takes(":")) raise(rest_.starts_with('^') ? kMostCharacters : kManyCharacters);
     if (rest_.starts_with(']')) rest_.remove_prefix(1);  // the first place in a set is that of a plain bracket
   }
@@ -123,7 +123,7 @@ class Reader {
   }
 
   std::string_view rest_;
-  bool comments_;
+  bool mayHoldComments_;
   std::vector<Set> sets_;
   PatternWork work_;
 };

@@ -59,7 +59,7 @@ bool isZoneName(std::string_view identifier) {
   const auto isAllowed = [](char c) { return isAlphanumeric(c) || kOther.find(c) != std::string_view::npos; };
   return !identifier.empty() && identifier.size() <= kLongestName && identifier.front() != '/' &&
          identifier.find("//") == std::string_view::npos && !isOtherFile(identifier) &&
-         std::all_of(identifier.begin(), identifier.end(), isAllowed);
+         std::ranges::all_of(identifier, isAllowed);
 }
 
 // cctz remembers every name it is asked for, so it is asked for zone files only.

@@ -1,7 +1,8 @@
 #include "sensors/sensor_data.h"
 
+#include <algorithm>
 #include <cmath>
-#include <utility>
+#include <iterator>
 
 #include <KZMUtilities/conversions.h>
 #include <KZMUtilities/default_units.h>
@@ -58,10 +59,10 @@ constexpr Thousandths kVoltage{Unit::volts, Unit::millivolts, "decimals-voltage"
 // where all others in that unit have one (SensorData.SmallCurrentsPowersAndVoltagesAreInThousandths).
 template <const Thousandths& quantity>
 Converted inThousandths(const Dictionary& options, double value) {
-  Converted shown{quantity.base, value, value == 0.0 ? 0 : 1};
-  if (value != 0.0 && std::abs(value) < 1.0) shown = {quantity.milli, value * 1000.0, 0};
-  shown.decimals = core::readDecimals(options.find(quantity.decimals), shown.value, shown.decimals);
-  return shown;
+  Converted converted{quantity.base, value, value == 0.0 ? 0 : 1};
+  if (value != 0.0 && std::abs(value) < 1.0) converted = {quantity.milli, value * 1000.0, 0};
+  converted.decimals = core::readDecimals(options.find(quantity.decimals), converted.value, converted.decimals);
+  return converted;
 }
 
 Converted light(const Dictionary& options, double lux) {
@@ -108,24 +109,21 @@ constexpr const KindRow* rowOf(std::int64_t type) {
   return nullptr;
 }
 
-// Every kind that is published has its row; published numbers are below 256.
-static_assert(
-    []<std::size_t... type>(std::index_sequence<type...>) {
-      return ((core::isEnumerator<static_cast<SensorType::Kind>(type)>() == (rowOf(type) != nullptr)) && ...);
-    }(std::make_index_sequence<256>()),
-    "a kind has no row");
+static_assert(std::size(kKinds) == core::countNamed<SensorType::Kind>(), "a kind has no row");
+static_assert(std::ranges::all_of(kKinds, [](const KindRow& row) { return rowOf(row.type) == &row; }),
+              "a kind has two rows");
 
 }  // namespace
 
 std::optional<core::Reading> readingOf(std::int64_t type, const Dictionary& options, double value) {
-  core::prepare<kTable>();
+  core::prepare<kSensorTable>();
   const KindRow* kind = rowOf(type);
   if (kind == nullptr) return std::nullopt;
-  const Converted shown = kind->convert(options, value);
-  const core::Amount amount{core::Digits::atMost, shown.decimals, shown.value};
-  if (shown.unit == Unit::percent) return core::Reading{kPercentRow, amount};
-  const std::size_t row = kIndex.row(static_cast<std::size_t>(shown.unit), core::readSpacing(options));
-  return core::hasText<kTable>(row) ? std::optional(core::Reading{row, amount}) : std::nullopt;
+  const Converted converted = kind->convert(options, value);
+  const core::Amount amount{core::Digits::atMost, converted.decimals, converted.value};
+  if (converted.unit == Unit::percent) return core::Reading{kPercentRow, amount};
+  const std::size_t row = kIndex.row(static_cast<std::size_t>(converted.unit), core::readSpacing(options));
+  return core::hasText<kSensorTable>(row) ? std::optional(core::Reading{row, amount}) : std::nullopt;
 }
 
 }  // namespace kzm::sensors
@@ -137,5 +135,5 @@ std::optional<kzm::Dictionary> KZMUtilitiesSensorData(std::int64_t type, const k
   if (!reading.has_value()) return std::nullopt;
   // Deliberate: the result of a sensor has "format" last, that of bytes has it first (SensorData.KeysAreInTheirOrder).
   return reading->row == kPercentRow ? data(kPercent, reading->amount, FormatKey::last)
-                                     : data<kTable>(*reading, FormatKey::last);
+                                     : data<kSensorTable>(*reading, FormatKey::last);
 }

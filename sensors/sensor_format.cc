@@ -21,7 +21,7 @@ void strip(std::string& text, bool isWhole) {
 
 std::string textOf(const core::Reading& reading, bool withUnit) {
   if (!withUnit) return core::text(reading.amount);
-  return reading.row == kPercentRow ? core::text(core::kPercent, reading.amount) : core::text<kTable>(reading);
+  return reading.row == kPercentRow ? core::text(core::kPercent, reading.amount) : core::text<kSensorTable>(reading);
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ inline constexpr auto kIndex = core::unitIndex<core::countEnumerators<Unit>() - 
 static_assert(core::wellFormed(kTexts));
 static_assert(kIndex.hasAll(), "a unit has no row");
 
-inline constexpr core::UnitTable kTable{"Localizations-Units-Sensors", kRows};
+inline constexpr core::UnitTable kSensorTable{"Localizations-Units-Sensors", kRows};
 
 }  // namespace kzm::sensors
 

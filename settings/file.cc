@@ -113,8 +113,8 @@ Identity identityOf(const std::string& path) {
 }
 
 bool isFresh(const Identity& identity) {
-  constexpr std::int64_t kTwoSeconds = 2'000'000'000;
-  return identity != Identity{} && port::nanosecondsSince1970() - identity.changed < kTwoSeconds;
+  constexpr std::int64_t kFreshNanoseconds = 2'000'000'000;
+  return identity != Identity{} && port::nanosecondsSince1970() - identity.changed < kFreshNanoseconds;
 }
 
 Content read(const std::string& path) {

@@ -16,7 +16,7 @@ using Json = nlohmann::json;
 
 std::string lineFault(std::string_view text, std::size_t offset) {
   const std::string_view before = text.substr(0, offset > 0 ? offset - 1 : 0);
-  return "line " + std::to_string(1 + std::count(before.begin(), before.end(), '\n')) + " is not JSON";
+  return "line " + std::to_string(1 + std::ranges::count(before, '\n')) + " is not JSON";
 }
 
 // Takes the members as the parser meets them: their values, and their texts with every number as it came. A tree of the

@@ -45,7 +45,8 @@ std::uint64_t nextVersion() {
 
 }  // namespace
 
-Store::Store(std::string path, std::int64_t lookEvery) : lookEvery_(lookEvery), path_(std::move(path)) {}
+Store::Store(std::string path, std::int64_t lookEveryMilliseconds)
+    : lookEveryMilliseconds_(lookEveryMilliseconds), path_(std::move(path)) {}
 Store::~Store() = default;
 
 Value Store::find(std::string_view keyPath) {
@@ -59,7 +60,7 @@ Dictionary Store::objects() { return current().objects; }
 // The thread's pointer keeps the snapshot alive until the thread asks again.
 const Snapshot& Store::current() {
   if (version_.load(std::memory_order_acquire) == 0) loadFirst();
-  const std::int64_t due = nextLook_.load(std::memory_order_relaxed);
+  const std::int64_t due = nextLookMilliseconds_.load(std::memory_order_relaxed);
   if (due != kNever) {
     if (const std::int64_t now = port::coarseMilliseconds(); now >= due) lookAtFile(now, due);
   }
@@ -75,13 +76,14 @@ const Snapshot& Store::current() {
 void Store::loadFirst() {
   const std::lock_guard lock(changing_);
   if (version_.load(std::memory_order_relaxed) != 0) return;
-  nextLook_.store(port::coarseMilliseconds() + lookEvery_, std::memory_order_relaxed);
+  nextLookMilliseconds_.store(port::coarseMilliseconds() + lookEveryMilliseconds_, std::memory_order_relaxed);
   reload();
 }
 
 // One thread looks for all. It does not wait for one that is changing the file: that one publishes what it finds.
 void Store::lookAtFile(std::int64_t now, std::int64_t due) {
-  if (!nextLook_.compare_exchange_strong(due, now + lookEvery_, std::memory_order_relaxed)) return;
+  if (!nextLookMilliseconds_.compare_exchange_strong(due, now + lookEveryMilliseconds_, std::memory_order_relaxed))
+    return;
   const std::unique_lock lock(changing_, std::try_to_lock);
   if (!lock.owns_lock() || inMemory_) return;
   if (isFresh(seen_) || identityOf(path_) != seen_) reload();
@@ -166,7 +168,7 @@ std::string Store::write(File& file, const Member& member, std::string_view keyP
 void Store::useObjects(Dictionary objects) {
   const std::lock_guard lock(changing_);
   inMemory_ = true;
-  nextLook_.store(kNever, std::memory_order_relaxed);
+  nextLookMilliseconds_.store(kNever, std::memory_order_relaxed);
   publish(std::move(objects));
 }
 

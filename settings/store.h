@@ -28,9 +28,9 @@ struct Snapshot;
 class Store {
  public:
   /// An empty path means that there is no place for settings: there are none, and none can be stored.
-  /// lookEvery, in milliseconds, is how long a change by another process may stay unseen. With 0 every read looks at
+  /// lookEveryMilliseconds is how long a change by another process may stay unseen. With 0 every read looks at
   /// the file.
-  explicit Store(std::string path, std::int64_t lookEvery = 300);
+  explicit Store(std::string path, std::int64_t lookEveryMilliseconds = 300);
   Store(const Store&) = delete;
   Store& operator=(const Store&) = delete;
   ~Store();
@@ -69,8 +69,8 @@ class Store {
   void publish(Dictionary objects);
 
   std::atomic<std::uint64_t> version_{0};  // 0: nothing is loaded yet
-  const std::int64_t lookEvery_;
-  std::atomic<std::int64_t> nextLook_{0};  // milliseconds of the coarse monotonic clock
+  const std::int64_t lookEveryMilliseconds_;
+  std::atomic<std::int64_t> nextLookMilliseconds_{0};  // of the coarse monotonic clock
 
   std::mutex changing_;  // guards the following, also while the file is read or written
   const std::string path_;

@@ -33,12 +33,12 @@ core::Amount distanceAmount(double kilometers) { return amountOf(distanceRow(), 
 std::string KZMUtilitiesFormatWeatherDistance(double kilometers) {
   using namespace kzm::weather;
   const ChosenUnit& row = distanceRow();
-  return text(row.shown, amountOf(row, kilometers));
+  return text(row.shownUnit, amountOf(row, kilometers));
 }
 
 // Deliberate: a visibility is neither converted nor grouped, only labeled with the unit of distances
 // (WeatherVisibility.IsNeitherConvertedNorGrouped).
 std::string KZMUtilitiesFormatWeatherVisibility(double distance) {
   using namespace kzm::weather;
-  return text(distanceRow().shown, plainAmount(distance));
+  return text(distanceRow().shownUnit, plainAmount(distance));
 }

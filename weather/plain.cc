@@ -10,7 +10,7 @@
 namespace kzm::weather {
 namespace {
 
-constexpr std::int64_t kMostDigits = 2;  // of days and of the illuminated part
+constexpr std::int64_t kMostDecimals = 2;  // of days and of the illuminated part
 
 std::string angle(const Dictionary& options, double degrees) {
   return text(Unit::degrees, angleAmount(options, degrees));
@@ -20,7 +20,7 @@ std::string angle(const Dictionary& options, double degrees) {
 
 core::Amount plainAmount(double value) { return {core::Digits::plain, 0, value}; }
 
-core::Amount finelyDividedAmount(double value) { return atMost(kMostDigits, value); }
+core::Amount finelyDividedAmount(double value) { return atMost(kMostDecimals, value); }
 
 core::Amount angleAmount(const Dictionary& options, double degrees) {
   return atMost(core::readInteger(options.find(core::kDecimals)), degrees);

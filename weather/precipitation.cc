@@ -14,19 +14,19 @@ namespace {
 struct PrecipitationRow {
   MeasurementUnit unit;
   Conversion fromMillimeters;
-  std::int64_t digits;
-  Unit shown;
+  std::int64_t decimals;
+  Unit shownUnit;
 };
 
 // clang-format off
-//   unit                          from mm    digits  shown in; the last row serves any other unit
+//   unit                          from mm    decimals  shown in; the last row serves any other unit
 constexpr PrecipitationRow kRain[] = {
-    {MeasurementUnit::inches,      mmToInch,  2,      Unit::inches},
-    {MeasurementUnit::millimeters, unchanged, 1,      Unit::millimeters},
+    {MeasurementUnit::inches,      mmToInch,  2,        Unit::inches},
+    {MeasurementUnit::millimeters, unchanged, 1,        Unit::millimeters},
 };
 constexpr PrecipitationRow kSnow[] = {
-    {MeasurementUnit::inches,      mmToInch,  2,      Unit::inches},
-    {MeasurementUnit::centimeters, mmToCm,    1,      Unit::centimeters},
+    {MeasurementUnit::inches,      mmToInch,  2,        Unit::inches},
+    {MeasurementUnit::centimeters, mmToCm,    1,        Unit::centimeters},
 };
 // clang-format on
 static_assert(haveRows(units::kRains, kRain), "a unit has no row");
@@ -39,11 +39,11 @@ const PrecipitationRow& rowOf(const PrecipitationRow (&rows)[N]) {
 }
 
 core::Amount amountOf(const PrecipitationRow& row, double millimeters) {
-  return atMost(row.digits, row.fromMillimeters(millimeters));
+  return atMost(row.decimals, row.fromMillimeters(millimeters));
 }
 
 std::string amountText(const PrecipitationRow& row, double millimeters) {
-  return text(row.shown, amountOf(row, millimeters));
+  return text(row.shownUnit, amountOf(row, millimeters));
 }
 
 }  // namespace

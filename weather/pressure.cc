@@ -26,7 +26,7 @@ struct PressureRow {
   MeasurementUnit unit;
   Conversion fromHectopascals;
   Showing showing;
-  Unit shown;
+  Unit shownUnit;
 };
 
 // Deliberate: inches of mercury alone ignore the options (WeatherPressure.InchesIgnoreTheOptions).
@@ -40,11 +40,11 @@ constexpr PressureRow kPressures[] = {
 // clang-format on
 static_assert(haveRows(units::kPressures, kPressures), "a unit has no row");
 
-constexpr std::int64_t kInchDigits = 2;
+constexpr std::int64_t kInchDecimals = 2;
 
 // Deliberate: "decimals" of a pressure is a boolean: 5 means one digit (WeatherPressure.DecimalsAreABoolean).
-std::int64_t digitsOf(const PressureRow& row, const Dictionary& options) noexcept {
-  if (row.showing == Showing::complete) return kInchDigits;
+std::int64_t decimalsOf(const PressureRow& row, const Dictionary& options) noexcept {
+  if (row.showing == Showing::complete) return kInchDecimals;
   return core::readBoolean(options.find(core::kDecimals)) ? 1 : 0;
 }
 
@@ -55,7 +55,7 @@ bool showsUnit(const PressureRow& row, const Dictionary& options) noexcept {
 const PressureRow& pressureRow() { return rowFor(kPressures, KZMUtilitiesDefaultUnits::shared().pressureUnit()); }
 
 core::Amount amountOf(const PressureRow& row, const Dictionary& options, double hectopascals) {
-  return atMost(digitsOf(row, options), row.fromHectopascals(hectopascals));
+  return atMost(decimalsOf(row, options), row.fromHectopascals(hectopascals));
 }
 
 }  // namespace
@@ -71,5 +71,5 @@ std::string KZMUtilitiesFormatWeatherPressure(const kzm::Dictionary& options, do
   using namespace kzm::core;
   const PressureRow& row = pressureRow();
   const Amount amount = amountOf(row, options, hectopascals);
-  return showsUnit(row, options) ? text(row.shown, readSpacing(options), amount) : text(amount);
+  return showsUnit(row, options) ? text(row.shownUnit, readSpacing(options), amount) : text(amount);
 }

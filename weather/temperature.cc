@@ -19,7 +19,7 @@ struct TemperatureRow {
   MeasurementUnit unit;
   Conversion fromCelsius;
   bool honorsDecimals;  // the others are whole numbers
-  Unit shown;
+  Unit shownUnit;
 };
 
 // clang-format off
@@ -63,7 +63,7 @@ std::string KZMUtilitiesFormatWeatherTemperature(const kzm::Dictionary& options,
   using namespace kzm::core;
   const TemperatureRow& row = temperatureRow(options);
   const Amount amount = amountOf(row, options, celsius);
-  std::string shown = readBoolean(options.find(kUnits)) ? text(row.shown, amount) : text(amount);
-  dropMinusBeforeZero(shown);
-  return shown;
+  std::string result = readBoolean(options.find(kUnits)) ? text(row.shownUnit, amount) : text(amount);
+  dropMinusBeforeZero(result);
+  return result;
 }

@@ -63,7 +63,7 @@ constexpr double unchanged(double value) noexcept { return value; }
 struct ChosenUnit {
   MeasurementUnit unit;
   Conversion fromBase;
-  Unit shown;
+  Unit shownUnit;
 };
 
 /// The row of the unit; the last row serves any other unit, such as one that a host put among the preferred units. Rows

@@ -67,7 +67,7 @@ std::string KZMUtilitiesFormatWeatherWindSpeed(const kzm::Dictionary& options, d
   using namespace kzm::core;
   const ChosenUnit& row = windRow();
   const Amount amount = amountOf(row, metersPerSecond);
-  return readBoolean(options.find(kUnits)) ? text(row.shown, readSpacing(options), amount) : text(amount);
+  return readBoolean(options.find(kUnits)) ? text(row.shownUnit, readSpacing(options), amount) : text(amount);
 }
 
 std::string KZMUtilitiesFormatWeatherWindDirection(double degrees) {

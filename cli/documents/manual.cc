@@ -45,8 +45,7 @@ std::vector<FlagText> flagsOfChoices(const Description& verb) {
   std::vector<FlagText> all;
   for (const Choice& choice : verb.choices) {
     for (const FlagText& flag : choice.flags) {
-      const auto isListed = [&](const FlagText& other) { return other.name == flag.name; };
-      if (std::none_of(all.begin(), all.end(), isListed)) all.push_back(flag);
+      if (std::ranges::find(all, flag.name, &FlagText::name) == all.end()) all.push_back(flag);
     }
   }
   return all;

@@ -47,8 +47,7 @@ std::vector<ListedSetting> makeList() {
 }
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
+  return std::ranges::equal(a, b, [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
 }
 
 std::int64_t codes(const ListedSetting& setting) { return std::ssize(setting.meanings) + 1; }

@@ -43,6 +43,13 @@ using TimePoint = std::optional<double>;
 // ---- Time zones -----------------------------------------------------------------------------------------------------
 
 /// A time zone of this machine's zone files. As cheap to copy as a pointer; a zone's file is read once in a process.
+///
+/// Example (UTC):
+///   TimeZone::utc().identifier()  // "UTC"
+///   TimeZone::setDefaultZone(*TimeZone::named("Asia/Kolkata"));
+///   TimeZone::defaultZone().identifier()  // "Asia/Kolkata"
+///   TimeZone::setDefaultZone(TimeZone::systemZone());
+///   TimeZone::defaultZone() == TimeZone::utc()  // true
 class KZM_EXPORT TimeZone {
  public:
   /// The zone of that name, such as "Europe/Paris" or "UTC"; null for an unknown name. Case matters.

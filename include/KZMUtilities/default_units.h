@@ -60,6 +60,17 @@ using PreferredUnits = std::map<std::string, MeasurementUnit, std::less<>>;
 ///
 /// Each accessor reads one setting as an integer ("2", 2.9 and 2 are code 2, true is code 1). A code of its list gives
 /// that unit; no setting, 0 and any other code give the preferred unit.
+///
+/// Example (English): in the United States, without settings
+///   KZMUtilitiesDefaultUnits units;
+///   units.windSpeedUnit()  // MeasurementUnit::milesPerHour
+///   units.sensorsTemperatureUnit()  // MeasurementUnit::fahrenheit
+///   units.weatherTemperatureUnit()  // MeasurementUnit::fahrenheit
+///   units.distanceUnit()  // MeasurementUnit::miles
+///   units.pressureUnit()  // MeasurementUnit::inchesOfMercury
+///   units.rainUnit()  // MeasurementUnit::inches
+///   units.snowUnit()  // MeasurementUnit::inches
+///   units.units().at("distance")  // MeasurementUnit::miles
 class KZM_EXPORT KZMUtilitiesDefaultUnits {
  public:
   /// `shared` The one instance that the library works with, made on the first call; it lives until the process ends.

@@ -137,10 +137,12 @@ class KZM_EXPORT Image {
 
   /// Empty: no size, and drawing it does nothing.
   Image() noexcept;
-  /// Transparent, with `scale` pixels to the point. Empty if a side is not above 0 or has more than 32767 pixels.
+  /// Transparent, with `scale` pixels to the point. Empty if a side is not above 0 or has more than 32767 pixels, and
+  /// if the scale is NaN or not within 1e-6 to 1e6.
   ///
   /// Example:
   ///   Image(Size{16.0, 8.0}, 2.0).size().width  // 16.0
+  ///   Image(Size{16.0, 8.0}, 0.0).size().width  // 0.0
   explicit Image(Size size, double scale = 1.0);
   /// A copy of an image surface's pixels and device scale; empty if it is none, finished or in an error state.
   [[nodiscard]] static Image fromSurface(cairo_surface_t* surface);

@@ -33,6 +33,12 @@ struct FormatterParts;
 /// Numbers are rounded half to even on the shortest decimal that reads back to the same double: 2.675 with two digits
 /// is 2.68. NaN is the locale's symbol without a sign; the infinities are the locale's symbol, with its minus when
 /// negative. A negative number that rounds to zero keeps its minus.
+///
+/// Example (English):
+///   NumberFormatter(1, 2).string(1234.0)  // "1,234.0"
+///   NumberFormatter(0, 2).string(2.675)  // "2.68"
+///   NumberFormatter(3, 1).string(1.5)  // "1.500"
+///   NumberFormatter(3, 1).maximumFractionDigits()  // 1
 class KZM_EXPORT NumberFormatter final : public Object {
  public:
   /// A formatter in the current locale. Any counts are taken and given back as they are; when a number is formatted
@@ -56,7 +62,12 @@ class KZM_EXPORT NumberFormatter final : public Object {
   const NumberSymbols* symbols_;  // of the locale in force when the formatter was made
 };
 
-/// A locale, known by its identifier.
+/// A locale, known by its identifier. Any text is taken and given back as it is, an empty or malformed one too: whoever
+/// is given the locale decides what that means.
+///
+/// Example:
+///   Locale("de_CH").identifier()  // "de_CH"
+///   Locale("no locale").identifier()  // "no locale"
 class KZM_EXPORT Locale final : public Object {
  public:
   explicit Locale(std::string identifier) : identifier_(std::move(identifier)) {}

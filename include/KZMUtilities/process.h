@@ -27,11 +27,24 @@ class Child;
 /// An open file, pipe end or device. Copies are handles on the same one: closing any of them closes it for all, once;
 /// a descriptor number that the system has since given to something else is never closed. The last handle to go closes
 /// it too.
+///
+/// Example:
+///   const FileHandle file = FileHandle::openForReading("/dev/null");
+///   const FileHandle copy = file;
+///   const FileHandle other = file.duplicate();
+///   copy.close();
+///   file.isOpen()  // false
+///   other.isOpen()  // true
 class KZM_EXPORT FileHandle {
  public:
   /// A closed handle.
   FileHandle() noexcept;
-  /// Takes over an open descriptor, and sees to it that programs started elsewhere do not inherit it.
+  /// Takes over an open descriptor, and sees to it that programs started elsewhere do not inherit it. A
+  /// number that is negative, or that no open descriptor has, gives a closed handle. When memory runs out, the
+  /// descriptor is closed.
+  ///
+  /// Example:
+  ///   FileHandle::adopt(-1).isOpen()  // false
   [[nodiscard]] static FileHandle adopt(int descriptor);
   /// Opens a file; closed if that fails.
   [[nodiscard]] static FileHandle openForReading(const std::string& path);

@@ -27,6 +27,14 @@ namespace kzm {
 ///                                           Dictionary, unit template to its text in the user's language
 /// An entry that a host puts there is used by the very next call. One of another kind than listed above counts as
 /// missing: the library makes its own and stores it in that place.
+///
+/// Example:
+///   Cache cache;
+///   const auto isText = [](const Value& value) { return value.string() != nullptr; };
+///   cache.findOrMake("greeting", isText, [] { return Value("hello"); })  // "hello"
+///   cache.set("greeting", "good morning");
+///   cache.findOrMake("greeting", isText, [] { return Value("hello"); })  // "good morning"
+///   cache.find("farewell").isNull()  // true
 class KZM_EXPORT Cache {
  public:
   Cache();
@@ -60,6 +68,14 @@ class KZM_EXPORT Cache {
 // ---- Its holder -----------------------------------------------------------------------------------------------------
 
 /// Holder of the shared cache.
+///
+/// Example (English): a host whose numbers with up to one fraction digit have three
+///   const auto own = std::make_shared<Cache>();
+///   own->set("NumberFormatter-Decimal--.1", std::make_shared<const NumberFormatter>(3, 3));
+///   KZMUtilities::shared().setCache(own);
+///   KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25)  // "1.250"
+///   KZMUtilities::shared().setCache(nullptr);
+///   KZMUtilitiesFormatNumber({{"decimals", 1}}, 1.25)  // "1.2"
 class KZM_EXPORT KZMUtilities {
  public:
   /// `shared` The one instance that the library works with, made on the first call; it lives until the process ends.

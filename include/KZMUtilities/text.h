@@ -50,8 +50,8 @@ KZM_EXPORT void replaceStringWithAttributedString(AttributedString& text, std::s
 /// and Urdu "19.7 GB / 83.1 GB" would be seen as "GB / 83.1 GB 19.7".
 ///
 /// Isolates of the text that are open get their ends, and ends without a beginning get one. An empty text stays as it
-/// is, and so does one that is isolated as a whole. Not needed are isolates in a line whose direction and whose texts
-/// are all from left to right, and for a text that has a line of its own; there they are invisible, but in copies.
+/// is, and so does one that is isolated as a whole. A line that is all from left to right needs no isolates, nor does a
+/// text on a line of its own. Isolates there do no harm: they are not seen, but are copied with the text.
 ///
 /// Example: with another one after " / ", a Hebrew line shows the two in its own order
 ///   isolated("19.7 GB")  // "\u206819.7 GB\u2069"

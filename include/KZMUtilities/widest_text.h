@@ -67,8 +67,8 @@ struct ValueRange {
 [[nodiscard]] KZM_EXPORT ValueRange usualRange(TextFamily family) noexcept;
 
 /// How wide a text is: in pixels, say. Of two texts that differ in digits, the one with the wider digits has to be the
-/// wider one. An empty one throws std::bad_function_call when it is asked; NaN is wider than nothing and narrower than
-/// nothing, so a measure that gives it makes any text of the range the widest.
+/// wider one. An empty one throws std::bad_function_call when it is asked. A measure must not give NaN: any text of the
+/// range may then be the widest.
 using TextMeasure = std::function<double(std::string_view)>;
 
 /// The measure of terminals and status bars: displayWidth.
@@ -81,7 +81,7 @@ using TextMeasure = std::function<double(std::string_view)>;
 /// that is found. No value in the range has a wider text, as long as the text has no more than 15 digits that count.
 /// NaN is in no range: a host that shows it compares its text with this one. A range without values has no text.
 ///
-/// It takes up to about a millisecond, and a thousand calls of the measure: nothing for each refresh.
+/// It takes up to about a millisecond, and a thousand calls of the measure: too slow to be called at each refresh.
 ///
 /// Example (English):
 ///   widestText(TextFamily::memory, {{"space", true}}, {0.0, 16e9})  // "1,024 KB"

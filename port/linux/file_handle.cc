@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <mutex>
 #include <unistd.h>
+#include <utility>
 
 #include <KZMUtilities/process.h>
 
@@ -24,7 +25,7 @@ int openFile(const std::string& path, int flags) {
 }  // namespace
 
 struct FileHandle::State {
-  explicit State(int number) : descriptor(number) {}
+  explicit State(port::Descriptor taken) : descriptor(std::move(taken)) {}
   State(const State&) = delete;
   State& operator=(const State&) = delete;
   ~State() = default;
@@ -35,13 +36,14 @@ struct FileHandle::State {
 
 FileHandle::FileHandle() noexcept = default;
 
+// What cannot be adopted for want of memory is closed.
 FileHandle FileHandle::adopt(int descriptor) {
   FileHandle handle;
   if (descriptor < 0) return handle;
   const int flags = ::fcntl(descriptor, F_GETFD);
   if (flags < 0) return handle;
   if ((flags & FD_CLOEXEC) == 0) ::fcntl(descriptor, F_SETFD, flags | FD_CLOEXEC);
-  handle.state_ = std::make_shared<State>(descriptor);
+  handle.state_ = std::make_shared<State>(port::Descriptor(descriptor));
   return handle;
 }
 
@@ -75,8 +77,9 @@ void FileHandle::close() const {
 Pipe::Pipe() {
   int ends[2] = {-1, -1};
   if (::pipe2(ends, O_CLOEXEC) != 0) return;
+  port::Descriptor writing(ends[1]);  // closed, too, if there is no memory for the first handle
   readingEnd_ = FileHandle::adopt(ends[0]);
-  writingEnd_ = FileHandle::adopt(ends[1]);
+  writingEnd_ = FileHandle::adopt(writing.release());
 }
 
 }  // namespace kzm

@@ -28,11 +28,17 @@ gboolean runOnce(gpointer data) noexcept {
 
 gboolean dispatch(GSource*, GSourceFunc callback, gpointer data) { return callback(data); }
 
+struct Unref {
+  void operator()(GSource* source) const { g_source_unref(source); }
+};
+using Source = std::unique_ptr<GSource, Unref>;
+
 // A source of no type of its own: it is ready by its time or by its descriptor alone.
-GSource* makeSource(GSourceFunc callback, Action action) {
+Source makeSource(GSourceFunc callback, Action action) {
   static GSourceFuncs functions{nullptr, nullptr, dispatch, nullptr, nullptr, nullptr};
-  GSource* source = g_source_new(&functions, sizeof(GSource));
-  g_source_set_callback(source, callback, std::make_unique<Action>(std::move(action)).release(),
+  auto held = std::make_unique<Action>(std::move(action));
+  Source source(g_source_new(&functions, sizeof(GSource)));
+  g_source_set_callback(source.get(), callback, held.release(),
                         [](gpointer data) { std::unique_ptr<Action>(static_cast<Action*>(data)).reset(); });
   return source;
 }
@@ -43,16 +49,17 @@ std::int64_t readyTime(std::int64_t nanoseconds) {
   return g_get_monotonic_time() + nanoseconds / kNanosecondsPerMicrosecond + rest;
 }
 
+// Nothing can fail once the source is attached: one that nobody holds would look at the descriptor forever.
 class DescriptorWatch final : public MainQueue::Watch {
  public:
-  explicit DescriptorWatch(GSource* source) : source_(source) {}
-  ~DescriptorWatch() override {
-    g_source_destroy(source_);
-    g_source_unref(source_);
+  DescriptorWatch(int descriptor, Action action) : source_(makeSource(run, std::move(action))) {
+    g_source_add_unix_fd(source_.get(), descriptor, G_IO_IN);
+    g_source_attach(source_.get(), nullptr);
   }
+  ~DescriptorWatch() override { g_source_destroy(source_.get()); }
 
  private:
-  GSource* source_;
+  Source source_;
 };
 
 class GlibMainQueue final : public MainQueue {
@@ -71,17 +78,13 @@ class GlibMainQueue final : public MainQueue {
   }
 
   void after(std::int64_t nanoseconds, Action action) override {
-    GSource* source = makeSource(runOnce, std::move(action));
-    g_source_set_ready_time(source, nanoseconds > 0 ? readyTime(nanoseconds) : 0);
-    g_source_attach(source, nullptr);
-    g_source_unref(source);
+    const Source source = makeSource(runOnce, std::move(action));
+    g_source_set_ready_time(source.get(), nanoseconds > 0 ? readyTime(nanoseconds) : 0);
+    g_source_attach(source.get(), nullptr);
   }
 
   std::unique_ptr<Watch> whenReadable(int descriptor, Action action) override {
-    GSource* source = makeSource(run, std::move(action));
-    g_source_add_unix_fd(source, descriptor, G_IO_IN);
-    g_source_attach(source, nullptr);
-    return std::make_unique<DescriptorWatch>(source);
+    return std::make_unique<DescriptorWatch>(descriptor, std::move(action));
   }
 
  private:

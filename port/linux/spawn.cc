@@ -49,7 +49,7 @@ class Steps {
   Steps& operator=(const Steps&) = delete;
   ~Steps() { posix_spawn_file_actions_destroy(&actions_); }
 
-  [[nodiscard]] bool complete() const { return complete_; }
+  [[nodiscard]] bool isComplete() const { return isComplete_; }
   [[nodiscard]] const posix_spawn_file_actions_t* get() const { return &actions_; }
 
  private:
@@ -59,10 +59,10 @@ class Steps {
     if (stream.kind == Stream::Kind::file)
       note(posix_spawn_file_actions_adddup2(&actions_, stream.file.descriptor(), number));
   }
-  void note(int error) { complete_ = complete_ && error == 0; }
+  void note(int error) { isComplete_ = isComplete_ && error == 0; }
 
   posix_spawn_file_actions_t actions_{};
-  bool complete_ = true;
+  bool isComplete_ = true;
 };
 
 bool isProgram(const std::string& path) {
@@ -91,7 +91,7 @@ std::vector<char*> pointers(const std::vector<std::string>& texts) {
 
 std::optional<pid_t> spawn(const Launch& launch) {
   const Steps steps(launch);
-  if (!isProgram(launch.executable) || !steps.complete()) return std::nullopt;
+  if (!isProgram(launch.executable) || !steps.isComplete()) return std::nullopt;
   std::vector<std::string> argumentTexts{launch.executable};
   argumentTexts.insert(argumentTexts.end(), launch.arguments.begin(), launch.arguments.end());
   const std::vector<char*> arguments = pointers(argumentTexts);

@@ -10,7 +10,7 @@
 namespace kzm::port {
 namespace {
 
-constexpr std::int64_t kDay = 86400;
+constexpr std::int64_t kSecondsInDay = 86400;
 static_assert(sizeof(std::time_t) == sizeof(std::int64_t), "the build asks 32-bit machines for the wide one");
 
 // Whatever TZ or /etc/localtime means to the C library: rules such as CET-1CEST, and files of one's own.
@@ -26,8 +26,8 @@ class LocalZone final : public Zone {
 
   // The offsets a day before and a day after are tried; offsets themselves are smaller than that.
   [[nodiscard]] LocalTimeInstants instants(std::int64_t local) const override {
-    const std::int64_t before = local - offset(local - kDay);
-    const std::int64_t after = local - offset(local + kDay);
+    const std::int64_t before = local - offset(local - kSecondsInDay);
+    const std::int64_t after = local - offset(local + kSecondsInDay);
     if (before == after) return {before, before, before};
     const bool holdsBefore = before + offset(before) == local;
     const bool holdsAfter = after + offset(after) == local;
@@ -35,7 +35,7 @@ class LocalZone final : public Zone {
       const std::int64_t only = holdsBefore ? before : after;
       return {only, only, only};
     }
-    return {before, changeBetween(local - kDay, local + kDay), after};
+    return {before, changeBetween(local - kSecondsInDay, local + kSecondsInDay), after};
   }
 
  private:

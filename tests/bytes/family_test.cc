@@ -42,9 +42,9 @@ TEST(Ladder, RatesHaveFour) {
 
 TEST(Ladder, FactorsAreThePublishedOnes) {
   const std::span<const Rung> rungs = rateLadder({}, Level::kilo).rungs();
-  EXPECT_EQ(rungs[0].shown.factor, 0.0009765625);
-  EXPECT_EQ(rungs[1].shown.factor, 9.5367431640625e-07);
-  EXPECT_EQ(rungs[2].shown.factor, 9.313225746154785e-10);
+  EXPECT_EQ(rungs[0].toShown.factor, 0.0009765625);
+  EXPECT_EQ(rungs[1].toShown.factor, 9.5367431640625e-07);
+  EXPECT_EQ(rungs[2].toShown.factor, 9.313225746154785e-10);
 }
 
 TEST(Ladder, ThresholdsAreReachedAsTheirTestsSay) {

@@ -107,7 +107,7 @@ TEST_F(ChildTest, ForceCancelNeedsNoWatchdog) {
   EXPECT_EQ(log_.lines, Texts{kTerminating}) << "nothing is left to stop";
 }
 
-TEST_F(ChildTest, ATimeoutOfZeroFiresOnTheNextTurn) {
+TEST_F(ChildTest, ATimeoutOfZeroFiresWhenTheMainLoopNextRuns) {
   const SharedChild child = helper({"block"});
   child->launchWithTimeout(0.0);
   EXPECT_TRUE(log_.lines.empty()) << "not before the queue runs";

@@ -2,15 +2,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <sys/mman.h>
-#include <thread>
-#include <vector>
 
 #include <KZMUtilities/text.h>
 
-#include "port/regex.h"
 #include "tests/support/runs.h"
-#include "tests/support/sweeps.h"
 
 namespace kzm {
 namespace {
@@ -139,107 +134,6 @@ TEST(MatchForExpression, GivesTheFirstGroupOfTheFirstMatch) {
     EXPECT_EQ(matchForExpression(c.text, c.pattern), c.group) << c.why;
     EXPECT_EQ(doesStringMatchExpression(c.text, c.pattern), c.group.has_value()) << c.why;
   }
-}
-
-TEST(MatchForExpression, LongTextsAreReadToTheEnd) {
-  const std::string text = std::string(1000000, 'a') + " 42 b";
-  EXPECT_EQ(matchForExpression(text, "(\\d+) B"), "42");
-  EXPECT_EQ(matchForExpression(text, "a (\\d+)"), "42");
-  const std::string large = std::string(tests::inSweep<std::size_t>(64, 4) << 20U, 'a') + " 42 zebra";
-  for (const char* pattern : {"(zebra)", "\\d+ (ZEBRA)", "(z[a-e]+ra)$"})
-    EXPECT_EQ(matchForExpression(large, pattern), "zebra") << pattern;
-}
-
-// Most of these would take years without a bound.
-TEST(MatchForExpression, GivesUpWhatWouldRunAway) {
-  const MatchCase cases[] = {
-      {"nested repetition", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!", "(a+)+$", std::nullopt},
-      {"alternatives", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!", "(a|aa)+$", std::nullopt},
-      {"nested look-ahead", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!", "((?=(a+)+$)|a)+!?\\d", std::nullopt},
-  };
-  for (const MatchCase& c : cases) EXPECT_EQ(matchForExpression(c.text, c.pattern), c.group) << c.why;
-  const std::string many(1000000, 'a');
-  EXPECT_EQ(matchForExpression(many, "((?:a|b)*)c"), std::nullopt) << "the engine's stack is full";
-  EXPECT_EQ(matchForExpression(many, "(a*)\\1b"), std::nullopt) << "long back-references";
-}
-
-TEST(MatchForExpression, GivesUpAfterItsTime) {
-  if (!tests::sweepsAreWhole()) GTEST_SKIP() << "left out: it takes the seconds that a search may take";
-  const std::string many(1000000, 'a');
-  EXPECT_EQ(matchForExpression(many, "([^x]*+)y"), std::nullopt) << "work that is not counted in steps";
-  EXPECT_EQ(matchForExpression(many, std::string(16000, 'a') + "(b)"), std::nullopt) << "a long literal";
-  const std::string_view longest = std::string_view(many).substr(0, port::kLongestTextForBackReference);
-  EXPECT_EQ(matchForExpression(longest, "(a*)\\1b"), std::nullopt) << "back-references in all that is searched";
-}
-
-TEST(MatchForExpression, TheBoundsAreThese) {
-  EXPECT_EQ(port::kLongestText, 1073741824U);
-  EXPECT_EQ(port::kLongestTextForBackReference, 16384U);
-  EXPECT_EQ(port::kLongestPattern, 65536U);
-  EXPECT_EQ(port::kAlwaysCompiled, 2048U);
-}
-
-std::string repeated(std::string_view text, std::size_t count) {
-  std::string all;
-  for (std::size_t i = 0; i < count; ++i) all += text;
-  return all;
-}
-
-TEST(MatchForExpression, LongTextsAreNotSearchedForBackReferences) {
-  const std::string doubled = std::string(port::kLongestTextForBackReference - 2, 'a') + "bb";
-  EXPECT_EQ(matchForExpression(doubled, "(b)\\1"), "b");
-  EXPECT_EQ(matchForExpression(doubled + "a", "(b)\\1"), std::nullopt);
-  EXPECT_EQ(matchForExpression(doubled + "\\1", "(b)\\\\1"), "b") << "a backslash and a digit";
-  EXPECT_EQ(matchForExpression(doubled + "\\k", "\\Q\\k\\E|(b)"), "b") << "quoted";
-}
-
-TEST(MatchForExpression, RefusesPatternsThatTakeTooLongToCompile) {
-  const std::string set = "[\\W]";
-  const std::size_t fits = (port::kAlwaysCompiled - 8) / set.size();
-  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated(set, fits)), "b") << "two kilobytes, whatever they hold";
-  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated(set, 3200)), std::nullopt);
-  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated("[\\x{0}-\\x{10ffff}]", 700)), std::nullopt);
-  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated("[^a]", 4000)), "b") << "sets that cost next to nothing";
-  EXPECT_EQ(matchForExpression("b", "(b)|" + repeated("\\W", 5000)), "b") << "no set at all";
-  const std::string longest = "(b)|" + std::string(port::kLongestPattern - 4, 'c');
-  EXPECT_EQ(matchForExpression("b", longest), "b");
-  EXPECT_EQ(matchForExpression("b", longest + "c"), std::nullopt);
-}
-
-TEST(MatchForExpression, ATextBeyondAnyLimitIsNotEvenRead) {
-  // Where there can be one, a size that does not fit in 32 bits.
-  constexpr std::size_t kMebibytes = sizeof(std::size_t) > 4 ? 5 * 1024 : 1536;
-  constexpr std::size_t kSize = kMebibytes << 20U;
-  void* memory = mmap(nullptr, kSize, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-  ASSERT_NE(memory, MAP_FAILED);
-  const std::string_view huge(static_cast<const char*>(memory), kSize);
-  EXPECT_FALSE(doesStringMatchExpression(huge, "(a)"));
-  EXPECT_FALSE(doesStringMatchExpression("a", huge));
-  munmap(memory, kSize);
-}
-
-TEST(MatchForExpression, AnotherPatternIsNotTakenForTheLastOne) {
-  for (int round = 0; round < 2; ++round) {
-    EXPECT_EQ(matchForExpression("ab", "(a)"), "a");
-    EXPECT_EQ(matchForExpression("b", "(a)"), std::nullopt);
-    EXPECT_EQ(matchForExpression("ab", "(a"), std::nullopt);
-    EXPECT_EQ(matchForExpression("ab", "(a"), std::nullopt);
-    EXPECT_EQ(matchForExpression("ab", ""), std::nullopt);
-    EXPECT_EQ(matchForExpression("ab", "(b)"), "b");
-  }
-}
-
-TEST(MatchForExpression, EveryThreadMaySearch) {
-  std::vector<std::optional<std::string>> results(8);
-  std::vector<std::thread> threads;
-  threads.reserve(results.size());
-  for (auto& result : results) {
-    threads.emplace_back([&result] {
-      for (int i = 0; i < 200; ++i) result = matchForExpression("12 Files", "(\\d+) files");
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-  for (const auto& result : results) EXPECT_EQ(result, "12");
 }
 
 }  // namespace

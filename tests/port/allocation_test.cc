@@ -2,16 +2,23 @@
 // some of its allocations; at all others the call fails or gives the right answer, and so do all that follow.
 #include <cstddef>
 #include <functional>
+#include <glib.h>
 #include <gtest/gtest.h>
+#include <memory>
 #include <string>
+#include <unistd.h>
+
+#include <KZMUtilities/process.h>
 
 #include "port/environment_locale.h"
+#include "port/main_queue.h"
 #include "port/measurement_habits.h"
 #include "port/number_symbols.h"
 #include "port/posix_variant.h"
 #include "port/regex.h"
 #include "port/time_zone.h"
 #include "tests/support/allocations.h"
+#include "tests/support/processes.h"
 #include "tests/support/sweeps.h"
 
 namespace kzm::port {
@@ -96,6 +103,61 @@ TEST(FailingAllocation, InsideIcuIsNoSearchWithoutAMatch) {
     }
     EXPECT_GT(number, compiles ? 30U : 5U);
   }
+}
+
+// The same call twice, so that what ICU keeps of the first one is there already.
+TEST(FailingAllocation, InsideIcuKeepsNoListOfLocales) {
+  const auto ask = [] { static_cast<void>(usableLocale("sr_RS@latin")); };
+  ask();
+  std::size_t number = 1;
+  for (bool failed = true; failed; ++number) {
+    static_cast<void>(tests::callWithFailure(Heap::icu, number, ask));
+    const std::ptrdiff_t before = tests::icuBlocks();
+    failed = tests::callWithFailure(Heap::icu, number, ask);
+    EXPECT_EQ(tests::icuBlocks(), before) << "allocation " << number;
+  }
+  EXPECT_GT(number, 10U);
+}
+
+TEST(FailingAllocation, LosesNoDescriptor) {
+  const Pipe pipe;
+  struct Case {
+    const char* what;
+    std::function<FileHandle()> open;
+  };
+  const Case cases[] = {
+      {"a file to read", [] { return FileHandle::openForReading("/dev/null"); }},
+      {"a file to write", [] { return FileHandle::openForWriting("/dev/null"); }},
+      {"a copy", [&] { return pipe.readingEnd().duplicate(); }},
+      {"a pipe", [] { return Pipe().readingEnd(); }},
+  };
+  for (const Case& c : cases) {
+    const std::ptrdiff_t before = tests::openDescriptors();
+    std::size_t number = 1;
+    while (tests::callWithFailure(Heap::own, number, [&] { static_cast<void>(c.open()); })) {
+      EXPECT_EQ(tests::openDescriptors(), before) << c.what << ", allocation " << number;
+      ++number;
+    }
+    EXPECT_GT(number, 1U) << c.what;
+  }
+}
+
+// Its descriptor may be another file's by the time that the main loop runs.
+TEST(FailingAllocation, LeavesNoDescriptorWatched) {
+  const Pipe pipe;
+  ASSERT_EQ(::write(pipe.writingEnd().descriptor(), "x", 1), 1);
+  const auto runs = std::make_shared<int>(0);
+  const auto watch = [&] {
+    static_cast<void>(mainQueue().whenReadable(pipe.readingEnd().descriptor(), [runs] { ++*runs; }));
+  };
+  std::size_t number = 1;
+  while (tests::callWithFailure(Heap::own, number, watch)) {
+    EXPECT_FALSE(g_main_context_iteration(nullptr, FALSE)) << "allocation " << number;
+    EXPECT_EQ(*runs, 0) << "allocation " << number;
+    EXPECT_EQ(runs.use_count(), 1) << "the action is released, allocation " << number;
+    ++number;
+  }
+  EXPECT_GT(number, 2U);
 }
 
 }  // namespace

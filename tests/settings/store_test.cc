@@ -1,22 +1,17 @@
 #include "settings/store.h"
 
-#include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <csignal>
-#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
 #include <memory>
 #include <string>
-#include <sys/resource.h>
-#include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 
 #include <KZMUtilities/dictionary.h>
 
+#include "tests/settings/store_fixture.h"
 #include "tests/support/scratch_directory.h"
 
 using namespace std::string_literals;
@@ -25,22 +20,6 @@ namespace kzm::settings {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kFile = "KZMUtilities/settings.json";
-
-// Looks at the file at every read, so that nothing here has to wait.
-class StoreTest : public testing::Test {
- protected:
-  tests::ScratchDirectory scratch_;
-  std::string path_ = scratch_.path(kFile);
-  Store store_{path_, 0};
-
-  [[nodiscard]] std::string linesOf(int reads) {
-    testing::internal::CaptureStderr();
-    for (int i = 0; i < reads; ++i) EXPECT_EQ(store_.find("a"), Value());
-    return testing::internal::GetCapturedStderr();
-  }
-};
 
 TEST_F(StoreTest, WithoutAFileThereAreNoSettingsAndReadingMakesNone) {
   EXPECT_EQ(linesOf(3), "");
@@ -141,124 +120,10 @@ TEST_F(StoreTest, AFileThatBreaksTakesItsSettingsAway) {
   EXPECT_TRUE(store_.objects().empty());
 }
 
-TEST_F(StoreTest, AnUnusablePlaceNeitherHangsNorIsOverwritten) {
-  struct Case {
-    const char* why;
-    int (*make)(const char* path);
-    const char* fault;
-  };
-  constexpr Case kCases[] = {
-      {"a pipe nobody writes to", [](const char* path) { return mkfifo(path, 0600); }, "it is not a regular file"},
-      {"a directory", [](const char* path) { return mkdir(path, 0700); }, "it is not a regular file"},
-      {"a device", [](const char* path) { return symlink("/dev/zero", path); }, "it is not a regular file"},
-      {"a link to itself", [](const char* path) { return symlink("settings.json", path); },
-       "Too many levels of symbolic links"},
-  };
-  fs::create_directories(scratch_.path("KZMUtilities"));
-  for (const Case& row : kCases) {
-    ASSERT_EQ(row.make(path_.c_str()), 0) << row.why;
-    const fs::file_type type = fs::symlink_status(path_).type();
-    EXPECT_EQ(linesOf(3), "KZMSettings: " + path_ + " is not used: " + row.fault + "\n") << row.why;
-    EXPECT_FALSE(store_.set(1, "a")) << row.why;
-    EXPECT_EQ(fs::symlink_status(path_).type(), type) << row.why;
-    fs::remove(path_);
-    EXPECT_EQ(linesOf(1), "") << row.why;
-  }
-}
-
-TEST_F(StoreTest, AFileAboveTheSizeLimitIsNotRead) {
-  const std::string most = "{\"b\": 1}" + std::string(kMostBytes - 8, ' ');
-  scratch_.write(kFile, most);
-  EXPECT_EQ(store_.find("b"), Value(1));
-  scratch_.write(kFile, most + " ");
-  EXPECT_EQ(linesOf(1), "KZMSettings: " + path_ + " is not used: it is larger than 1048576 bytes\n");
-  EXPECT_EQ(store_.find("b"), Value());
-}
-
-TEST_F(StoreTest, AFileInThePlaceOfTheDirectoryMeansNoSettings) {
-  scratch_.write("KZMUtilities", "in the way");
-  EXPECT_EQ(linesOf(1), "");
-  EXPECT_FALSE(store_.set(1, "a"));
-  EXPECT_EQ(scratch_.read("KZMUtilities"), "in the way");
-}
-
 TEST(Store, WithoutAPlaceNothingIsStored) {
   Store store("");
   EXPECT_EQ(store.find("a"), Value());
   EXPECT_FALSE(store.set(1, "a"));
-}
-
-TEST_F(StoreTest, WhatIsMadeBelongsToTheUserAloneAndNothingElseIsLeft) {
-  Store deep(scratch_.path("one/two/KZMUtilities/settings.json"));
-  EXPECT_TRUE(deep.set(1, "a"));
-  EXPECT_TRUE(deep.set(2, "a"));
-  EXPECT_EQ(fs::status(scratch_.path("one")).permissions(), fs::perms::owner_all);
-  EXPECT_EQ(fs::status(scratch_.path("one/two/KZMUtilities")).permissions(), fs::perms::owner_all);
-  const fs::perms kOwnerReadsAndWrites = fs::perms::owner_read | fs::perms::owner_write;
-  std::vector<std::string> names;
-  for (const auto& entry : fs::directory_iterator(scratch_.path("one/two/KZMUtilities"))) {
-    EXPECT_EQ(entry.status().permissions(), kOwnerReadsAndWrites) << entry.path();
-    names.push_back(entry.path().filename());
-  }
-  std::sort(names.begin(), names.end());
-  EXPECT_EQ(names, (std::vector<std::string>{"settings.json", "settings.json.lock"}));
-}
-
-TEST_F(StoreTest, AnExistingFileKeepsItsModeAndOwner) {
-  scratch_.write(kFile, "{}");
-  ASSERT_TRUE(geteuid() != 0 || chown(path_.c_str(), 65534, 65534) == 0);
-  for (const mode_t mode : {0664U, 0600U, 0640U}) {
-    ASSERT_EQ(chmod(path_.c_str(), mode), 0);
-    struct stat before {};
-    ASSERT_EQ(stat(path_.c_str(), &before), 0);
-    EXPECT_TRUE(store_.set(static_cast<int>(mode), "a"));
-    struct stat after {};
-    ASSERT_EQ(stat(path_.c_str(), &after), 0);
-    EXPECT_EQ(after.st_mode, before.st_mode);
-    EXPECT_EQ(after.st_uid, before.st_uid);
-    EXPECT_EQ(after.st_gid, before.st_gid);
-  }
-}
-
-TEST_F(StoreTest, AnExistingFileKeepsAnyUserAndAnyGroup) {
-  if (geteuid() != 0) GTEST_SKIP() << "left out: only root can give a file away";
-  scratch_.write(kFile, "{}");
-  struct Owner {
-    uid_t user;
-    gid_t group;
-  };
-  for (const Owner& owner : {Owner{65534, 0}, Owner{0, 65534}, Owner{0, 0}}) {
-    ASSERT_EQ(chown(path_.c_str(), owner.user, owner.group), 0);
-    EXPECT_TRUE(store_.set(static_cast<int>(owner.user + 2 * owner.group), "a"));
-    struct stat after {};
-    ASSERT_EQ(stat(path_.c_str(), &after), 0);
-    EXPECT_EQ(after.st_uid, owner.user);
-    EXPECT_EQ(after.st_gid, owner.group);
-  }
-}
-
-TEST_F(StoreTest, WhatRootMakesForAUserIsTheUsers) {
-  if (geteuid() != 0) GTEST_SKIP() << "left out: only root can act for a user";
-  ASSERT_EQ(chown(scratch_.path("").c_str(), 65534, 65534), 0);
-  EXPECT_TRUE(store_.set(1, "a"));
-  for (const char* made : {"KZMUtilities", "KZMUtilities/settings.json", "KZMUtilities/settings.json.lock"}) {
-    struct stat status {};
-    ASSERT_EQ(stat(scratch_.path(made).c_str(), &status), 0) << made;
-    EXPECT_EQ(status.st_uid, 65534U) << made;
-    EXPECT_EQ(status.st_gid, 65534U) << made;
-  }
-}
-
-TEST_F(StoreTest, WhatAKilledWriterLeftIsGoneAfterTheNextChange) {
-  scratch_.write(kFile, "{}");
-  scratch_.write(std::string(kFile) + ".new", "half a fi");
-  scratch_.write("mine", "precious");
-  EXPECT_TRUE(store_.set(1, "a"));
-  EXPECT_FALSE(fs::exists(path_ + ".new"));
-  fs::create_hard_link(scratch_.path("mine"), path_ + ".new");
-  EXPECT_TRUE(store_.set(2, "a"));
-  EXPECT_EQ(scratch_.read("mine"), "precious") << "removed, not emptied";
-  EXPECT_EQ(store_.find("a"), Value(2));
 }
 
 TEST_F(StoreTest, AnEmptyFileIsNoSettingsAndCanBeWritten) {
@@ -325,32 +190,6 @@ TEST_F(StoreTest, EachFailureNamesTheFileAndTheReason) {
   }
 }
 
-TEST_F(StoreTest, AFailedWriteReportsTheReasonAndLeavesNothing) {
-  EXPECT_TRUE(store_.set(1, "a"));
-  const rlimit none{0, RLIM_INFINITY};
-  rlimit before{};
-  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-  testing::internal::CaptureStderr();
-  const auto former = std::signal(SIGXFSZ, SIG_IGN);
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
-  const bool changed = store_.set(2, "a");
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-  std::signal(SIGXFSZ, former);
-  static_cast<void>(testing::internal::GetCapturedStderr());
-  EXPECT_FALSE(changed);
-  EXPECT_EQ(store_.find("a"), Value(1));
-  EXPECT_FALSE(fs::exists(path_ + ".new"));
-}
-
-TEST_F(StoreTest, ALinkedFileIsReplacedWhereItIs) {
-  scratch_.write("kept/real.json", "{}");
-  fs::create_directories(scratch_.path("KZMUtilities"));
-  fs::create_symlink(scratch_.path("kept/real.json"), path_);
-  EXPECT_TRUE(store_.set(1, "a"));
-  EXPECT_TRUE(fs::is_symlink(path_));
-  EXPECT_EQ(scratch_.read("kept/real.json"), "{\n  \"a\": 1\n}\n");
-}
-
 TEST_F(StoreTest, ChangesOfTheFileAreSeenAlsoWithinOneTickOfItsClock) {
   for (int i = 0; i < 50; ++i) {
     scratch_.write(kFile, "{\"a\": " + std::to_string(10 + i) + "}");
@@ -390,30 +229,6 @@ TEST_F(StoreTest, TwoStoresInOneThreadKeepApart) {
   EXPECT_EQ(store_.find("a"), Value(1));
   EXPECT_EQ(other.find("a"), Value(2));
   EXPECT_EQ(store_.find("a"), Value(1));
-}
-
-TEST_F(StoreTest, AChangeIsRefusedWhileAnotherProcessKeepsTheLock) {
-  EXPECT_TRUE(store_.set(1, "a"));
-  {
-    const Lock lock(path_);
-    ASSERT_TRUE(lock.held());
-    EXPECT_FALSE(store_.set(2, "a"));
-    EXPECT_EQ(store_.find("a"), Value(1));
-  }
-  EXPECT_TRUE(store_.set(2, "a"));
-}
-
-TEST_F(StoreTest, AChangeWaitsForTheLock) {
-  EXPECT_TRUE(store_.set(1, "a"));
-  auto lock = std::make_unique<Lock>(path_);
-  ASSERT_TRUE(lock->held());
-  std::thread other([&lock] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(200));
-    lock.reset();
-  });
-  EXPECT_TRUE(store_.set(2, "a"));
-  other.join();
-  EXPECT_EQ(store_.find("a"), Value(2));
 }
 
 TEST_F(StoreTest, ObjectsInMemoryReplaceTheFileForGood) {

@@ -13,6 +13,9 @@ namespace kzm::tests {
 /// How often any thread has called operator new since the program started.
 [[nodiscard]] std::size_t allocations() noexcept;
 
+/// How many blocks ICU has allocated and not released: its caches, and what was lost.
+[[nodiscard]] std::ptrdiff_t icuBlocks() noexcept;
+
 /// Whose allocations.
 enum class Heap { own, icu };
 

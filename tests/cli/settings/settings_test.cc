@@ -159,7 +159,7 @@ TEST(Settings, AWriteThatFailsNamesTheFileAndTheReason) {
   configuration().write("config/KZMUtilities/settings.json", "{}");
   EXPECT_EQ(outcome.errors, "KZMSettings: " + path +
                                 " is not changed: line 1 is not JSON\n"
-                                "kzmutil: settings: the settings file could not be written\n");
+                                "kzmutil: settings: the setting could not be stored\n");
   EXPECT_EQ(outcome.output, "");
   EXPECT_EQ(outcome.status, 1);
 }

@@ -20,7 +20,7 @@ void runAll() {
   }
 }
 
-TEST(MainQueue, RunsOnTheNextTurnAndOnce) {
+TEST(MainQueue, RunsWhenTheMainLoopNextRunsAndOnce) {
   int runs = 0;
   mainQueue().after(0, [&] { ++runs; });
   EXPECT_EQ(runs, 0);
