@@ -14,7 +14,7 @@ namespace {
 bool isPlain(std::string_view string) {
   // Not the one of std::ranges, which looks at one character a step instead of four.
   return std::all_of(string.begin(), string.end(),
-                     [](char c) { return c >= ' ' && c != '"' && c != '\\' && c != '\x7f'; });
+                     [](char c) { return c >= ' ' && c < '\x7f' && c != '"' && c != '\\'; });
 }
 
 void appendInteger(std::string& text, std::int64_t integer) {
