@@ -83,9 +83,9 @@ core::Reading bandwidth(const Dictionary& options, double bytesPerSecond) {
 // Deliberate: two styles of one text differ when there are no decimals. The plain one groups thousands in the locale's
 // way, the attributed one never does (Bandwidth.WithoutDecimalsTheAttributedNumberIsNeverGrouped).
 core::Reading attributedBandwidth(const Dictionary& options, double bytesPerSecond) {
-  core::Reading reading = bandwidth(options, bytesPerSecond);
-  if (reading.amount.decimals <= 0) reading.amount.digits = core::Digits::plain;
-  return reading;
+  core::Reading shown = bandwidth(options, bytesPerSecond);
+  if (shown.amount.decimals <= 0) shown.amount.digits = core::Digits::plain;
+  return shown;
 }
 
 }  // namespace kzm::bytes

@@ -32,11 +32,11 @@ static_assert(core::wellFormed(kTexts));
 constexpr core::UnitTable kDiskActivityTable{"Localizations-Units-DiskActivity", kRows};
 
 // "hide-bytes" hides rates below one kilobyte per second. NaN is not below.
-constexpr double kHiddenBelow = 1024.0;
+constexpr double kLeastBytesPerSecond = 1024.0;
 
 bool isHidden(const Dictionary& options, double bytesPerSecond) {
   static constexpr Key kHideBytes = "hide-bytes";
-  return bytesPerSecond < kHiddenBelow && core::readBoolean(options.find(kHideBytes));
+  return bytesPerSecond < kLeastBytesPerSecond && core::readBoolean(options.find(kHideBytes));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// From a raw quantity to the number, its decimals and its unit. The number is looked for before the unit: the rules
-// take the processor the longest, and the options of the unit are read in the meantime.
+// From a raw quantity to the number, its decimals and its unit. The number comes first: its decimals rules take
+// longest, and the processor reads the options of the unit meanwhile.
 #ifndef KZM_BYTES_SCALING_H
 #define KZM_BYTES_SCALING_H
 
@@ -39,10 +39,10 @@ struct Scaled {
 }
 
 /// The number with its unit text, by level and style.
-[[nodiscard, gnu::always_inline]] inline core::Reading reading(const Scaled& scaled, const UnitIndex& index,
+[[nodiscard, gnu::always_inline]] inline core::Reading reading(const Scaled& shown, const UnitIndex& index,
                                                                UnitStyle style, core::Digits digits) {
-  const auto unit = static_cast<std::size_t>(Unit{style.form, scaled.level});
-  return {index.row(unit, style.spacing), {digits, scaled.decimals, scaled.number}};
+  const auto unit = static_cast<std::size_t>(Unit{style.form, shown.level});
+  return {index.row(unit, style.spacing), {digits, shown.decimals, shown.number}};
 }
 
 /// The style of the families with a boolean "short", which wins over "space": `full` is what they write else.

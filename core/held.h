@@ -30,7 +30,7 @@ class HeldStyles {
  public:
   /// The style of the shared formatter for the given number of fraction digits.
   [[nodiscard]] NumberStyle style(DigitRule rule, std::int64_t digits) {
-    if (epoch_ == CacheChanges::count() && digits >= 0 && digits < kDigits) [[likely]] {
+    if (changes_ == CacheChanges::count() && digits >= 0 && digits < kDigits) [[likely]] {
       const NumberStyle& style = styles_[static_cast<std::size_t>(rule)][static_cast<std::size_t>(digits)];
       if (style.symbols != nullptr) [[likely]]
         return style;
@@ -44,7 +44,7 @@ class HeldStyles {
   // Nobody reads more digits than these every second; larger counts are fetched from the cache each time.
   static constexpr std::int64_t kDigits = 16;
 
-  std::uint64_t epoch_ = 0;
+  std::uint64_t changes_ = 0;
   std::array<std::array<NumberStyle, kDigits>, 2> styles_{};  // without symbols: not fetched yet
 };
 
@@ -53,7 +53,7 @@ class HeldTexts {
  public:
   /// The text of the row; not there when the table in the cache lacks it.
   [[nodiscard]] const Template& row(const UnitTable& table, std::size_t row) {
-    if (epoch_ != CacheChanges::count()) [[unlikely]]
+    if (changes_ != CacheChanges::count()) [[unlikely]]
       fetch(table);
     return templates_[row];
   }
@@ -61,7 +61,7 @@ class HeldTexts {
  private:
   void fetch(const UnitTable& table);
 
-  std::uint64_t epoch_ = 0;
+  std::uint64_t changes_ = 0;
   std::shared_ptr<const Dictionary> texts_;  // whose strings the templates view
   std::vector<Template> templates_;
 };

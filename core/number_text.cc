@@ -46,12 +46,13 @@ void ShortNumber::putLocalDigits(const NumberSymbols& symbols, std::uint32_t dig
 
 // As ShortNumber::word, with digits of two bytes. The separator is written over what follows the integer part, and the
 // fraction once more after it.
-void ShortNumber::putPairs(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits, int fractionDigits,
-                           char* to) noexcept {
+void ShortNumber::putTwoByteDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits,
+                                   int fractionDigits, char* to) noexcept {
+  // An ASCII digit's low half is its value, which is added to the second byte of a zero.
   const auto putEight = [&](char* place, std::uint64_t eight) {
     for (const std::uint64_t half : {eight & 0xffffffff, eight >> 32U}) {
       const std::uint64_t apart = (half | half << 16U) & 0x0000ffff0000ffff;
-      putWord(place, symbols.pairs + (((apart | apart << 8U) & 0x000f000f000f000f) << 8U));
+      putWord(place, symbols.twoByteZeros + (((apart | apart << 8U) & 0x000f000f000f000f) << 8U));
       place += kWordBytes;
     }
   };
@@ -78,8 +79,8 @@ LongNumber::LongNumber(NumberStyle style, double value) noexcept
             static_cast<std::size_t>(separators_) * symbols_.groupSeparator.size() +
             (fractionDigits_ > 0 ? symbols_.decimalSeparator.size() : 0);
   } else {
-    word_ = std::isnan(value) ? &symbols_.notANumber : &symbols_.infinity;
-    size_ = word_->size();
+    namedText_ = std::isnan(value) ? &symbols_.notANumber : &symbols_.infinity;
+    size_ = namedText_->size();
   }
   if (isNegative_) size_ += symbols_.negativePrefix.size() + symbols_.negativeSuffix.size();
 }
@@ -151,7 +152,7 @@ char* LongNumber::putNumber(char* to) const noexcept {
 
 char* LongNumber::writeTo(char* to) const noexcept {
   if (isNegative_) to = putText(to, symbols_.negativePrefix);
-  to = word_ != nullptr ? putText(to, *word_) : putNumber(to);
+  to = namedText_ != nullptr ? putText(to, *namedText_) : putNumber(to);
   return isNegative_ ? putText(to, symbols_.negativeSuffix) : to;
 }
 

@@ -39,7 +39,7 @@ struct NumberStyle {
 /// As the formatter writes it.
 [[nodiscard]] NumberStyle styleOf(const NumberFormatter& formatter) noexcept;
 
-/// With so much room beyond it a number is written fastest: by words that cover more than its text.
+/// Digits of two bytes are written by words where this much room is left after the number.
 inline constexpr std::size_t kSpareRoom = 2 * kWordBytes;
 
 /// A number of at most nine digits, rounded and laid out. Nearly every number of a monitor is one: it is found by
@@ -55,8 +55,8 @@ class ShortNumber {
   /// Writes the text and gives the place after it. Up to the end of the room, anything may be written too.
   [[gnu::always_inline]] char* writeTo(char* to, const char* roomEnd) const noexcept;
 
-  /// Whether the text is a word of bytes, without a sign.
-  [[nodiscard]] bool isWord() const noexcept { return isWord_ && !isNegative_; }
+  /// Whether the text is one word: bytes without a sign.
+  [[nodiscard]] bool isOneWord() const noexcept { return fitsWord_ && !isNegative_; }
   /// That word, the first byte in the lowest one, and how many bytes of it are the text.
   [[nodiscard, gnu::always_inline]] std::uint64_t word() const noexcept;
   [[nodiscard]] std::size_t wordSize() const noexcept {
@@ -70,13 +70,13 @@ class ShortNumber {
   // These take no `this`, which would have to be in memory.
   static void putLocalDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits, int fractionDigits,
                              int separators, char* end) noexcept;
-  static void putPairs(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits, int fractionDigits,
-                       char* to) noexcept;
+  static void putTwoByteDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits,
+                               int fractionDigits, char* to) noexcept;
 
   const NumberSymbols& symbols_;
   bool isNegative_;
   bool isLaidOut_ = false;
-  bool isWord_ = false;
+  bool fitsWord_ = false;
   std::uint32_t digits_ = 0;  // integer part and fraction together
   int integerDigits_ = 0;
   int fractionDigits_ = 0;
@@ -105,8 +105,8 @@ class LongNumber {
 
   const NumberSymbols& symbols_;
   bool isNegative_;
-  const std::string* word_ = nullptr;  // instead of digits, of a number that has none
-  const char* digits_ = nullptr;       // ASCII: integer part and fraction, without a point
+  const std::string* namedText_ = nullptr;  // instead of digits, of a number that has none
+  const char* digits_ = nullptr;            // ASCII: integer part and fraction, without a point
   int integerDigits_ = 0;
   int fractionDigits_ = 0;
   int separators_ = 0;
@@ -140,7 +140,7 @@ inline ShortNumber::ShortNumber(NumberStyle style, double value) noexcept
   for (; fractionDigits_ > style.least && digits_ % 10 == 0; digits_ /= 10) --fractionDigits_;
   integerDigits_ = std::max(countDigits(digits_) - fractionDigits_, 1);
   separators_ = countSeparators(symbols_, integerDigits_);
-  isWord_ = symbols_.areBytes && separators_ == 0 && digitCount() < static_cast<int>(kWordBytes);
+  fitsWord_ = symbols_.takeOneByteEach && separators_ == 0 && digitCount() < static_cast<int>(kWordBytes);
 }
 
 inline std::size_t ShortNumber::size() const noexcept {
@@ -199,10 +199,10 @@ inline char* ShortNumber::writeTo(char* to, const char* roomEnd) const noexcept 
     end -= symbols_.negativeSuffix.size();
   }
   const auto room = static_cast<std::size_t>(roomEnd - to);
-  if (isWord_ && room >= kWordBytes) {
+  if (fitsWord_ && room >= kWordBytes) {
     putWord(to, word());
-  } else if (symbols_.pairs != 0 && separators_ == 0 && digitCount() <= 8 && room >= size + kSpareRoom) {
-    putPairs(symbols_, digits_, integerDigits_, fractionDigits_, to);
+  } else if (symbols_.twoByteZeros != 0 && separators_ == 0 && digitCount() <= 8 && room >= size + kSpareRoom) {
+    putTwoByteDigits(symbols_, digits_, integerDigits_, fractionDigits_, to);
   } else {
     putLocalDigits(symbols_, digits_, integerDigits_, fractionDigits_, separators_, end);
   }

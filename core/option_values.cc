@@ -17,9 +17,9 @@ std::string_view withoutLeadingSpaces(std::string_view text) {
 
 // Takes a sign off the front; true for a minus.
 bool takeSign(std::string_view& text) {
-  const bool minus = text.starts_with('-');
-  if (minus || text.starts_with('+')) text.remove_prefix(1);
-  return minus;
+  const bool isNegative = text.starts_with('-');
+  if (isNegative || text.starts_with('+')) text.remove_prefix(1);
+  return isNegative;
 }
 
 std::size_t countDigits(std::string_view text) {
@@ -50,18 +50,18 @@ std::int64_t integerFromDouble(double number) noexcept {
 std::int64_t integerFromText(std::string_view text) noexcept {
   using Limits = std::numeric_limits<std::int64_t>;
   text = withoutLeadingSpaces(text);
-  const bool minus = takeSign(text);
+  const bool isNegative = takeSign(text);
   std::uint64_t magnitude = 0;
-  const auto limit = static_cast<std::uint64_t>(Limits::max()) + (minus ? 1 : 0);
+  const auto limit = static_cast<std::uint64_t>(Limits::max()) + (isNegative ? 1 : 0);
   const std::string_view digits = text.substr(0, countDigits(text));
   const std::errc error = std::from_chars(digits.data(), digits.data() + digits.size(), magnitude).ec;
-  if (error == std::errc::result_out_of_range || magnitude > limit) return minus ? Limits::min() : Limits::max();
-  return static_cast<std::int64_t>(minus ? 0 - magnitude : magnitude);
+  if (error == std::errc::result_out_of_range || magnitude > limit) return isNegative ? Limits::min() : Limits::max();
+  return static_cast<std::int64_t>(isNegative ? 0 - magnitude : magnitude);
 }
 
 double doubleFromText(std::string_view text) noexcept {
   text = withoutLeadingSpaces(text);
-  const bool minus = takeSign(text);
+  const bool isNegative = takeSign(text);
   const std::size_t integerDigits = countDigits(text);
   std::size_t length = integerDigits;
   if (length < text.size() && text[length] == '.') length += 1 + countDigits(text.substr(length + 1));
@@ -82,7 +82,7 @@ double doubleFromText(std::string_view text) noexcept {
   if (std::from_chars(text.data(), text.data() + length, number).ec == std::errc::result_out_of_range) {
     number = isLarge(mantissa, integerDigits, exponent) ? std::numeric_limits<double>::infinity() : 0.0;
   }
-  return minus ? -number : number;
+  return isNegative ? -number : number;
 }
 
 bool booleanFromText(std::string_view text) noexcept {

@@ -67,8 +67,8 @@ namespace kzm::core {
 
 /// Walks decimals rules, dictionaries of "value" and "decimals": the first whose "value" is greater than the number
 /// gives its "decimals". Without such a rule, or when `rules` is no array, `fallback`. NaN matches none. All rules are
-/// read, from the last to the first: which one matches is a wrong guess of the processor half of the time, and that
-/// costs more than the few rules that there are.
+/// read, from the last to the first: half of the time the processor would guess wrong which one matches, and that costs
+/// more than reading the few that there are.
 [[nodiscard]] inline std::int64_t readDecimals(const Value* rules, double number, std::int64_t fallback = 0) noexcept {
   const Array* entries = rules != nullptr ? rules->array() : nullptr;
   if (entries == nullptr) return fallback;

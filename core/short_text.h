@@ -49,7 +49,7 @@ inline constexpr std::size_t kWordBytes = sizeof(std::uint64_t);
   std::memcpy(to, &word, kWordBytes);
 }
 
-/// A text of at most eight bytes, zeros after its end.
+/// A text of at most eight bytes, zeros after its end: read by two parts that may overlap.
 [[nodiscard]] constexpr std::uint64_t wordOf(std::string_view text) noexcept {
   const std::size_t size = text.size();
   const auto byte = [&](std::size_t i) { return std::uint64_t{static_cast<unsigned char>(text[i])} << 8 * i; };

@@ -39,15 +39,24 @@ std::string longText(const TemplatePieces& pieces, std::size_t numberSize, const
   return longText(pieces, numberSize, [&](char* to) { return number.writeTo(to); });
 }
 
-// Room for a reading in any script, and what lets its digits be written by words.
+// A text of the given size, at most `room`.
+template <std::size_t room>
+[[gnu::always_inline]] inline std::string textIn(std::size_t size, const TemplatePieces& pieces,
+                                                 const ShortNumber& number) {
+  return textWithin<room>(
+      size, [&](char* text) { putPieces(text, pieces, [&](char* to) { return number.writeTo(to, text + room); }); });
+}
+
+// Room for a reading in any script, with kSpareRoom after it.
 constexpr std::size_t kLineRoom = 63;
 
-// The pieces with the number between them; says how long that is. Nearly every text is two words, or fits a string's
-// own room at least: the number stays in registers then.
+// The pieces with the number between them; says how long that is. Nearly every text is two words, which take a string's
+// own room and its end, or fits that room: the number stays in registers then.
 [[gnu::always_inline]] inline std::string written(const TemplatePieces& pieces, NumberStyle style, double value,
                                                   std::size_t& numberSize) {
   const ShortNumber number(style, value);
-  if (pieces.isWord && number.isWord()) [[likely]] {
+  if (pieces.fitWords && number.isOneWord()) [[likely]] {
+    static_assert(2 * kWordBytes == kOwnRoom + 1);  // the last byte is 0, as the string's end is
     numberSize = number.wordSize();
     return textWithin<kOwnRoom>(numberSize + pieces.after.size(), [&](char* to) {
       putWord(to, number.word());
@@ -57,12 +66,8 @@ constexpr std::size_t kLineRoom = 63;
   if (!number.isLaidOut()) return anyText(pieces, style, value, numberSize);
   numberSize = number.size();
   const std::size_t size = pieces.before.size() + numberSize + pieces.after.size();
-  const auto put = [&](std::size_t room) {
-    return
-        [&, room](char* text) { putPieces(text, pieces, [&](char* to) { return number.writeTo(to, text + room); }); };
-  };
-  if (size <= kOwnRoom) return textWithin<kOwnRoom>(size, put(kOwnRoom));
-  if (size <= kLineRoom - kSpareRoom) return textWithin<kLineRoom>(size, put(kLineRoom));
+  if (size <= kOwnRoom) return textIn<kOwnRoom>(size, pieces, number);
+  if (size <= kLineRoom - kSpareRoom) return textIn<kLineRoom>(size, pieces, number);
   return longText(pieces, numberSize, [&](char* to) { return number.writeTo(to, to + numberSize); });
 }
 

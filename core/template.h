@@ -20,12 +20,12 @@ struct TemplatePieces {
   constexpr TemplatePieces(std::string_view textBefore, std::string_view textAfter) noexcept
       : before(textBefore),
         after(textAfter),
-        isWord(textBefore.empty() && textAfter.size() < kWordBytes),
-        afterWord(isWord ? wordOf(textAfter) : 0) {}
+        fitWords(textBefore.empty() && textAfter.size() < kWordBytes),
+        afterWord(fitWords ? wordOf(textAfter) : 0) {}
 
   std::string_view before;
   std::string_view after;
-  bool isWord = true;           // nothing before the number, and less than a word after it
+  bool fitWords = true;         // nothing before the number, and after it less than a word: its last byte is 0
   std::uint64_t afterWord = 0;  // that, zeros after its end
 };
 

@@ -8,8 +8,8 @@
 namespace kzm::port {
 
 [[nodiscard]] constexpr std::int64_t nanosecondsOf(const timespec& time) noexcept {
-  constexpr std::int64_t kPerSecond = 1'000'000'000;
-  return time.tv_sec * kPerSecond + time.tv_nsec;
+  constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
+  return time.tv_sec * kNanosecondsPerSecond + time.tv_nsec;
 }
 
 /// Nanoseconds since 1970, in the measure of the times that a file has.

@@ -47,7 +47,7 @@ void readMinimumGrouping(const icu::number::LocalizedNumberFormatter& formatter,
 }
 
 // Four zeros in a word, when each digit is two bytes and the second one counts up.
-std::uint64_t pairsOf(const std::array<std::string, 10>& digits) {
+std::uint64_t twoByteZerosOf(const std::array<std::string, 10>& digits) {
   for (std::size_t digit = 0; digit < digits.size(); ++digit) {
     std::string counted = digits[0];
     counted.back() = static_cast<char>(counted.back() + static_cast<char>(digit));
@@ -74,8 +74,8 @@ std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale, UErrorCode& st
     if (text.empty() || text.size() != symbols.digitBytes) return std::nullopt;
   }
   symbols.decimalSeparator = utf8(source.getConstSymbol(Symbol::kDecimalSeparatorSymbol));
-  symbols.pairs = pairsOf(symbols.digits);
-  symbols.areBytes = symbols.digitsAreAscii && symbols.decimalSeparator.size() == 1;
+  symbols.twoByteZeros = twoByteZerosOf(symbols.digits);
+  symbols.takeOneByteEach = symbols.digitsAreAscii && symbols.decimalSeparator.size() == 1;
   symbols.groupSeparator = utf8(source.getConstSymbol(Symbol::kGroupingSeparatorSymbol));
   symbols.notANumber = utf8(source.getConstSymbol(Symbol::kNaNSymbol));
   symbols.infinity = utf8(source.getConstSymbol(Symbol::kInfinitySymbol));
@@ -121,6 +121,7 @@ NumberSymbols plainSymbols() {
   NumberSymbols plain;
   for (std::size_t digit = 0; digit < plain.digits.size(); ++digit) plain.digits[digit] = std::to_string(digit);
   plain.decimalSeparator = ".";
+  plain.takeOneByteEach = true;
   plain.negativePrefix = "-";
   plain.notANumber = "nan";
   plain.infinity = "inf";

@@ -15,8 +15,8 @@ struct NumberSymbols {
   bool digitsAreAscii = true;
   std::size_t digitBytes = 1;  // every digit of a script has the same size
   std::string decimalSeparator;
-  bool areBytes = true;     // the digits are ASCII, and the decimal separator is one byte
-  std::uint64_t pairs = 0;  // digits of two bytes that count up in the second one: four zeros, the first byte lowest
+  bool takeOneByteEach = false;    // the digits, which are ASCII, and the decimal separator
+  std::uint64_t twoByteZeros = 0;  // four, the first byte lowest; only when the digits count up in their second byte
   std::string groupSeparator;
   std::string negativePrefix;  // the minus, with whatever invisible marks the locale puts beside it
   std::string negativeSuffix;

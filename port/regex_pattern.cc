@@ -11,24 +11,24 @@ namespace {
 
 // Case-insensitively, the engine looks at each character of a set, again for each set that is in a set. So a set that
 // holds most characters takes this long, in milliseconds; one that holds the letters of all scripts takes the other.
-constexpr double kMostCharacters = 2.5;
-constexpr double kManyCharacters = 0.6;
+constexpr double kMostCharactersTake = 2.5;
+constexpr double kManyCharactersTake = 0.6;
 
 struct ClassRow {
   char letter;
-  double itself;  // what it costs wherever it is
-  double inSet;   // what it makes the set cost that it is in
+  double milliseconds;     // what it costs wherever it is
+  double setMilliseconds;  // what it makes the set cost that it is in
 };
 // clang-format off
 constexpr ClassRow kClasses[] = {
-    {'w', 0.0,             kManyCharacters},
-    {'p', kManyCharacters, kManyCharacters},
-    {'P', kManyCharacters, kMostCharacters},
-    {'D', 0.0,             kMostCharacters},
-    {'H', 0.0,             kMostCharacters},
-    {'S', 0.0,             kMostCharacters},
-    {'V', 0.0,             kMostCharacters},
-    {'W', 0.0,             kMostCharacters},
+    {'w', 0.0,             kManyCharactersTake},
+    {'p', kManyCharactersTake, kManyCharactersTake},
+    {'P', kManyCharactersTake, kMostCharactersTake},
+    {'D', 0.0,             kMostCharactersTake},
+    {'H', 0.0,             kMostCharactersTake},
+    {'S', 0.0,             kMostCharactersTake},
+    {'V', 0.0,             kMostCharactersTake},
+    {'W', 0.0,             kMostCharactersTake},
 };
 // clang-format on
 
@@ -83,16 +83,16 @@ class Reader {
     work_.refersBack = work_.refersBack || (letter >= '1' && letter <= '9') || letter == 'k';
     const auto* row = std::ranges::find(kClasses, letter, &ClassRow::letter);
     if (row != std::end(kClasses)) {
-      work_.setMilliseconds += row->itself;
-      raise(row->inSet);
+      work_.setMilliseconds += row->milliseconds;
+      raise(row->setMilliseconds);
     }
     rest_.remove_prefix(std::min<std::size_t>(rest_.size(), 2));
   }
 
   void openSet() {
     const bool negated = takes("^");
-    sets_.push_back({.cost = mayHoldComments_ ? kMostCharacters : 0.0, .negated = negated});
-    if (takes(":")) raise(rest_.starts_with('^') ? kMostCharacters : kManyCharacters);
+    sets_.push_back({.cost = mayHoldComments_ ? kMostCharactersTake : 0.0, .negated = negated});
+    if (takes(":")) raise(rest_.starts_with('^') ? kMostCharactersTake : kManyCharactersTake);
     if (rest_.starts_with(']')) rest_.remove_prefix(1);  // the first place in a set is that of a plain bracket
   }
 
@@ -102,7 +102,7 @@ class Reader {
     sets_.pop_back();
     const double cost = std::min(set.cost, set.limit);
     work_.setMilliseconds += cost;
-    raise(set.negated ? kMostCharacters : cost);
+    raise(set.negated ? kMostCharactersTake : cost);
   }
 
   void beginPart() {
@@ -115,7 +115,7 @@ class Reader {
   // A range that ends beyond ASCII, or in an escape that could be anything, is taken for the longest.
   void readRange() {
     const bool escaped = rest_.size() > 1 && rest_[0] == '\\' && isAlphanumeric(rest_[1]);
-    if (escaped || (!rest_.empty() && static_cast<unsigned char>(rest_[0]) >= 0x80)) raise(kMostCharacters);
+    if (escaped || (!rest_.empty() && static_cast<unsigned char>(rest_[0]) >= 0x80)) raise(kMostCharactersTake);
   }
 
   void raise(double cost) {

@@ -19,9 +19,9 @@ class Monitor {
 
   // Until the user, or the count of readings, ends it.
   void run() {
-    constexpr double kFirst = 0.3;  // enough to know a rate, and nobody waits for it
+    constexpr double kFirstSeconds = 0.3;  // enough to know a rate, and nobody waits for it
     constexpr double kNever = 1e18;
-    due_ = watch_.seconds() + (watch_.needsTime() ? std::min(kFirst, options_.seconds) : 0.0);
+    due_ = watch_.seconds() + (watch_.needsTime() ? std::min(kFirstSeconds, options_.seconds) : 0.0);
     bool goesOn = true;
     while (goesOn) {
       goesOn = happened(terminal_.wait(controls_.choices.paused ? kNever : due_));

@@ -49,10 +49,10 @@ const Row& rowNamed(std::span<const Row> rows, Text kind, Text name) {
 }
 
 void useInterval(ShowOptions& options, Text, Text value) {
-  constexpr double kLeast = 0.1;
-  constexpr double kMost = 3600.0;
+  constexpr double kLeastSeconds = 0.1;
+  constexpr double kMostSeconds = 3600.0;
   options.seconds = numberIn(value);
-  if (!(options.seconds >= kLeast && options.seconds <= kMost))
+  if (!(options.seconds >= kLeastSeconds && options.seconds <= kMostSeconds))
     throw InputError(inQuotes(value) + " is not from 0.1 to 3600");
 }
 
@@ -133,14 +133,14 @@ int showOnce(Watch& watch, const ShowOptions& options) {
 }
 
 int showContinuously(Watch& watch, const ShowOptions& options) {
-  constexpr double kFirst = 1.0;  // the first drawing does not keep anyone waiting longer
+  constexpr double kFirstSeconds = 1.0;  // the first drawing does not keep anyone waiting longer
   const bool isTable = options.output->line == nullptr;
   if (isTable && writesToTerminal())
     return monitor(watch, {options.bandwidth, options.seconds, options.count, dressOfOutput(options.plain)});
   const Texts texts(options.bandwidth);
   Feed feed;
   if (!feed.write(options.output->first)) return 1;
-  double due = watch.seconds() + (watch.needsTime() ? std::min(kFirst, options.seconds) : 0.0);
+  double due = watch.seconds() + (watch.needsTime() ? std::min(kFirstSeconds, options.seconds) : 0.0);
   for (std::int64_t drawings = 0; feed.waited(due);) {
     const std::vector<Group> groups = watch.read();
     const std::string_view between = isTable && drawings > 0 ? "\n" : "";

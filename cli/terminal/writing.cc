@@ -29,9 +29,10 @@ bool writtenAll(std::string_view text) {
 }
 
 int millisecondsUntil(double seconds) {
-  constexpr double kMilliseconds = 1e3;
-  constexpr double kMost = 3.6e6;
-  return static_cast<int>(std::clamp(std::ceil((seconds - machine::secondsNow()) * kMilliseconds), 0.0, kMost));
+  constexpr double kMillisecondsPerSecond = 1e3;
+  constexpr double kMostMilliseconds = 3.6e6;
+  return static_cast<int>(
+      std::clamp(std::ceil((seconds - machine::secondsNow()) * kMillisecondsPerSecond), 0.0, kMostMilliseconds));
 }
 
 }  // namespace kzm::cli

@@ -45,7 +45,8 @@ struct ResourceBundle {
 
 /// Chooses the languages in which texts are wanted, best first, as locale identifiers ("de_CH", "sr_Latn", "fr").
 /// Without it they come from the environment: LANGUAGE, LC_ALL, LC_MESSAGES, LANG. Meant for start-up: a text that was
-/// looked up before stays in its language wherever it was kept.
+/// looked up before stays in its language wherever it was kept. A malformed identifier is passed over; when none is
+/// left, texts are in the development language.
 ///
 /// Example:
 ///   const std::string languages[] = {"en_US", "en"};

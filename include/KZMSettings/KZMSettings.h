@@ -27,9 +27,9 @@
 /// Stores the setting at the key path; a null object removes it. The file is replaced as a whole or not at all.
 /// Returns false, and leaves every setting as it was, when the object holds something that JSON cannot (an opaque
 /// object, a number that is not finite, text that is not UTF-8) or is nested too deep (64 levels with the file's own),
-/// when the file would grow beyond 1 MiB, when it is broken, when it cannot be written with the mode and owner it has,
-/// or when another process keeps it locked for two seconds. A failure of the file is reported in one line on
-/// standard error, with the file and the reason.
+/// when the key path is not UTF-8, when the file would grow beyond 1 MiB, when it is broken, when it cannot be written
+/// with the mode and owner it has, or when another process keeps it locked for two seconds. A failure of the file is
+/// reported in one line on standard error, with the file and the reason.
 ///
 /// Example:
 ///   KZMSettingsSetObjectForKeyPath(std::nan(""), "Weather.Global.Units.Pressure")  // false

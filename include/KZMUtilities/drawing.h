@@ -85,6 +85,11 @@ class KZM_EXPORT Color {
 
 /// A place to draw: a caller's cairo context with a fill color and a stroke color that stay set until changed. Copies
 /// are handles on the same one.
+///
+/// Example:
+///   const GraphicsContext context(nullptr);  // in a host: the cairo context of its widget
+///   const auto drawing = context.makeCurrent();
+///   GraphicsContext::current()->isFlipped()  // true
 class KZM_EXPORT GraphicsContext {
  public:
   /// Makes a context current on this thread for as long as it lives. After that, the one before is current again.
@@ -156,6 +161,12 @@ class KZM_EXPORT Image {
   /// `drawAtPoint:` Draws the image in its own size from the point on.
   void drawAtPoint(const Point& point) const;
   /// `drawInRect:` Draws the whole image over the rectangle, scaled to fit it, upright in every context.
+  ///
+  /// Example:
+  ///   const Image image(Size{16.0, 8.0});
+  ///   const Image::Focus drawing(image);
+  ///   Image(Size{4.0, 4.0}).drawInRect({{0.0, 0.0}, {16.0, 8.0}});
+  ///   image.size().width  // 16.0
   void drawInRect(const Rect& rect) const;
 
   /// `tint:` A copy in which every pixel has the color, its alpha times the pixel's own: same shape, other color.

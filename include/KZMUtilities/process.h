@@ -178,6 +178,11 @@ class KZM_EXPORT ChildProcess {
 
   /// `cleanup` Closes both ends of the standard input's pipe, sets the standard output to NullStream without closing
   /// it, and clears the termination handler. If the standard input is no pipe, nothing of that happens.
+  ///
+  /// Example:
+  ///   ChildProcess child({.executable = "/bin/cat", .standardInput = Pipe()});
+  ///   child.cleanup();
+  ///   child.isRunning()  // false
   void cleanup();
 
   /// Whether the child is alive at this moment.
