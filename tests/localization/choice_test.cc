@@ -28,9 +28,14 @@ constexpr StringTable kTables[] = {
     {"en", "Other", list(kCats), list("%@ felines\0")},
     {"fr", "Animals", list(kBirdsAndCats), list("%@ oiseaux\0%@ chats\0")},
 };
+constexpr StringTable kEnglishAndRussian[] = {
+    {"en", "Animals", list(kCats), list("%@ cats\0")},
+    {"ru", "Animals", list(kCats), list("%@ кошек\0")},
+};
 constexpr ResourceBundle kBundle{"org.kzm.tests", "en", kTables};
 constexpr ResourceBundle kEmptyBundle{"org.kzm.empty", "en", {}};
 constexpr ResourceBundle kGermanBundle{"org.kzm.german", "de", kTables};
+constexpr ResourceBundle kRussianBundle{"org.kzm.russian", "en", kEnglishAndRussian};
 constexpr ResourceBundle kOddBundle{"org.kzm.odd", "xx", kTables};
 
 void want(const std::vector<std::string>& languages) { KZMLocalizationSetLanguages(languages); }
@@ -70,6 +75,16 @@ TEST(Localization, WantedLanguagesAreTriedInOrderAndReplaceEarlierOnes) {
   EXPECT_EQ(text("Units.Test.%@ cats"), "%@ cats");
   want({"", "C", "../../x", "garbage!!", std::string(100000, 'x'), "\xFF\xFE"});
   EXPECT_EQ(text("Units.Test.%@ cats"), "%@ cats");
+}
+
+// Uzbek in Latin letters: those who know it know Russian, but the list does not say that they read it.
+TEST(Localization, ANearLanguageServesOnlyReadersOfItsLetters) {
+  want({"uz"});
+  EXPECT_EQ(text("Units.Test.%@ cats", "Animals", &kRussianBundle), "%@ cats");
+  want({"uz", "sr"});
+  EXPECT_EQ(text("Units.Test.%@ cats", "Animals", &kRussianBundle), "%@ cats") << "Cyrillic letters, but for Serbian";
+  want({"uz", "sr", "ru"});
+  EXPECT_EQ(text("Units.Test.%@ cats", "Animals", &kRussianBundle), "%@ кошек");
 }
 
 struct TemplateCase {

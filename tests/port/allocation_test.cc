@@ -17,6 +17,7 @@
 #include "port/posix_variant.h"
 #include "port/regex.h"
 #include "port/time_zone.h"
+#include "port/week_rules.h"
 #include "tests/support/allocations.h"
 #include "tests/support/processes.h"
 #include "tests/support/sweeps.h"
@@ -63,6 +64,7 @@ TEST(FailingAllocation, IsNoOtherLocaleAndNoOtherZoneEverAfter) {
       {"identifier", [] { return localeIdentifier("sr_RS@latin") == "sr_Latn_RS"; }},
       {"measurement", [] { return measurementHabitsOf("en@rg=gbzzzz").region == "GB"; }},
       {"likely region", [] { return measurementHabitsOf("sv").region == "SE"; }},
+      {"weeks of a region", [] { return weekRulesOf("de_CH").daysInFirstWeek == 4; }},
       {"variant", [] { return takesPosixVariant("en_US"); }},
       {"zone",
        [] {

@@ -24,7 +24,10 @@ TEST(WeekRules, AreThoseOfTheRegion) {
       {"pt_PT", 1, 4},
       {"de", 2, 4},
       {"en_ZZ", 2, 1},
+      {"en_US@rg=gbzzzz", 2, 4},
       {"en_US@calendar=iso8601", 2, 4},
+      {"en_US@calendar=ISO8601", 2, 4},
+      {"ar_EG@calendar=buddhist", 7, 1},
   };
   for (const Case& c : cases) {
     EXPECT_EQ(weekRulesOf(c.locale).firstWeekday, c.firstWeekday) << c.locale;

@@ -7,6 +7,8 @@
 #include <string>
 #include <unistd.h>
 
+#include "tests/support/other_user.h"
+
 namespace kzm::settings {
 namespace {
 
@@ -75,6 +77,14 @@ TEST(Location, OfTheUserComesFromTheEnvironmentElseFromTheUserDatabase) {
     const WithVariable home("HOME", row.home);
     EXPECT_EQ(fileOfUser(), row.file) << row.why;
   }
+}
+
+TEST(Location, AUserWhomTheDatabaseDoesNotKnowHasNone) {
+  if (!tests::OtherUser::canBeTaken()) GTEST_SKIP() << "left out: only root can act for another user";
+  const WithVariable configuration("XDG_CONFIG_HOME", nullptr);
+  const WithVariable home("HOME", nullptr);
+  const tests::OtherUser other;
+  EXPECT_EQ(fileOfUser(), "");
 }
 
 }  // namespace
