@@ -87,8 +87,8 @@ class KZM_EXPORT Color {
 /// are handles on the same one.
 ///
 /// Example:
-///   const GraphicsContext context(nullptr);  // in a host: the cairo context of its widget
-///   const auto drawing = context.makeCurrent();
+///   const GraphicsContext widget(nullptr);  // in a host: with the cairo context that its widget draws to
+///   const auto drawing = widget.makeCurrent();
 ///   GraphicsContext::current()->isFlipped()  // true
 class KZM_EXPORT GraphicsContext {
  public:
