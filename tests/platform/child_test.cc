@@ -1,9 +1,11 @@
 #include "platform/child.h"
 
 #include <atomic>
+#include <csignal>
 #include <gtest/gtest.h>
 #include <limits>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <thread>
@@ -232,6 +234,14 @@ TEST_F(ChildTest, ASecondStartIsAFailedStartAndCleansUp) {
   EXPECT_FALSE(input.writingEnd().isOpen());
   finish(*child);
   EXPECT_EQ(child->exitStatus(), (ExitStatus{Reason::exited, 0}));
+}
+
+TEST_F(ChildTest, AChildWithoutItsWatchdogIsEnded) {
+  const SharedChild child = helper({"block"});
+  queue_.failAt(2);  // the watch on the child is the first
+  EXPECT_THROW(child->launchWithTimeout(60.0), std::bad_alloc);
+  finish(*child);
+  EXPECT_EQ(child->exitStatus(), (ExitStatus{Reason::signaled, SIGKILL}));
 }
 
 TEST_F(ChildTest, ManyStartsAtOnceAreOne) {

@@ -26,6 +26,18 @@ struct Outcomes {
   }
 };
 
+TEST(Exception, ACopySaysTheSame) {
+  const Exception first("Any", "reason");
+  const Exception copy(first);
+  Exception assigned("Other", "another reason");
+  assigned = first;
+  for (const Exception& each : {copy, assigned}) {
+    EXPECT_EQ(each.name(), "Any");
+    EXPECT_EQ(each.reason(), "reason");
+    EXPECT_STREQ(each.what(), "reason");
+  }
+}
+
 TEST(Exception, CarriesNameAndReason) {
   const Exception exception("Range", "index 7 beyond 3");
   EXPECT_EQ(exception.name(), "Range");

@@ -4,6 +4,7 @@
 #include <csignal>
 #include <gtest/gtest.h>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <thread>
@@ -26,6 +27,17 @@ TEST_F(RunningChildTest, IsRunningIsTrueToTheMomentWithoutATurnOfTheQueue) {
   ASSERT_TRUE(awaitEnd(child->processIdentifier()));
   EXPECT_FALSE(child->isRunning());
   EXPECT_FALSE(isChild(child->processIdentifier())) << "collected, not a zombie";
+}
+
+TEST_F(RunningChildTest, AChildThatCannotBeWatchedIsEnded) {
+  const SharedChild child = helper({"block"});
+  queue_.failAt(1);
+  EXPECT_THROW(child->launch(), std::bad_alloc);
+  siginfo_t end{};
+  ASSERT_EQ(::waitid(P_ALL, 0, &end, WEXITED | WNOWAIT), 0);
+  EXPECT_EQ(end.si_status, SIGKILL);
+  platform::RunningChild::collectEnded();
+  EXPECT_FALSE(isChild(end.si_pid)) << "collected, not a zombie";
 }
 
 TEST_F(RunningChildTest, TheQueueNoticesTheEndByItself) {

@@ -52,5 +52,24 @@ TEST(DisplayWidth, CutsBetweenCharacters) {
   for (const Case& c : cases) EXPECT_EQ(fitting(c.text, c.columns), c.fitting) << c.text;
 }
 
+TEST(DisplayWidth, KnowsTextThatRunsFromRightToLeft) {
+  struct Case {
+    const char* why;
+    std::string_view text;
+    bool has;
+  };
+  constexpr Case kCases[] = {
+      {"nothing", "", false},
+      {"Latin letters", "eth0", false},
+      {"Arabic letters", "وحدة", true},
+      {"Hebrew letters", "זיכרון", true},
+      {"Arabic digits", "٤٢", true},
+      {"only at the end", "eth0 ו", true},
+      {"ideographs and Devanagari", "网络 नेटवर्क", false},
+      {"bytes that are broken", "\xff\xfe", false},
+  };
+  for (const Case& c : kCases) EXPECT_EQ(hasRightToLeft(c.text), c.has) << c.why;
+}
+
 }  // namespace
 }  // namespace kzm

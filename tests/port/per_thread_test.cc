@@ -92,5 +92,21 @@ TEST(PerThread, CanBeUsedFromStaticDestructors) {
   EXPECT_EXIT(std::exit(perThread<std::vector<int>>().size() == 10 ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
+struct Kept {
+  Kept() { last = this; }
+  int number = 0;
+  static inline std::atomic<Kept*> last{nullptr};
+};
+
+TEST(PerThread, WithoutAKeyTheObjectOutlivesItsThread) {
+  std::vector<pthread_key_t> keys;
+  for (pthread_key_t key{}; pthread_key_create(&key, nullptr) == 0;) keys.push_back(key);
+  std::thread([] { perThread<Kept>().number = 1; }).join();
+  for (const pthread_key_t key : keys) pthread_key_delete(key);
+  const std::unique_ptr<Kept> kept(Kept::last.load());
+  ASSERT_NE(kept, nullptr);
+  EXPECT_EQ(kept->number, 1);
+}
+
 }  // namespace
 }  // namespace kzm::port

@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <poll.h>
 #include <utility>
 #include <vector>
@@ -19,14 +20,22 @@ class FakeMainQueue final : public port::MainQueue {
  public:
   void after(std::int64_t nanoseconds, Action action) override {
     const std::lock_guard lock(mutex_);
+    takeMemory();
     delays_.push_back(nanoseconds);
     timers_.emplace(now_ + nanoseconds, std::move(action));
   }
 
   std::unique_ptr<Watch> whenReadable(int descriptor, Action action) override {
     const std::lock_guard lock(mutex_);
+    takeMemory();
     watched_[++lastWatch_] = {descriptor, std::move(action)};
     return std::make_unique<FakeWatch>(*this, lastWatch_);
+  }
+
+  /// There is no memory for the timer or watch with that number, the next one being 1.
+  void failAt(int number) {
+    const std::lock_guard lock(mutex_);
+    untilFailure_ = number;
   }
 
   /// Every delay that was asked for, in order.
@@ -77,6 +86,10 @@ class FakeMainQueue final : public port::MainQueue {
     int number_;
   };
 
+  void takeMemory() {
+    if (untilFailure_ > 0 && --untilFailure_ == 0) throw std::bad_alloc();
+  }
+
   std::int64_t now() {
     const std::lock_guard lock(mutex_);
     return now_;
@@ -104,6 +117,7 @@ class FakeMainQueue final : public port::MainQueue {
   std::multimap<std::int64_t, Action> timers_;
   std::map<int, Watched> watched_;
   int lastWatch_ = 0;
+  int untilFailure_ = 0;  // 0: none is to fail
   std::vector<std::int64_t> delays_;
 };
 
