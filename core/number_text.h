@@ -160,7 +160,8 @@ inline std::int32_t ShortNumber::rounded(int most, double magnitude) noexcept {
   if (most >= static_cast<int>(std::size(kPowersOfTen))) return kDoubtful;
   const double scaled = magnitude * kPowersOfTen[most];
   if (!(scaled < kLimit)) return kDoubtful;  // NaN too
-  const auto nearest = static_cast<std::int32_t>(scaled + 0.5);
+  const double raised = scaled + 0.5;
+  const auto nearest = static_cast<std::int32_t>(raised);
   return std::abs(scaled - nearest) > 0.5 - kDoubt ? kDoubtful : nearest;
 }
 
