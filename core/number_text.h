@@ -60,7 +60,7 @@ class ShortNumber {
   /// That word, the first byte in the lowest one, and how many bytes of it are the text.
   [[nodiscard, gnu::always_inline]] std::uint64_t word() const noexcept;
   [[nodiscard]] std::size_t wordSize() const noexcept {
-    return static_cast<std::size_t>(digitCount() + (fractionDigits_ > 0 ? 1 : 0));
+    return static_cast<std::size_t>(digitCount()) + (fractionDigits_ > 0 ? 1U : 0U);
   }
 
  private:
