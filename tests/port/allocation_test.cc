@@ -111,12 +111,16 @@ TEST(FailingAllocation, InsideIcuIsNoSearchWithoutAMatch) {
 TEST(FailingAllocation, InsideIcuKeepsNoListOfLocales) {
   const auto ask = [] { static_cast<void>(usableLocale("sr_RS@latin")); };
   ask();
-  std::size_t number = 1;
-  for (bool failed = true; failed; ++number) {
-    static_cast<void>(tests::callWithFailure(Heap::icu, number, ask));
-    const std::ptrdiff_t before = tests::icuBlocks();
-    failed = tests::callWithFailure(Heap::icu, number, ask);
-    EXPECT_EQ(tests::icuBlocks(), before) << "allocation " << number;
+  std::size_t number = 0;
+  for (ColdCall went{}; went != ColdCall::noSuchAllocation;) {
+    ++number;
+    const auto keepsNothing = [&] {
+      const std::ptrdiff_t before = tests::icuBlocks();
+      static_cast<void>(tests::callWithFailure(Heap::icu, number, ask));
+      return tests::icuBlocks() == before;
+    };
+    went = tests::coldCallWithFailure(Heap::icu, number, ask, keepsNothing);
+    EXPECT_NE(went, ColdCall::wrong) << "allocation " << number;
   }
   EXPECT_GT(number, 10U);
 }
