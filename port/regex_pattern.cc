@@ -21,14 +21,14 @@ struct ClassRow {
 };
 // clang-format off
 constexpr ClassRow kClasses[] = {
-    {'w', 0.0,             kManyCharactersTake},
+    {'w', 0.0,                 kManyCharactersTake},
     {'p', kManyCharactersTake, kManyCharactersTake},
     {'P', kManyCharactersTake, kMostCharactersTake},
-    {'D', 0.0,             kMostCharactersTake},
-    {'H', 0.0,             kMostCharactersTake},
-    {'S', 0.0,             kMostCharactersTake},
-    {'V', 0.0,             kMostCharactersTake},
-    {'W', 0.0,             kMostCharactersTake},
+    {'D', 0.0,                 kMostCharactersTake},
+    {'H', 0.0,                 kMostCharactersTake},
+    {'S', 0.0,                 kMostCharactersTake},
+    {'V', 0.0,                 kMostCharactersTake},
+    {'W', 0.0,                 kMostCharactersTake},
 };
 // clang-format on
 
