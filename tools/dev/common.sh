@@ -10,6 +10,9 @@ say() { printf '\033[1m==>\033[0m %s\n' "$*" >&2; }
 fail() { printf 'dev: %s\n' "$*" >&2; exit 1; }
 refuse() { printf 'dev: %s\n' "$*" >&2; exit 2; }
 
+# takes_nothing "$@": for a verb without arguments.
+takes_nothing() { [ $# -eq 0 ] || refuse "$verb: no argument \"$1\"; ./dev help lists them"; }
+
 # The Debian packages that each purpose needs.
 compiler=(g++)
 case ${CXX:-} in *clang*) compiler=(clang) ;; esac
