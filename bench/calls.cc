@@ -24,12 +24,16 @@ namespace {
 // Makes the call with these options, if it takes some, and each value.
 template <auto Function, auto... Options>
 void each(Span values) {
-  for (const double value : values) keep(Function(Options().dictionary..., value));
+  const auto pass = [values](const auto&... options) {
+    for (const double value : values) keep(Function(options..., value));
+  };
+  pass(Options().dictionary...);
 }
 
 template <SensorType::Kind Type>
 void eachSensor(Span values) {
-  for (const double value : values) keep(KZMUtilitiesFormatSensor(Type, withUnit().dictionary, value));
+  const Dictionary& options = withUnit().dictionary;
+  for (const double value : values) keep(KZMUtilitiesFormatSensor(Type, options, value));
 }
 
 std::optional<Dictionary> powerData(const Dictionary& options, double value) {

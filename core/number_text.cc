@@ -43,10 +43,10 @@ void ShortNumber::putLocalDigits(const NumberSymbols& symbols, std::uint32_t dig
   for (; left > 0; --left) putDigit();
 }
 
-// As ShortNumber::word, with digits of two bytes. The separator is written over what follows the integer part, and the
-// fraction once more after it.
+// As ShortNumber::word, with digits of two bytes. A separator is written over the digits that follow it, and these are
+// written once more after it.
 void ShortNumber::putTwoByteDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits,
-                                   int fractionDigits, char* to) noexcept {
+                                   int fractionDigits, int separators, char* to) noexcept {
   // An ASCII digit's low half is its value, which is added to the second byte of a zero.
   const auto putEight = [&](char* place, std::uint64_t eight) {
     for (const std::uint64_t half : {eight & 0xffffffff, eight >> 32U}) {
@@ -55,11 +55,19 @@ void ShortNumber::putTwoByteDigits(const NumberSymbols& symbols, std::uint32_t d
       place += kWordBytes;
     }
   };
-  const std::uint64_t all = lastDigits(digits, integerDigits + fractionDigits);
-  putEight(to, all);
-  if (fractionDigits == 0) return;
-  char* const separator = to + std::ptrdiff_t{integerDigits} * 2;
-  putEight(putText(separator, symbols.decimalSeparator), all >> 8 * integerDigits);
+  std::uint64_t left = lastDigits(digits, integerDigits + fractionDigits);
+  putEight(to, left);
+  const auto separate = [&](int before, const std::string& separator) {
+    left >>= 8 * before;
+    to = putText(to + std::ptrdiff_t{before} * 2, separator);
+    putEight(to, left);
+  };
+  for (; separators > 0; --separators) {
+    const int after = symbols.primaryGroup + (separators - 1) * symbols.secondaryGroup;
+    separate(integerDigits - after, symbols.groupSeparator);
+    integerDigits = after;
+  }
+  if (fractionDigits > 0) separate(integerDigits, symbols.decimalSeparator);
 }
 
 // A computed NaN often has a sign, which means nothing.

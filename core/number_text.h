@@ -59,7 +59,7 @@ class ShortNumber {
   /// That word, the first byte in the lowest one, and how many bytes of it are the text.
   [[nodiscard, gnu::always_inline]] std::uint64_t word() const noexcept;
   [[nodiscard]] std::size_t wordSize() const noexcept {
-    return static_cast<std::size_t>(digitCount()) + (fractionDigits_ > 0 ? 1U : 0U);
+    return static_cast<std::size_t>(digitCount() + separators_) + (fractionDigits_ > 0 ? 1U : 0U);
   }
 
  private:
@@ -70,7 +70,7 @@ class ShortNumber {
   static void putLocalDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits, int fractionDigits,
                              int separators, char* end) noexcept;
   static void putTwoByteDigits(const NumberSymbols& symbols, std::uint32_t digits, int integerDigits,
-                               int fractionDigits, char* to) noexcept;
+                               int fractionDigits, int separators, char* to) noexcept;
 
   const NumberSymbols& symbols_;
   bool isNegative_;
@@ -139,7 +139,8 @@ inline ShortNumber::ShortNumber(NumberStyle style, double value) noexcept
   for (; fractionDigits_ > style.least && digits_ % 10 == 0; digits_ /= 10) --fractionDigits_;
   integerDigits_ = std::max(countDigits(digits_) - fractionDigits_, 1);
   separators_ = countSeparators(symbols_, integerDigits_);
-  fitsWord_ = symbols_.takeOneByteEach && separators_ == 0 && digitCount() < static_cast<int>(kWordBytes);
+  fitsWord_ = symbols_.takeOneByteEach && separators_ <= symbols_.separatorsInWord &&
+              digitCount() + separators_ < static_cast<int>(kWordBytes);
 }
 
 inline std::size_t ShortNumber::size() const noexcept {
@@ -181,13 +182,19 @@ inline constexpr std::array<std::uint16_t, 100> kDigitPairs = [] {
   return eight >> 8 * (8 - count);
 }
 
+/// The word with one more byte, so many bytes from its start.
+[[nodiscard, gnu::always_inline]] inline std::uint64_t withByteAt(int place, char byte, std::uint64_t word) noexcept {
+  const std::uint64_t before = (std::uint64_t{1} << 8 * place) - 1;
+  return (word & before) | std::uint64_t{static_cast<unsigned char>(byte)} << 8 * place | (word & ~before) << 8;
+}
+
 // No branch depends on how many digits there are: a wrong guess of the processor costs more than all of this.
 inline std::uint64_t ShortNumber::word() const noexcept {
-  const std::uint64_t digits = lastDigits(digits_, digitCount());
-  const int separatorBit = 8 * integerDigits_;
-  const std::uint64_t integerBytes = (std::uint64_t{1} << separatorBit) - 1;
-  const auto separator = static_cast<unsigned char>(symbols_.decimalSeparator.front());
-  return (digits & integerBytes) | std::uint64_t{separator} << separatorBit | (digits & ~integerBytes) << 8;
+  const std::uint64_t plain =
+      withByteAt(integerDigits_, symbols_.decimalSeparator.front(), lastDigits(digits_, digitCount()));
+  if (separators_ == 0) [[likely]]
+    return plain;
+  return withByteAt(integerDigits_ - symbols_.primaryGroup, symbols_.groupSeparator.front(), plain);
 }
 
 inline char* ShortNumber::writeTo(char* to, const char* roomEnd) const noexcept {
@@ -201,8 +208,8 @@ inline char* ShortNumber::writeTo(char* to, const char* roomEnd) const noexcept 
   const auto room = static_cast<std::size_t>(roomEnd - to);
   if (fitsWord_ && room >= kWordBytes) {
     putWord(to, word());
-  } else if (symbols_.twoByteZeros != 0 && separators_ == 0 && digitCount() <= 8 && room >= size + kSpareRoom) {
-    putTwoByteDigits(symbols_, digits_, integerDigits_, fractionDigits_, to);
+  } else if (symbols_.twoByteZeros != 0 && digitCount() <= 8 && room >= size + kSpareRoom) {
+    putTwoByteDigits(symbols_, digits_, integerDigits_, fractionDigits_, separators_, to);
   } else {
     putLocalDigits(symbols_, digits_, integerDigits_, fractionDigits_, separators_, end);
   }

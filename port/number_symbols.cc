@@ -77,6 +77,7 @@ std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale, UErrorCode& st
   symbols.twoByteZeros = twoByteZerosOf(symbols.digits);
   symbols.takeOneByteEach = symbols.digitsAreAscii && symbols.decimalSeparator.size() == 1;
   symbols.groupSeparator = utf8(source.getConstSymbol(Symbol::kGroupingSeparatorSymbol));
+  symbols.separatorsInWord = symbols.groupSeparator.size() == 1 ? 1 : 0;
   symbols.notANumber = utf8(source.getConstSymbol(Symbol::kNaNSymbol));
   symbols.infinity = utf8(source.getConstSymbol(Symbol::kInfinitySymbol));
   if (decimal->isGroupingUsed()) {

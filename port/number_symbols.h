@@ -18,6 +18,7 @@ struct NumberSymbols {
   bool takeOneByteEach = false;    // the digits, which are ASCII, and the decimal separator
   std::uint64_t twoByteZeros = 0;  // four, the first byte lowest; only when the digits count up in their second byte
   std::string groupSeparator;
+  int separatorsInWord = 0;    // that a number written as one word may have: 1 if they take one byte each
   std::string negativePrefix;  // the minus, with whatever invisible marks the locale puts beside it
   std::string negativeSuffix;
   std::string notANumber;

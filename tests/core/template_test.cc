@@ -134,10 +134,39 @@ TEST(Template, DigitsOfTwoBytesAreNoDifferent) {
       {5, 123.45678, "١٢٣٫٤٥٦٧٨ كيلوبايت/ث"},
       {7, 12.3456789, "١٢٫٣٤٥٦٧٨٩ كيلوبايت/ث"},
       {1, -2.5, "\u061c-٢٫٥ كيلوبايت/ث"},
+      {0, 131072.0, "١٣١٬٠٧٢ كيلوبايت/ث"},
+      {1, 1234.5, "١٬٢٣٤٫٥ كيلوبايت/ث"},
+      {0, 12345678.0, "١٢٬٣٤٥٬٦٧٨ كيلوبايت/ث"},
+      {1, 1234567.5, "١٬٢٣٤٬٥٦٧٫٥ كيلوبايت/ث"},
   };
   const NumberSymbols symbols = port::numberSymbols("ar_EG");
   for (const Case& c : cases) {
     EXPECT_EQ(Template("%@ كيلوبايت/ث").filled(decimalStyle(symbols, c.digits, c.digits), c.value), c.filled);
+  }
+}
+
+// One separator fits a word of eight bytes, two do not, and neither does one that takes several.
+TEST(Template, GroupedNumbersAreWrittenWithTheirUnit) {
+  struct Case {
+    const char* locale;
+    int digits;
+    double value;
+    const char* filled;
+  };
+  const Case cases[] = {
+      {"en_US", 0, 999.0, "999 Gb/s"},           {"en_US", 0, 1000.0, "1,000 Gb/s"},
+      {"en_US", 0, 131072.0, "131,072 Gb/s"},    {"en_US", 1, 1234.5, "1,234.5 Gb/s"},
+      {"en_US", 2, 1234.56, "1,234.56 Gb/s"},    {"en_US", 1, 12345.6, "12,345.6 Gb/s"},
+      {"en_US", 2, 12345.67, "12,345.67 Gb/s"},  {"en_US", 1, 123456.7, "123,456.7 Gb/s"},
+      {"en_US", 0, 1234567.0, "1,234,567 Gb/s"}, {"en_US", 1, -1234.5, "-1,234.5 Gb/s"},
+      {"de_DE", 1, 1234.5, "1.234,5 Gb/s"},      {"es_ES", 1, 1234.5, "1234,5 Gb/s"},
+      {"es_ES", 1, 12345.6, "12.345,6 Gb/s"},    {"hi_IN", 0, 123456.0, "1,23,456 Gb/s"},
+      {"hi_IN", 1, 12345.6, "12,345.6 Gb/s"},    {"de_CH", 1, 1234.5, "1’234.5 Gb/s"},
+      {"fr_FR", 1, 1234.5, "1\u202f234,5 Gb/s"}, {"en_US_POSIX", 1, 1234.5, "1234.5 Gb/s"},
+  };
+  for (const Case& c : cases) {
+    const NumberSymbols symbols = port::numberSymbols(c.locale);
+    EXPECT_EQ(Template("%@ Gb/s").filled(decimalStyle(symbols, c.digits, c.digits), c.value), c.filled) << c.locale;
   }
 }
 
