@@ -109,13 +109,7 @@ NumberSymbols numberSymbols(const std::string& localeIdentifier) {
     if (symbols) return *std::move(symbols);
     isDataMissing = isDataMissing || status == U_MISSING_RESOURCE_ERROR;
   }
-  // Only a machine without any locale data comes here.
-  NumberSymbols english = plainSymbols();
-  english.groupSeparator = ",";
-  english.notANumber = "NaN";
-  english.infinity = "∞";
-  english.primaryGroup = english.secondaryGroup = 3;
-  return english;
+  return plainSymbols();  // only a machine without any locale data comes here
 }
 
 NumberSymbols plainSymbols() {

@@ -12,6 +12,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
+#include <tuple>
 #include <unistd.h>
 #include <utility>
 
@@ -52,7 +53,7 @@ std::string parentOf(const std::string& path) { return path.substr(0, path.rfind
 void giveToOwnerOfParent(const std::string& path, int descriptor) {
   struct stat parent {};
   if (geteuid() == 0 && stat(parentOf(path).c_str(), &parent) == 0 && parent.st_uid != 0)
-    static_cast<void>(fchown(descriptor, parent.st_uid, parent.st_gid) == 0);
+    std::ignore = fchown(descriptor, parent.st_uid, parent.st_gid);
 }
 
 void makeDirectory(const std::string& directory) {

@@ -14,7 +14,7 @@ namespace {
 
 // The folder that this library was loaded from: an absolute path, wherever the process has gone since.
 std::string ownFolder() {
-  static const char kPlaceInThisLibrary = 0;
+  static const char kPlaceInThisLibrary{};
   std::array<char, PATH_MAX> folder{};
   Dl_info info{};
   void* library = nullptr;

@@ -38,11 +38,10 @@ FileHandle::FileHandle() noexcept = default;
 
 // What cannot be adopted for want of memory is closed.
 FileHandle FileHandle::adopt(int descriptor) {
-  FileHandle handle;
-  if (descriptor < 0) return handle;
   const int flags = ::fcntl(descriptor, F_GETFD);
-  if (flags < 0) return handle;
+  if (flags < 0) return {};
   if ((flags & FD_CLOEXEC) == 0) ::fcntl(descriptor, F_SETFD, flags | FD_CLOEXEC);
+  FileHandle handle;
   handle.state_ = std::make_shared<State>(port::Descriptor(descriptor));
   return handle;
 }

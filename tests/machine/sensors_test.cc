@@ -109,11 +109,13 @@ TEST_F(Sensors, OfZonesAreThoseThatNoChipReports) {
 TEST_F(Sensors, FrequenciesComeFromTheDriverElseFromTheProcessor) {
   const std::string info =
       "processor\t: 0\ncpu MHz\t\t: 2400.5\n\nprocessor\t: 1\ncpu MHz\t\t: 0\n\n"
-      "processor : x\ncpu MHz : 9\nprocessor\t: 12\nmodel name : cpu MHz\ncpu MHz : 800\ncpu MHz\n";
+      "processor : x\ncpu MHz : 9\nprocessor\t: 12\nmodel name : cpu MHz\ncpu MHz : 800\ncpu MHz\ncpu MHz : 801 802\n"
+      "processor : 13\ncpu MHz : 0.5\n";
   scratch_.write("proc/cpuinfo", info);
   expectReadings(readFrequencies(root_), {
                                              {Kind::frequency, 2400.5, "cpu", "CPU 0"},
                                              {Kind::frequency, 800, "cpu", "CPU 12"},
+                                             {Kind::frequency, 0.5, "cpu", "CPU 13"},
                                          });
   const std::vector<File> kCpus = {
       {"cpu10/cpufreq/scaling_cur_freq", "3100000\n"},

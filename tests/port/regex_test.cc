@@ -66,6 +66,7 @@ std::string repeated(std::string_view text, std::size_t count) {
 TEST(Regex, LongTextsAreNotSearchedForBackReferences) {
   const std::string doubled = std::string(kLongestTextForBackReference - 2, 'a') + "bb";
   EXPECT_EQ(firstGroup(doubled, "(b)\\1"), "b");
+  EXPECT_EQ(firstGroup(doubled, "(b)\\1|" + std::string(kAlwaysCompiled, 'c')), "b") << "long patterns neither";
   EXPECT_EQ(firstGroup(doubled + "a", "(b)\\1"), std::nullopt);
   EXPECT_EQ(firstGroup(doubled + "\\1", "(b)\\\\1"), "b") << "a backslash and a digit";
   EXPECT_EQ(firstGroup(doubled + "\\k", "\\Q\\k\\E|(b)"), "b") << "quoted";

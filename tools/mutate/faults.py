@@ -121,14 +121,11 @@ def exchanged(source, first, second):
 
 
 def exchanged_rows(source, row, following):
-    """The first cells change places, or the rows where these are alike: in a table that is searched for the first cell,
-    the order of rows does not count."""
-    if row[0].text == "{":
-        cells = elements(row, 0), elements(following, 0)
-        change = all(cells) and exchanged(source, cells[0][0], cells[1][0])
-        if change:
-            return change
-    return exchanged(source, row, following)
+    """The first cells that differ change places: in a table that is searched, the order of rows does not count."""
+    if row[0].text != "{":
+        return exchanged(source, row, following)
+    changes = (exchanged(source, *cells) for cells in zip(elements(row, 0), elements(following, 0)))
+    return next((change for change in changes if change), None)
 
 
 def rows(source, tokens):

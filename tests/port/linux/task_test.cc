@@ -1,4 +1,4 @@
-// The start of a program on a kernel that has no descriptors for processes.
+// The start of a program on a kernel that has no descriptors for processes, and how an ended one is told.
 #include "port/task.h"
 
 #include <cerrno>
@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
+#include <memory>
+#include <poll.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -50,6 +52,16 @@ TEST(Task, DoesNotStartWhereAProcessCannotBeWatched) {
   ASSERT_EQ(::waitpid(child, &status, 0), child);
   ASSERT_TRUE(WIFEXITED(status));
   EXPECT_EQ(WEXITSTATUS(status), kAsItShouldBe);
+}
+
+TEST(Task, SaysHowItsProgramEndedAsOftenAsItIsAsked) {
+  const std::unique_ptr<Task> task = start({.executable = "/bin/false"});
+  ASSERT_NE(task, nullptr);
+  pollfd ended{task->exitDescriptor(), POLLIN, 0};
+  ASSERT_EQ(::poll(&ended, 1, 10'000), 1);
+  constexpr ExitStatus kFailed{ExitStatus::Reason::exited, 1};
+  EXPECT_EQ(task->collect(), kFailed);
+  EXPECT_EQ(task->collect(), kFailed);
 }
 
 }  // namespace
