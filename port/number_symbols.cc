@@ -61,10 +61,10 @@ std::optional<NumberSymbols> symbolsOf(const icu::Locale& locale, UErrorCode& st
   using Symbol = icu::DecimalFormatSymbols;
   const std::unique_ptr<icu::NumberFormat> style(icu::NumberFormat::createInstance(locale, UNUM_DECIMAL, status));
   const auto* decimal = dynamic_cast<const icu::DecimalFormat*>(style.get());
-  const auto formatter = icu::number::NumberFormatter::withLocale(locale);
   if (U_FAILURE(status) || decimal == nullptr) return std::nullopt;
 
   const Symbol& source = *decimal->getDecimalFormatSymbols();
+  const auto formatter = icu::number::NumberFormatter::withLocale(locale).symbols(source);
   NumberSymbols symbols;
   for (int digit = 0; digit < 10; ++digit) {
     std::string& text = symbols.digits[static_cast<std::size_t>(digit)];
