@@ -150,10 +150,20 @@ class KZM_EXPORT Image {
   ///   Image(Size{16.0, 8.0}, 0.0).size().width  // 0.0
   explicit Image(Size size, double scale = 1.0);
   /// A copy of an image surface's pixels and device scale; empty if it is none, finished or in an error state.
+  ///
+  /// Example:
+  ///   Image::fromSurface(nullptr).size().width  // 0.0
   [[nodiscard]] static Image fromSurface(cairo_surface_t* surface);
   /// Empty if the file cannot be read.
+  ///
+  /// Example:
+  ///   Image::fromPNG("/no/such/file.png").size().width  // 0.0
   [[nodiscard]] static Image fromPNG(const std::string& path);
   /// Writes the pixels; false if that fails, or if the image is empty.
+  ///
+  /// Example:
+  ///   Image(Size{16.0, 8.0}).writePNG("/dev/null")  // true
+  ///   Image().writePNG("/dev/null")                 // false
   [[nodiscard]] bool writePNG(const std::string& path) const;
 
   [[nodiscard]] Size size() const noexcept;
