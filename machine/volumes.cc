@@ -1,6 +1,7 @@
 #include "machine/volumes.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -8,6 +9,7 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -39,15 +41,15 @@ bool isLocal(const Mount& mount) {
   return isOneOf(kLocal, mount.type) || (mount.point == "/" && isOneOf(kLocalAsRoot, mount.type));
 }
 
-bool isOctal(char c) { return c >= '0' && c <= '7'; }
-
 // Spaces, line ends and backslashes in names are written as "\040" and the like.
 std::string unescaped(std::string_view text) {
   std::string plain;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const std::string_view code = text.substr(i + 1, 3);
-    if (text[i] == '\\' && code.size() == 3 && code[0] <= '3' && std::ranges::all_of(code, isOctal)) {
-      plain += static_cast<char>((code[0] - '0') * 64 + (code[1] - '0') * 8 + (code[2] - '0'));
+    unsigned char byte = 0;
+    const auto [end, error] = std::from_chars(code.data(), code.data() + code.size(), byte, 8);
+    if (text[i] == '\\' && error == std::errc() && end == code.data() + 3) {
+      plain += static_cast<char>(byte);
       i += 3;
     } else {
       plain += text[i];

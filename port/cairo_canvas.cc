@@ -254,8 +254,8 @@ class CairoCanvas final : public Canvas {
     constexpr double kMostPixels = 32767.0;  // of a side; cairo has none larger
     const double width = std::ceil(size.width * scale);
     const double height = std::ceil(size.height * scale);
-    const bool isPossible = size.width > 0.0 && size.height > 0.0 && isWithin(scale, kSmallestScale, kLargestScale) &&
-                            isWithin(width, 1.0, kMostPixels) && isWithin(height, 1.0, kMostPixels);
+    const bool isPossible = isWithin(scale, kSmallestScale, kLargestScale) && isWithin(width, 1.0, kMostPixels) &&
+                            isWithin(height, 1.0, kMostPixels);
     return isPossible ? makePixels(static_cast<int>(width), static_cast<int>(height), scale, scale) : nullptr;
   }
 
