@@ -100,7 +100,7 @@ bool moveInPlace(int descriptor, const std::string& from, const std::string& to,
 // The file is in place by now; should the power fail, this decides only whether it is the old or the new one.
 void syncDirectory(const std::string& directory) {
   const Descriptor opened(open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (opened.isOpen()) retried([&] { return fsync(opened.number()); });
+  retried([&] { return fsync(opened.number()); });
 }
 
 Replaced failed() { return {{}, errorText(errno)}; }
