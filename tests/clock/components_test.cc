@@ -150,6 +150,21 @@ TEST(DateFromComponents, TakesTheNamedFieldsOfNow) {
   }
 }
 
+// The seventh is the first of its weekday in the month, the eighth the second.
+TEST(DateFromComponents, AWeekdaysOrdinalCountsFromTheFirstOfTheMonth) {
+  const WithDefaultZone utc("UTC");
+  constexpr double kDay = 86400.0;
+  constexpr double kNovember2023 = 1698796800.0;
+  for (const int day : {1, 2, 7, 8, 14, 15, 21, 22, 28, 29, 30}) {
+    const double start = kNovember2023 + (day - 1) * kDay;
+    const WithNow now(start + 45000.0);
+    EXPECT_EQ(
+        dateFromComponents(kCalendarUnitYear | kCalendarUnitMonth | kCalendarUnitWeekdayOrdinal | kCalendarUnitWeekday),
+        start)
+        << day;
+  }
+}
+
 TEST(DateFromComponents, TheEraDecidesOnTheYear) {
   const WithDefaultZone utc("UTC");
   struct Case {

@@ -28,6 +28,10 @@ TEST(Weeks, AreCountedByTheLocalesRules) {
       {"Sunday 2023-12-31, Sunday is 1", 19722, kUnitedStates, 2024, 1, 6},
       {"Sunday 2023-11-12, ISO", 19673, kIso, 2023, 45, 2},
       {"Sunday 2023-11-12, Sunday is 1", 19673, kUnitedStates, 2023, 46, 3},
+      {"Thursday 2026-01-01, ISO", 20454, kIso, 2026, 1, 1},
+      {"Monday 2025-12-29, ISO", 20451, kIso, 2026, 1, 5},
+      {"Saturday 2022-01-01, Sunday is 1", 18993, kUnitedStates, 2022, 1, 1},
+      {"Sunday 2022-01-02, Sunday is 1", 18994, kUnitedStates, 2022, 2, 2},
   };
   for (const Case& c : cases) {
     const std::int64_t year = yearOfWeek(c.day, c.rules);

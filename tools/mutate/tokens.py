@@ -39,9 +39,15 @@ def next_index(tokens, text, start):
 
 
 def after_check(tokens, index):
-    """The index after an assertion or a check of a table that begins here; None where neither does."""
+    """The index after an assertion or a check of a table that begins here; None where neither does. Only the compiler
+    throws texts."""
     if tokens[index].text in ("static_assert", "assert"):
         return closing(tokens, index + 1) + 1
+    if tokens[index].text == "if":
+        body = closing(tokens, index + 1) + 1
+        braces = int(tokens[body].text == "{")
+        if tokens[body + braces].text == "throw" and tokens[body + braces + 1].kind == "text":
+            return next_index(tokens, ";", body) + 1 + braces
     if [token.text for token in tokens[index:index + 2]] == ["consteval", "bool"]:
         return closing(tokens, next_index(tokens, "{", index)) + 1
     return None
