@@ -120,6 +120,19 @@ TEST(ChildProcess, ConnectionsMayBeSetUntilTheStart) {
   EXPECT_TRUE(std::holds_alternative<Pipe>(child.configuration().standardOutput));
 }
 
+TEST(ChildProcess, StreamsToNowhereLeadToTheNullDevice) {
+  constexpr const char* kAllAreNull = "for n in 0 1 2; do [ /proc/self/fd/$n -ef /dev/null ] || exit 1; done";
+  ChildProcess child({.executable = "/bin/sh",
+                      .arguments = {"-c", kAllAreNull},
+                      .standardInput = NullStream{},
+                      .standardOutput = NullStream{},
+                      .standardError = NullStream{}});
+  ASSERT_TRUE(child.launch());
+  ASSERT_TRUE(awaitEnd(child.processIdentifier()));
+  EXPECT_FALSE(child.isRunning());
+  EXPECT_EQ(child.exitStatus(), (ExitStatus{ExitStatus::Reason::exited, 0}));
+}
+
 TEST(ChildProcess, ABrokenStandardErrorNeitherEndsTheHostNorSparesTheChild) {
   std::signal(SIGPIPE, SIG_DFL);
   const int saved = ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3);
