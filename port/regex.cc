@@ -90,11 +90,9 @@ const icu::RegexPattern* compiled(std::string_view pattern) {
 }
 
 bool isTooLong(std::string_view text, std::string_view pattern) {
-  if (text.size() > kLongestText || pattern.size() > kLongestPattern) return true;
-  if (text.size() <= kLongestTextForBackReference && pattern.size() <= kAlwaysCompiled) return false;
-  const PatternWork work = workOf(pattern);
-  return (text.size() > kLongestTextForBackReference && work.refersBack) ||
-         (pattern.size() > kAlwaysCompiled && work.setMilliseconds > kLongestSetMilliseconds);
+  return text.size() > kLongestText || pattern.size() > kLongestPattern ||
+         (text.size() > kLongestTextForBackReference && workOf(pattern).refersBack) ||
+         (pattern.size() > kAlwaysCompiled && workOf(pattern).setMilliseconds > kLongestSetMilliseconds);
 }
 
 // The matcher keeps a reference to the text.

@@ -29,6 +29,8 @@ TEST(MeasurementHabits, NamesTheRegionAndTheScale) {
       {"a country is no region override", "en_US@rg=gb", "US", ""},
       {"too long an override", "en_US@rg=gbzzzzz", "US", ""},
       {"no letters in an override", "en_US@rg=12zzzz", "US", ""},
+      {"a letter and a digit in an override", "en_US@rg=g2zzzz", "US", ""},
+      {"a digit and a letter in an override", "en_US@rg=2bzzzz", "US", ""},
       {"an override for a language", "de@rg=uszzzz", "US", ""},
       {"metric", "en_US@measure=metric", "001", ""},
       {"metric where m/s are customary", "sv_SE@measure=metric", "001", ""},

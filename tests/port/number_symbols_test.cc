@@ -31,6 +31,22 @@ TEST(NumberSymbols, KnowTheSizeOfADigit) {
   EXPECT_EQ(numberSymbols("ar_EG").digitBytes, 2U);
 }
 
+TEST(NumberSymbols, KnowWhatFitsAWord) {
+  struct Case {
+    const char* locale;
+    bool takeOneByteEach;
+    int separatorsInWord;
+  };
+  constexpr Case kCases[] = {
+      {"en_US", true, 1}, {"de_DE", true, 1}, {"de_CH", true, 0}, {"fr_FR", true, 0}, {"ar_EG", false, 0},
+  };
+  for (const Case& c : kCases) {
+    const NumberSymbols symbols = numberSymbols(c.locale);
+    EXPECT_EQ(symbols.takeOneByteEach, c.takeOneByteEach) << c.locale;
+    EXPECT_EQ(symbols.separatorsInWord, c.separatorsInWord) << c.locale;
+  }
+}
+
 TEST(NumberSymbols, HaveWordsForWhatIsNoFiniteNumber) {
   EXPECT_EQ(numberSymbols("en_US").notANumber, "NaN");
   EXPECT_EQ(numberSymbols("ru_RU").notANumber, "не\u00A0число");

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "port/canonical_locale.h"
+
 namespace kzm::port {
 namespace {
 
@@ -26,7 +28,14 @@ TEST(PosixVariant, IsThereForWellFormedIdentifiersWithoutKeywords) {
   for (const Case& c : cases) EXPECT_EQ(takesPosixVariant(c.identifier), c.takes) << c.why;
 }
 
-TEST(PosixVariant, IsNotThereForWhatIcuCutsOff) { EXPECT_FALSE(takesPosixVariant("de_" + std::string(200, 'x'))); }
+TEST(PosixVariant, IsNotThereForWhatIcuCutsOff) {
+  std::string identifier = "de_CH";
+  while (identifier.size() + 9 <= kLongestIdentifier) identifier += "_VARIANTS";
+  identifier += "_" + std::string(kLongestIdentifier - identifier.size() - 1, 'V');
+  EXPECT_TRUE(takesPosixVariant(identifier)) << identifier;
+  EXPECT_FALSE(takesPosixVariant(identifier + "V"));
+  EXPECT_FALSE(takesPosixVariant("de_" + std::string(200, 'x')));
+}
 
 }  // namespace
 }  // namespace kzm::port
