@@ -182,7 +182,7 @@ inline constexpr std::array<std::uint16_t, 100> kDigitPairs = [] {
   return eight >> 8 * (8 - count);
 }
 
-/// The word with one more byte, so many bytes from its start.
+/// The word with one more byte, after the given number of its bytes.
 [[nodiscard, gnu::always_inline]] inline std::uint64_t withByteAt(int place, char byte, std::uint64_t word) noexcept {
   const std::uint64_t before = (std::uint64_t{1} << 8 * place) - 1;
   return (word & before) | std::uint64_t{static_cast<unsigned char>(byte)} << 8 * place | (word & ~before) << 8;

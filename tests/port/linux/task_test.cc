@@ -1,4 +1,4 @@
-// The start of a program on a kernel that has no descriptors for processes, and how an ended one is told.
+// The start of a program on a kernel that has no descriptors for processes, and what one that has ended reports.
 #include "port/task.h"
 
 #include <cerrno>
