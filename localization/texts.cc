@@ -25,7 +25,7 @@ std::uint64_t hashOf(std::string_view key) noexcept {
   const std::size_t count = std::min(key.size(), sizeof end);
   if (count == sizeof end) {
     std::memcpy(&end, key.data() + key.size() - sizeof end, sizeof end);
-  } else {
+  } else if (count > 0) {  // an empty key may be no text at all
     std::memcpy(&end, key.data(), count);
   }
   return (end ^ key.size()) * 0x9E3779B97F4A7C15U >> 32U;

@@ -45,8 +45,9 @@ def after_check(tokens, index):
         return closing(tokens, index + 1) + 1
     if tokens[index].text == "if":
         body = closing(tokens, index + 1) + 1
-        braces = int(tokens[body].text == "{")
-        if tokens[body + braces].text == "throw" and tokens[body + braces + 1].kind == "text":
+        braces = int([token.text for token in tokens[body:body + 1]] == ["{"])
+        thrown = tokens[body + braces:body + braces + 2]
+        if len(thrown) == 2 and thrown[0].text == "throw" and thrown[1].kind == "text":
             return next_index(tokens, ";", body) + 1 + braces
     if [token.text for token in tokens[index:index + 2]] == ["consteval", "bool"]:
         return closing(tokens, next_index(tokens, "{", index)) + 1
