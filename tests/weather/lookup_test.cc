@@ -20,14 +20,14 @@ using kzm::tests::Lookup;
 
 std::mutex ownLock;
 std::vector<Lookup> lookups;
-bool asksBack = false;
+std::atomic<bool> asksBack{false};
 
 }  // namespace
 
 std::string KZMLocalizedStringFromTableInBundle(std::string_view key, std::string_view table,
                                                 const kzm::ResourceBundle* bundle, const char* comment) {
   std::string text(key.substr(key.rfind('.') + 1));
-  if (std::exchange(asksBack, false)) text += " of " + KZMUtilitiesFormatWeatherDays(2.0);
+  if (asksBack.exchange(false)) text += " of " + KZMUtilitiesFormatWeatherDays(2.0);
   const std::lock_guard lock(ownLock);
   lookups.emplace_back(key, table, bundle, comment);
   return text;
